@@ -1,0 +1,199 @@
+// Parsing a file safely: start-up of Xerces, reading the bytes, options, limits,
+// and what is left after a failure.
+#include "common/XmlParser.h"
+
+#include "common/XmlLimits.h"
+#include "common/XmlRead.h"
+
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/sax/ErrorHandler.hpp>
+#include <xercesc/sax/SAXParseException.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+using namespace xercesc;
+
+namespace
+{
+// Keeps the place and text of the first fatal error instead of throwing it.
+class CFirstError : public ErrorHandler
+{
+public:
+    explicit CFirstError(std::string& strProblem) : m_strProblem(strProblem) {}
+
+    void warning(const SAXParseException& /*oProblem*/) override {}
+    void error(const SAXParseException& /*oProblem*/) override {}
+    void fatalError(const SAXParseException& oProblem) override
+    {
+        if (m_strProblem.empty())
+            m_strProblem = "line " + std::to_string(oProblem.getLineNumber()) + ", column " +
+                           std::to_string(oProblem.getColumnNumber()) + ": " + toLocal(oProblem.getMessage());
+    }
+    void resetErrors() override {}
+
+private:
+    std::string& m_strProblem;
+};
+
+class CEntityLimit : public SecurityManager
+{
+public:
+    CEntityLimit() { setEntityExpansionLimit(XmlLimits::MAX_ENTITY_EXPANSION); }
+};
+
+// Keeps one initialisation of Xerces for the life of the process: the alarm
+// dictionaries hold parsers until exit, and Terminate is not safe against
+// another thread's parser.
+bool initialiseXerces()
+{
+    static std::mutex          s_oMutex;
+    static bool                s_bDone = false;
+    std::lock_guard<std::mutex> oGuard(s_oMutex);
+    if (s_bDone)
+        return true;
+    try
+    {
+        XMLPlatformUtils::Initialize();
+        s_bDone = true;
+    }
+    catch (const XMLException&)
+    {
+        return false;
+    }
+    return true;
+}
+
+std::string errnoText(int nErrno)
+{
+    return std::generic_category().message(nErrno);
+}
+
+// Closes a file descriptor on every path.
+class CFile
+{
+public:
+    // Never waits: a pipe opens at once and is then refused.
+    explicit CFile(const std::string& strPath) : m_nFd(::open(strPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
+    ~CFile()
+    {
+        if (m_nFd >= 0)
+            ::close(m_nFd);
+    }
+    CFile(const CFile&)            = delete;
+    CFile& operator=(const CFile&) = delete;
+
+    // Reads the whole file; returns why it could not, or an empty text.
+    std::string read(std::string& strBytes) const
+    {
+        struct stat stStatus = {};
+        if (m_nFd < 0 || ::fstat(m_nFd, &stStatus) != 0)
+            return errnoText(errno);
+        if (!S_ISREG(stStatus.st_mode))
+            return "not a regular file";
+        if (static_cast<std::size_t>(stStatus.st_size) > XmlLimits::MAX_FILE_BYTES)
+            return "the file is larger than " + std::to_string(XmlLimits::MAX_FILE_BYTES >> 20) + " MB";
+        strBytes.resize(static_cast<std::size_t>(stStatus.st_size));
+        std::size_t nRead = 0;
+        while (nRead < strBytes.size())
+        {
+            const ssize_t nChunk = ::read(m_nFd, strBytes.data() + nRead, strBytes.size() - nRead);
+            if (nChunk < 0 && errno == EINTR)
+                continue;
+            if (nChunk < 0)
+                return errnoText(errno);
+            if (nChunk == 0)
+                return "the file became shorter while it was read";
+            nRead += static_cast<std::size_t>(nChunk);
+        }
+        return {};
+    }
+
+private:
+    int m_nFd;
+};
+} // namespace
+
+std::unique_ptr<CXmlParser> CXmlParser::create()
+{
+    if (!initialiseXerces())
+        return nullptr;
+    return std::unique_ptr<CXmlParser>(new CXmlParser());
+}
+
+CXmlParser::CXmlParser()
+{
+    static CEntityLimit s_oEntityLimit; // every parser only reads it
+    setSecurityManager(&s_oEntityLimit);
+    setDisableDefaultEntityResolution(true);
+}
+
+void CXmlParser::refuse(std::string strProblem)
+{
+    m_mapElements.clear();
+    resetDocumentPool();
+    m_strProblem = std::move(strProblem);
+}
+
+void CXmlParser::parseFile(const std::string& strPath)
+{
+    std::string strBytes;
+    std::string strProblem = CFile(strPath).read(strBytes);
+    if (!strProblem.empty())
+        return refuse(std::move(strProblem));
+    parseText(strBytes);
+}
+
+void CXmlParser::parseText(std::string_view strXml)
+{
+    refuse({});
+    std::string strProblem;
+    try
+    {
+        CFirstError oFirstError(strProblem);
+        setErrorHandler(&oFirstError);
+        const MemBufInputSource oSource(reinterpret_cast<const XMLByte*>(strXml.data()), strXml.size(), u"file");
+        parse(oSource);
+        if (strProblem.empty() && getErrorCount() != 0)
+            strProblem = "the parser reported an error";
+        else if (strProblem.empty() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
+            strProblem = "the document has no root element";
+        else if (strProblem.empty())
+            strProblem = walkWithinLimits(*getDocument(), [this](const DOMElement& oElement)
+                                          { m_mapElements[oElement.getTagName()].push_back(&oElement); });
+    }
+    catch (const OutOfMemoryException&)
+    {
+        strProblem = "out of memory";
+    }
+    catch (const XMLException& oProblem)
+    {
+        strProblem = toLocal(oProblem.getMessage());
+    }
+    catch (const DOMException& oProblem)
+    {
+        strProblem = toLocal(oProblem.getMessage());
+    }
+    catch (const SAXException& oProblem)
+    {
+        strProblem = toLocal(oProblem.getMessage());
+    }
+    setErrorHandler(nullptr);
+    if (!strProblem.empty())
+        refuse(std::move(strProblem));
+}
+
+const ElementList& CXmlParser::elements(const char16_t* pszName) const
+{
+    static const ElementList s_lstNone;
+    const auto               itFound = m_mapElements.find(pszName);
+    return itFound == m_mapElements.end() ? s_lstNone : itFound->second;
+}

@@ -1,0 +1,58 @@
+// CXmlParser: the one way this library parses an XML file into a DOM document.
+// It adds to XercesDOMParser what every reader here relies on:
+// - after a parse getDocument() answers the whole document or null, never the
+//   partial one that Xerces keeps after a fatal error;
+// - nothing is fetched from outside the file, and entity expansion, size and
+//   nesting are limited (XmlLimits.h), so no file exhausts the server;
+// - no exception leaves it;
+// - the elements of the document are indexed by name once, since every section
+//   asks the whole document for its own.
+// A parser and its document belong to one thread. Nothing here is logged.
+#ifndef OPERATIONXML_COMMON_XMLPARSER_H
+#define OPERATIONXML_COMMON_XMLPARSER_H
+
+#include "platform/Export.h"
+
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+using ElementList = std::vector<const xercesc::DOMElement*>;
+
+class OPERATIONXML_API CXmlParser : public xercesc::XercesDOMParser
+{
+public:
+    // A new parser, or null when Xerces cannot be initialised. Initialises
+    // Xerces on first use and never terminates it again, so a host process may
+    // initialise and terminate it for itself at any time.
+    static std::unique_ptr<CXmlParser> create();
+
+    // Parses the file; the document of an earlier parse dies. A path that is no
+    // regular file, cannot be read, is no well-formed XML or passes a limit
+    // leaves no document, and problem() says why.
+    void parseFile(const std::string& strPath);
+
+    // The same for a document held in memory.
+    void parseText(std::string_view strXml);
+
+    // Why there is no document ("line 12, column 7: ..."); empty after a good parse.
+    const std::string& problem() const { return m_strProblem; }
+
+    // All elements of the document with this tag name, in document order.
+    const ElementList& elements(const char16_t* pszName) const;
+
+private:
+    CXmlParser();
+
+    void refuse(std::string strProblem);
+
+    std::unordered_map<std::u16string_view, ElementList> m_mapElements; // names are the document's own
+    std::string                                          m_strProblem;
+};
+
+#endif

@@ -1,0 +1,15 @@
+// Code page conversion of the platform.
+#ifndef OPERATIONXML_PLATFORM_CODEPAGE_H
+#define OPERATIONXML_PLATFORM_CODEPAGE_H
+
+#include "platform/Export.h"
+
+#include <string>
+
+namespace kIVOGlobalUtils
+{
+// A text of the server's local code page, in UTF-8.
+OPERATIONXML_PLATFORM_API std::string LOCTOUTF8(const std::string& strLocal);
+} // namespace kIVOGlobalUtils
+
+#endif

@@ -1,0 +1,29 @@
+// Opening a server root: the folder whose inventory (server.db or server.sql)
+// answers for the platform when the library runs outside the server.
+// One root is open at a time. It is read whole into memory before any of it is
+// put to use, so a bad inventory leaves what was open before untouched. Open a
+// root before the first use of the library and not while other threads use it;
+// the services themselves only read and may be called from any thread.
+#ifndef OPERATIONXML_STANDALONE_SERVERROOT_H
+#define OPERATIONXML_STANDALONE_SERVERROOT_H
+
+#include "platform/Export.h"
+
+#include <cstdint>
+#include <string>
+
+namespace standalone
+{
+// Codes that the stand-alone services answer with beside 0.
+constexpr std::uint32_t RESULT_NOT_IN_INVENTORY = 0x3B0F0001; // no row for what was asked
+constexpr std::uint32_t RESULT_NO_ROOT          = 0x3B0F0002; // no server root is open
+
+// Opens the root at the folder. On failure returns false and puts one message
+// into strError that names the file and, where one failed, the statement.
+OPERATIONXML_PLATFORM_API bool openServerRoot(const std::string& strFolder, std::string& strError);
+
+// Closes the root; every service then answers as if its inventory were empty.
+OPERATIONXML_PLATFORM_API void closeServerRoot();
+} // namespace standalone
+
+#endif
