@@ -14,11 +14,12 @@ using namespace xercesc;
 struct StOperSection
 {
     const char16_t* pszElement;
-    const char*     pszNoParser;
-    const char*     pszNoInput;
-    const char*     pszNoElements;
-    bool            bReadsCancelable;
-    std::uint32_t (CDevOpXMLConfig::*pfnFill)(const DOMElement*, std::list<StAsnOperation>*); // logs under its own name
+    const char* pszNoParser;
+    const char* pszNoInput;
+    const char* pszNoElements;
+    bool bReadsCancelable;
+    std::uint32_t (CDevOpXMLConfig::*pfnFill)(const DOMElement*,
+                                              std::list<StAsnOperation>*);    // logs under its own name
 };
 
 namespace
@@ -46,7 +47,7 @@ constexpr StOperSection PATCH_SECTION = {
     "CDevOpXMLConfig::setPatchOperXMLConfig() pDOMParser is NULL :",
     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
     "DOMElement::getElementsByTagName failed.",
-    false, // never reads "isCancelable"
+    false,    // never reads "isCancelable"
     &CDevOpXMLConfig::fillPatchOperInfo,
 };
 
@@ -55,14 +56,14 @@ bool isProgramFile(const StAsnOptionInfo& stOption)
 {
     return stOption.strId == "PROGFILE" && stOption.ulValue == 15;
 }
-} // namespace
+}    // namespace
 
 std::uint32_t CDevOpXMLConfig::setDevOperXMLConfig(XercesDOMParser* pDOMParser, std::list<StAsnOperation>* pLstOut)
 {
     return setOperations(DC_HERE, DEVICE_SECTION, pDOMParser, pLstOut);
 }
 
-std::uint32_t CDevOpXMLConfig::setTaskOperationXMLConfig(XercesDOMParser*           pDOMParser,
+std::uint32_t CDevOpXMLConfig::setTaskOperationXMLConfig(XercesDOMParser* pDOMParser,
                                                          std::list<StAsnOperation>* pLstOut)
 {
     return setOperations(DC_HERE, TASK_SECTION, pDOMParser, pLstOut);
@@ -112,12 +113,12 @@ std::uint32_t CDevOpXMLConfig::fillOperations(const LocationInfo& stWhere, const
     for (const DOMElement& oOperation : oOperations)
     {
         StAsnOperation& stOper = pLstOut->emplace_back();
-        stOper.strId           = attrText(oOperation, u"id");
-        stOper.enOperationLevel =
-            wordValue(attrText(oOperation, u"operationLevel"), OPERATION_LEVEL_WORDS, DCAsn1ClientToServer::DeviceLevel);
+        stOper.strId = attrText(oOperation, u"id");
+        stOper.enOperationLevel = wordValue(attrText(oOperation, u"operationLevel"), OPERATION_LEVEL_WORDS,
+                                            DCAsn1ClientToServer::DeviceLevel);
         if (stSection.bReadsCancelable)
             stOper.bIsCancelable = attrFlag(oOperation, u"isCancelable");
-        fillOperParaInfo(&oOperation, stOper.lstParam); // a bad parameter never stops its siblings
+        fillOperParaInfo(&oOperation, stOper.lstParam);    // a bad parameter never stops its siblings
     }
     return DC_RESULT_OK;
 }
@@ -130,11 +131,11 @@ std::uint32_t CDevOpXMLConfig::fillOperParaInfo(const DOMElement* pOperation, st
     for (const DOMElement& oParameter : oParameters)
     {
         StAsnOperParamDef& stParam = lstOut.emplace_back();
-        stParam.bIsRequired        = attrFlag(oParameter, u"isRequired");
-        stParam.strId              = attrText(oParameter, u"id");
-        stParam.strValue           = attrText(oParameter, u"value");
-        stParam.strSelected        = attrText(oParameter, u"selected");
-        fillOperOptionInfo(&oParameter, stParam.lstOption); // a bad option never stops its siblings
+        stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
+        stParam.strId = attrText(oParameter, u"id");
+        stParam.strValue = attrText(oParameter, u"value");
+        stParam.strSelected = attrText(oParameter, u"selected");
+        fillOperOptionInfo(&oParameter, stParam.lstOption);    // a bad option never stops its siblings
     }
     return DC_RESULT_OK;
 }
@@ -147,8 +148,8 @@ std::uint32_t CDevOpXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, 
     for (const DOMElement& oOption : oOptions)
     {
         StAsnOptionInfo stOption;
-        stOption.strId     = attrText(oOption, u"id");
-        stOption.ulValue   = attrNumber(oOption, u"value");
+        stOption.strId = attrText(oOption, u"id");
+        stOption.ulValue = attrNumber(oOption, u"value");
         stOption.strTarget = attrText(oOption, u"target");
         if (!isProgramFile(stOption) || isBackupProgramEnable())
             lstOut.push_back(std::move(stOption));
@@ -158,7 +159,7 @@ std::uint32_t CDevOpXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, 
 
 bool CDevOpXMLConfig::isBackupProgramEnable()
 {
-    std::string         strValue;
+    std::string strValue;
     const std::uint32_t ulResult = CSysCommonFunc::readResourceFile("BACKUP_PROGRAM_SUPPORT", strValue);
     if (ulResult != DC_RESULT_OK)
     {
