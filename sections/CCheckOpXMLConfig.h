@@ -12,24 +12,24 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
-enum EnCheckReportType : std::int32_t;    // platform/DeviceAdapter.h
+enum EnCheckReportType : std::int32_t; // platform/DeviceAdapter.h
 
 class OPERATIONXML_API CCheckOpXMLConfig
 {
 public:
     // Reads every "CheckOperations" section. The records carry no task type (-1).
-    std::uint32_t setCheckOpConfiguration(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setCheckOpConfiguration(xercesc::XercesDOMParser*          pDOMParser,
                                           std::list<StAsnCheckOperationDef>* pLstOut);
 
     // Reads a telnet check file: one record for each "PreCheck" and "PostCheck" of
     // each task type, named after the element. The report type says how the
     // results come back from a device; nothing in the records depends on it.
-    std::uint32_t setCheckOpConfigurationTelnet(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setCheckOpConfigurationTelnet(xercesc::XercesDOMParser*          pDOMParser,
                                                 std::list<StAsnCheckOperationDef>* pLstOut,
-                                                EnCheckReportType enReportType);
+                                                EnCheckReportType                  enReportType);
 
     // Reads a fixed check file: one record for each "Operation" of each task type.
-    std::uint32_t setFixedCheckOpConfiguration(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setFixedCheckOpConfiguration(xercesc::XercesDOMParser*          pDOMParser,
                                                std::list<StAsnCheckOperationDef>* pLstOut);
 
     // Reads the operations of one "CheckOperations" section.

@@ -15,7 +15,7 @@ class OPERATIONXML_API CCustomOpXMLConfig
 public:
     // Reads every section. DC_RESULT_XML_ERROR for a null parser or no document;
     // a null list is logged once for each section and still answers 0.
-    std::uint32_t setCustomOperXMLConfig(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setCustomOperXMLConfig(xercesc::XercesDOMParser*           pDOMParser,
                                          std::list<StAsnCustomOperationDef>* pLstOut);
 
     // Reads the operations of one section; records with equal ids are all kept.

@@ -1,12 +1,10 @@
 // The three operation sections differ in a row of a table, not in a copy.
 #include "sections/CDevOpXMLConfig.h"
 
-#include "common/LogLine.h"
-#include "common/XmlRead.h"
 #include "platform/Settings.h"
-#include "records/WordTables.h"
-
-#include <utility>
+#include "sections/CTaskXMLConfig.h"
+#include "sections/ItemRead.h"
+#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
@@ -14,12 +12,12 @@ using namespace xercesc;
 struct StOperSection
 {
     const char16_t* pszElement;
-    const char* pszNoParser;
-    const char* pszNoInput;
-    const char* pszNoElements;
-    bool bReadsCancelable;
+    const char*     pszNoParser;
+    const char*     pszNoInput;
+    const char*     pszNoElements;
+    bool            bReadsCancelable;
     std::uint32_t (CDevOpXMLConfig::*pfnFill)(const DOMElement*,
-                                              std::list<StAsnOperation>*);    // logs under its own name
+                                              std::list<StAsnOperation>*); // logs under its own name
 };
 
 namespace
@@ -47,23 +45,37 @@ constexpr StOperSection PATCH_SECTION = {
     "CDevOpXMLConfig::setPatchOperXMLConfig() pDOMParser is NULL :",
     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
     "DOMElement::getElementsByTagName failed.",
-    false,    // never reads "isCancelable"
+    false, // never reads "isCancelable"
     &CDevOpXMLConfig::fillPatchOperInfo,
 };
+
+// The steps and features of a task type without parameters. Lookups below an
+// element fail for all names or for none, and the caller has made one.
+void fillTaskConfigBlock(const DOMElement& oTaskType, StAsnTaskConfigOperation& stBlock)
+{
+    CTaskXMLConfig  oTaskConfig;
+    const CElements oOperations(&oTaskType, u"Operation");
+    for (const DOMElement& oOperation : oOperations)
+        oTaskConfig.fillTaskOperInfo(&oOperation, stBlock.lstTaskOperationDef);
+    if (oOperations.isEmpty())
+        oTaskConfig.fillTaskOperInfo(&oTaskType, stBlock.lstTaskOperationDef);
+    for (const DOMElement& oFeatures : CElements(&oTaskType, u"TaskFeatureConfiguration"))
+        oTaskConfig.fillTaskFeatureConfigInfo(&oFeatures, stBlock.lstOtherOperationDef);
+}
 
 // The options of the program file are offered only where the server backs it up.
 bool isProgramFile(const StAsnOptionInfo& stOption)
 {
     return stOption.strId == "PROGFILE" && stOption.ulValue == 15;
 }
-}    // namespace
+} // namespace
 
 std::uint32_t CDevOpXMLConfig::setDevOperXMLConfig(XercesDOMParser* pDOMParser, std::list<StAsnOperation>* pLstOut)
 {
     return setOperations(DC_HERE, DEVICE_SECTION, pDOMParser, pLstOut);
 }
 
-std::uint32_t CDevOpXMLConfig::setTaskOperationXMLConfig(XercesDOMParser* pDOMParser,
+std::uint32_t CDevOpXMLConfig::setTaskOperationXMLConfig(XercesDOMParser*           pDOMParser,
                                                          std::list<StAsnOperation>* pLstOut)
 {
     return setOperations(DC_HERE, TASK_SECTION, pDOMParser, pLstOut);
@@ -77,14 +89,10 @@ std::uint32_t CDevOpXMLConfig::setPatchOperXMLConfig(XercesDOMParser* pDOMParser
 std::uint32_t CDevOpXMLConfig::setOperations(const LocationInfo& stWhere, const StOperSection& stSection,
                                              XercesDOMParser* pDOMParser, std::list<StAsnOperation>* pLstOut)
 {
-    const _TraceFunction oTrace(stWhere);
-    if (pDOMParser == nullptr)
-        return logFail(stWhere, DC_RESULT_XML_ERROR, stSection.pszNoParser);
-    if (documentOf(pDOMParser) == nullptr)
-        return logFail(stWhere, DC_RESULT_XML_ERROR, "XercesDOMParser::getDocument failed :");
-    for (const DOMElement* pSection : documentElements(*pDOMParser, stSection.pszElement))
-        (this->*stSection.pfnFill)(pSection, pLstOut);
-    return DC_RESULT_OK;
+    const StSection stEntry = {stSection.pszElement, stSection.pszNoParser, nullptr,
+                               "XercesDOMParser::getDocument failed :"};
+    return readSections(stWhere, stEntry, pDOMParser, pLstOut,
+                        [&](const DOMElement& oSection) { (this->*stSection.pfnFill)(&oSection, pLstOut); });
 }
 
 std::uint32_t CDevOpXMLConfig::fillDevOperInfo(const DOMElement* pSection, std::list<StAsnOperation>* pLstOut)
@@ -107,59 +115,69 @@ std::uint32_t CDevOpXMLConfig::fillOperations(const LocationInfo& stWhere, const
 {
     if (pSection == nullptr || pLstOut == nullptr)
         return logFail(stWhere, DC_RESULT_XML_ERROR, stSection.pszNoInput);
-    const CElements oOperations(pSection, u"Operation");
-    if (oOperations.isMissing())
-        return logFail(stWhere, DC_RESULT_XML_ERROR, stSection.pszNoElements);
-    for (const DOMElement& oOperation : oOperations)
-    {
-        StAsnOperation& stOper = pLstOut->emplace_back();
-        stOper.strId = attrText(oOperation, u"id");
-        stOper.enOperationLevel = wordValue(attrText(oOperation, u"operationLevel"), OPERATION_LEVEL_WORDS,
-                                            DCAsn1ClientToServer::DeviceLevel);
-        if (stSection.bReadsCancelable)
-            stOper.bIsCancelable = attrFlag(oOperation, u"isCancelable");
-        fillOperParaInfo(&oOperation, stOper.lstParam);    // a bad parameter never stops its siblings
-    }
-    return DC_RESULT_OK;
+    return readRecords(stWhere, CElements(pSection, u"Operation"), stSection.pszNoElements, pLstOut,
+                       [&](const DOMElement& oOperation, StAsnOperation& stOper)
+                       {
+                           stOper.strId            = attrText(oOperation, u"id");
+                           stOper.enOperationLevel = readLevel(oOperation);
+                           if (stSection.bReadsCancelable)
+                               stOper.bIsCancelable = attrFlag(oOperation, u"isCancelable");
+                           fillOperParaInfo(&oOperation, stOper.lstParam); // a bad parameter never stops its siblings
+                       });
 }
 
 std::uint32_t CDevOpXMLConfig::fillOperParaInfo(const DOMElement* pOperation, std::list<StAsnOperParamDef>& lstOut)
 {
-    const CElements oParameters(pOperation, u"Parameter");
-    if (oParameters.isMissing())
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    for (const DOMElement& oParameter : oParameters)
-    {
-        StAsnOperParamDef& stParam = lstOut.emplace_back();
-        stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
-        stParam.strId = attrText(oParameter, u"id");
-        stParam.strValue = attrText(oParameter, u"value");
-        stParam.strSelected = attrText(oParameter, u"selected");
-        fillOperOptionInfo(&oParameter, stParam.lstOption);    // a bad option never stops its siblings
-    }
-    return DC_RESULT_OK;
+    return readRecords(DC_HERE, CElements(pOperation, u"Parameter"),
+                       "DOMElement::getElementsByTagName failed :", &lstOut,
+                       [this](const DOMElement& oParameter, StAsnOperParamDef& stParam)
+                       {
+                           stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
+                           stParam.strId       = attrText(oParameter, u"id");
+                           stParam.strValue    = attrText(oParameter, u"value");
+                           stParam.strSelected = attrText(oParameter, u"selected");
+                           fillOperOptionInfo(&oParameter, stParam.lstOption); // nor does a bad option
+                       });
 }
 
 std::uint32_t CDevOpXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut)
 {
-    const CElements oOptions = optionElements(pParameter);
-    if (oOptions.isMissing())
+    return readRecords(DC_HERE, optionElements(pParameter), "DOMElement::getElementsByTagName failed :", &lstOut,
+                       [](const DOMElement& oOption, StAsnOptionInfo& stOption)
+                       {
+                           readOption(oOption, stOption);
+                           stOption.strTarget = attrText(oOption, u"target");
+                           return !isProgramFile(stOption) || isBackupProgramEnable();
+                       });
+}
+
+std::uint32_t CDevOpXMLConfig::fillTaskConfigInfoOperation(const DOMElement*                    pTaskType,
+                                                           std::list<StAsnTaskConfigOperation>& lstOut)
+{
+    const CElements oParameters(pTaskType, u"Parameter");
+    if (oParameters.isMissing())
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    for (const DOMElement& oOption : oOptions)
+    if (oParameters.isEmpty())
     {
-        StAsnOptionInfo stOption;
-        stOption.strId = attrText(oOption, u"id");
-        stOption.ulValue = attrNumber(oOption, u"value");
-        stOption.strTarget = attrText(oOption, u"target");
-        if (!isProgramFile(stOption) || isBackupProgramEnable())
-            lstOut.push_back(std::move(stOption));
+        fillTaskConfigBlock(*pTaskType, lstOut.emplace_back());
+        return DC_RESULT_OK;
+    }
+    for (const DOMElement& oParameter : oParameters)
+    {
+        StAsnTaskConfigOperation& stParam = lstOut.emplace_back();
+        stParam.bIsRequired               = attrFlag(oParameter, u"isRequired");
+        stParam.strId                     = attrText(oParameter, u"id");
+        stParam.strValue                  = attrText(oParameter, u"value");
+        fillOperOptionInfo(&oParameter, stParam.lstOption);
+        // No features here: a task type with parameters carries no feature list.
+        CTaskXMLConfig().fillTaskOperInfo(&oParameter, stParam.lstTaskOperationDef);
     }
     return DC_RESULT_OK;
 }
 
 bool CDevOpXMLConfig::isBackupProgramEnable()
 {
-    std::string strValue;
+    std::string         strValue;
     const std::uint32_t ulResult = CSysCommonFunc::readResourceFile("BACKUP_PROGRAM_SUPPORT", strValue);
     if (ulResult != DC_RESULT_OK)
     {

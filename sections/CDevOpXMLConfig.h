@@ -40,6 +40,12 @@ public:
     // no "Option". The program-file option is kept while isBackupProgramEnable().
     std::uint32_t fillOperOptionInfo(const xercesc::DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut);
 
+    // Reads what stands below one "TaskType": a record for each "Parameter", or,
+    // when it has none, one record with its steps and features. "selected" is in
+    // neither.
+    std::uint32_t fillTaskConfigInfoOperation(const xercesc::DOMElement*           pTaskType,
+                                              std::list<StAsnTaskConfigOperation>& lstOut);
+
     // Whether the server's resource "BACKUP_PROGRAM_SUPPORT" is 1. Asked afresh
     // each time; a resource that cannot be read is logged and answers false.
     static bool isBackupProgramEnable();

@@ -15,7 +15,7 @@ class OPERATIONXML_API CIsolationViewPopupMenuConfig
 {
 public:
     // Reads every "DeviceViewPopupMenu" element of the document.
-    std::uint32_t setIsolationViewPopupMenuConfig(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setIsolationViewPopupMenuConfig(xercesc::XercesDOMParser*  pDOMParser,
                                                   std::list<StAsnMenuOpDef>* pLstOut);
 
     // Reads the "Item" elements of one menu with the isolation view's own three

@@ -16,7 +16,7 @@ class OPERATIONXML_API COtherOpXMLConfig
 public:
     // Reads every entry; entries with equal ids are all kept. DC_RESULT_INVALID_PARA
     // for a null argument, DC_RESULT_XML_ERROR for no document.
-    std::uint32_t setOtherOperXMLConfig(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setOtherOperXMLConfig(xercesc::XercesDOMParser*          pDOMParser,
                                         std::list<StAsnOtherOperationDef>* pLstOut);
 
     // Whether the entry of this id would be left out under the server's in-service

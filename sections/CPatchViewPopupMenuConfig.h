@@ -15,7 +15,7 @@ class OPERATIONXML_API CPatchViewPopupMenuConfig
 {
 public:
     // Reads every section. DC_RESULT_XML_ERROR for a null argument or no document.
-    std::uint32_t setPatchViewPopupMenuConfig(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setPatchViewPopupMenuConfig(xercesc::XercesDOMParser*         pDOMParser,
                                               std::list<StAsnPatchTypeMenuDef>* pLstOut);
 
     // Read the patches of one section, and the items of one patch.

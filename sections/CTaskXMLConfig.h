@@ -18,13 +18,13 @@ class OPERATIONXML_API CTaskXMLConfig
 public:
     // Reads every task type of the document; one whose id the task configuration
     // does not know is left out. A null parser counts as no document.
-    std::uint32_t setTaskConfiguration(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setTaskConfiguration(xercesc::XercesDOMParser*                pDOMParser,
                                        std::list<StAsnTaskConfigInfoOperation>* pLstOut);
 
     // Read the "TaskConfigOper" elements (steps) and the "Configuration" elements
     // (features) below an element.
     std::uint32_t fillTaskOperInfo(const xercesc::DOMElement* pElement, std::list<StAsnTaskOperationDef>& lstOut);
-    std::uint32_t fillTaskFeatureConfigInfo(const xercesc::DOMElement* pElement,
+    std::uint32_t fillTaskFeatureConfigInfo(const xercesc::DOMElement*         pElement,
                                             std::list<StAsnOtherOperationDef>& lstOut);
 };
 

@@ -15,12 +15,12 @@ class OPERATIONXML_API CUpgradeOpXMLConfig
 {
 public:
     // Reads every section; 0 also when there is none.
-    std::uint32_t setUpgradeOperXMLConfig(xercesc::XercesDOMParser* pDOMParser,
+    std::uint32_t setUpgradeOperXMLConfig(xercesc::XercesDOMParser*            pDOMParser,
                                           std::list<StAsnUpgradeOperationDef>* pLstOut);
 
     // Reads the operations of one section. One whose content cannot be looked up
     // is dropped, and its siblings are read all the same.
-    std::uint32_t fillUpgradeOperInfo(const xercesc::DOMElement* pSection,
+    std::uint32_t fillUpgradeOperInfo(const xercesc::DOMElement*           pSection,
                                       std::list<StAsnUpgradeOperationDef>* pLstOut);
 
     // Read the sub-operations of one operation, the parameters of one

@@ -17,10 +17,10 @@
 struct StSection
 {
     const char16_t* pszElement;
-    const char* pszNoParser;    // null: a missing parser is a missing document
-    const char* pszNoList;      // null: the reader of one section answers for its list
-    const char* pszNoDocument;
-    std::uint32_t ulNoArgument = DC_RESULT_XML_ERROR;    // code of the first two
+    const char*     pszNoParser; // null: a missing parser is a missing document
+    const char*     pszNoList;   // null: the reader of one section answers for its list
+    const char*     pszNoDocument;
+    std::uint32_t   ulNoArgument = DC_RESULT_XML_ERROR; // code of the first two
 };
 
 // Calls fnFill for every element of the section's name, in document order; what
@@ -42,7 +42,7 @@ std::uint32_t readRecords(const LocationInfo& stWhere, const CElements& oElement
     for (const xercesc::DOMElement& oElement : oElements)
     {
         Record stRecord;
-        bool bKeep = true;
+        bool   bKeep = true;
         if constexpr (std::is_same_v<std::invoke_result_t<Read, decltype(oElement), Record&>, bool>)
             bKeep = fnRead(oElement, stRecord);
         else
