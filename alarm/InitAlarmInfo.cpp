@@ -1,0 +1,100 @@
+// The alarm explanation dictionary: one "record" element is one alarm.
+#include "alarm/InitAlarmInfo.h"
+
+#include "common/LogLine.h"
+#include "common/XmlRead.h"
+
+#include <utility>
+
+using namespace xercesc;
+
+namespace
+{
+constexpr const char* DC_SOURCE = "InitAlarmInfo";
+
+// One string of the right size: a table holds tens of thousands of alarms.
+std::string loadLine(const AlarmStaticInfo& stAlarm)
+{
+    std::string strLine;
+    strLine.reserve(80 + stAlarm.strAlarmName.size() + stAlarm.strExplain.size());
+    strLine.append("alarm.alarmId:").append(std::to_string(stAlarm.ulAlarmId));
+    strLine.append(" alarm.alarmName ").append(stAlarm.strAlarmName);
+    strLine.append(" alarm.explain ").append(stAlarm.strExplain);
+    return strLine;
+}
+} // namespace
+
+InitAlarmInfo* InitAlarmInfo::m_pInstance = nullptr;
+
+InitAlarmInfo* InitAlarmInfo::Instance()
+{
+    if (m_pInstance == nullptr)
+        m_pInstance = new InitAlarmInfo();
+    return m_pInstance;
+}
+
+void InitAlarmInfo::Destroy()
+{
+    delete std::exchange(m_pInstance, nullptr);
+}
+
+InitAlarmInfo::InitAlarmInfo() : CAlarmTable("kivo/fm/dc_tbl_alm_exp_info.xml")
+{
+    const LocationInfo   stHere = DC_HERE;
+    const _TraceFunction oTrace(stHere);
+    read(stHere,
+         [&](const DOMElement& oRecord)
+         {
+             AlarmStaticInfo stAlarm;
+             fillAlarmInfo(&oRecord, stAlarm);
+             logInfo(stHere, loadLine(stAlarm));
+             // The first record of an id stays.
+             const std::uint64_t ulAlarmId = stAlarm.ulAlarmId;
+             if (!m_mapAlarm.try_emplace(ulAlarmId, std::move(stAlarm)).second)
+                 addProblem("alarm " + std::to_string(ulAlarmId) + " stands in an earlier record, which is kept");
+         });
+}
+
+AlarmStaticInfo InitAlarmInfo::getAlarmNameByAlarmId(unsigned long ulAlarmId) const
+{
+    const _TraceFunction oTrace(DC_HERE);
+    const auto           itFound = m_mapAlarm.find(ulAlarmId);
+    if (itFound != m_mapAlarm.end())
+        return itFound->second;
+    AlarmStaticInfo stUnknown;
+    stUnknown.ulAlarmId = ulAlarmId;
+    return stUnknown;
+}
+
+void InitAlarmInfo::fillAlarmInfo(const DOMElement* pRecord, AlarmStaticInfo& stAlarm)
+{
+    if (pRecord == nullptr)
+    {
+        logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
+        return;
+    }
+    const CElements oParams(pRecord, u"param");
+    if (oParams.isMissing())
+    {
+        logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
+        return;
+    }
+    bool bHasId = false;
+    for (const DOMElement& oParam : oParams)
+    {
+        const std::string strName = attrText(oParam, u"name");
+        if (strName == "AlarmID")
+        {
+            stAlarm.ulAlarmId = readNumber("AlarmID", elementText(oParam)).value_or(0);
+            bHasId            = true;
+        }
+        else if (strName == "AlarmName")
+            stAlarm.strAlarmName = elementText(oParam);
+        else if (strName == "Explain")
+            stAlarm.strExplain = elementText(oParam);
+        else if (m_setUnknownParam.insert(strName).second)
+            addProblem("a param named \"" + strName + "\" is not known and is passed over wherever it stands");
+    }
+    if (!bHasId)
+        addProblem("no \"AlarmID\", so the record is stored under 0");
+}

@@ -1,0 +1,143 @@
+// The alarm transfer registration: one "record" element registers fault ids.
+#include "alarm/InitTblRegInfo.h"
+
+#include "common/LogLine.h"
+#include "common/XmlRead.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <utility>
+
+using namespace xercesc;
+
+namespace
+{
+constexpr const char*   DC_SOURCE   = "InitTblRegInfo";
+constexpr unsigned long NO_DEV_TYPE = std::numeric_limits<unsigned long>::max();
+
+// As the ids stand in the table: 101,102
+std::string joined(const std::list<unsigned long>& lstFaultId)
+{
+    std::string strIds;
+    for (const unsigned long ulFaultId : lstFaultId)
+        strIds += (strIds.empty() ? "" : ",") + std::to_string(ulFaultId);
+    return strIds;
+}
+} // namespace
+
+InitTblRegInfo* InitTblRegInfo::m_pInstance = nullptr;
+
+void InitTblRegInfo::Destroy()
+{
+    delete std::exchange(m_pInstance, nullptr);
+}
+
+InitTblRegInfo* InitTblRegInfo::Instance()
+{
+    if (m_pInstance == nullptr)
+        m_pInstance = new InitTblRegInfo();
+    return m_pInstance;
+}
+
+InitTblRegInfo::InitTblRegInfo() : CAlarmTable("kivo/fm/dc_tbl_RegInfo.xml")
+{
+    const LocationInfo   stHere = DC_HERE;
+    const _TraceFunction oTrace(stHere);
+    read(stHere, [this](const DOMElement& oRecord) { FillAlarmInfo(&oRecord); });
+}
+
+bool InitTblRegInfo::NeedTransfer(const NS_UTIL::EnvAlarmInfo& stAlarm) const
+{
+    const _TraceFunction oTrace(DC_HERE);
+    return findRegistration(stAlarm) != EnTransferBy::None;
+}
+
+EnTransferBy InitTblRegInfo::findRegistration(const NS_UTIL::EnvAlarmInfo& stAlarm) const
+{
+    if (m_mapAllTypes.count(stAlarm.ulFaultId) != 0)
+        return EnTransferBy::AllTypes;
+    const auto itDevType = m_mapByDevType.find(stAlarm.ulDevType);
+    if (itDevType != m_mapByDevType.end() && itDevType->second.count(stAlarm.ulFaultId) != 0)
+        return EnTransferBy::DeviceType;
+    return EnTransferBy::None;
+}
+
+void InitTblRegInfo::FillAlarmInfo(const DOMElement* pRecord)
+{
+    const CElements oParams(pRecord, u"param");
+    if (oParams.isMissing())
+    {
+        logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
+        return;
+    }
+    ElementList lstParam;
+    for (const DOMElement& oParam : oParams)
+        lstParam.push_back(&oParam);
+
+    unsigned long            ulDevType = NO_DEV_TYPE;
+    std::list<unsigned long> lstFaultId;
+    for (std::size_t nIndex = 0; nIndex < lstParam.size(); ++nIndex)
+    {
+        const std::uint32_t ulResult = GetAlarmsAndDevType(lstParam, ulDevType, lstFaultId, nIndex);
+        if (ulResult != DC_RESULT_OK)
+            logCall(DC_HERE, ulResult, "GetAlarmsAndDevType(paramNodeLst, devType, alaLst, j)");
+    }
+    if (lstFaultId.empty())
+        addProblem("no fault id, so the record registers nothing");
+    if (ulDevType < NO_DEV_TYPE)
+        AddAlarmInfoToMap(ulDevType, lstFaultId);
+    else
+        AddAlarmToLst(lstFaultId);
+}
+
+std::uint32_t InitTblRegInfo::GetAlarmsAndDevType(const ElementList& lstParam, unsigned long& ulDevType,
+                                                  std::list<unsigned long>& lstFaultId, std::size_t nIndex)
+{
+    const DOMElement* pParam = nIndex < lstParam.size() ? lstParam[nIndex] : nullptr;
+    if (pParam == nullptr)
+        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
+    const std::string strName = attrText(*pParam, u"name");
+    const std::string strText = elementText(*pParam);
+    if (strName == "DevType")
+    {
+        // Without a number the record applies to device type 0, not to all of them.
+        ulDevType = readNumber("DevType", strText).value_or(0);
+        return DC_RESULT_OK;
+    }
+    if (strName != "FaultIDList")
+    {
+        addProblem("a param named \"" + strName + "\" is not known and is passed over");
+        return DC_RESULT_XML_ERROR;
+    }
+    for (std::size_t nFrom = 0; nFrom <= strText.size();)
+    {
+        const std::size_t nComma = std::min(strText.find(',', nFrom), strText.size());
+        // A piece that is no number is dropped: 0 would be an id nobody wrote.
+        if (const auto ulFaultId = readNumber("FaultIDList", std::string_view(strText).substr(nFrom, nComma - nFrom)))
+            lstFaultId.push_back(*ulFaultId);
+        nFrom = nComma + 1;
+    }
+    return DC_RESULT_OK;
+}
+
+// The ids are separated as in the table, the device type by a colon, so that a
+// search for "by devtype:5:" finds one type's registrations.
+void InitTblRegInfo::AddAlarmToLst(const std::list<unsigned long>& lstFaultId)
+{
+    addTo(m_mapAllTypes, lstFaultId);
+    logInfo(DC_HERE, "alarm need to transfer:" + joined(lstFaultId));
+}
+
+void InitTblRegInfo::AddAlarmInfoToMap(const unsigned long& ulDevType, const std::list<unsigned long>& lstFaultId)
+{
+    addTo(m_mapByDevType[ulDevType], lstFaultId);
+    logInfo(DC_HERE, "alarm need to transfer by devtype:" + std::to_string(ulDevType) + ":" + joined(lstFaultId));
+}
+
+void InitTblRegInfo::addTo(FaultIdMap& mapFaultId, const std::list<unsigned long>& lstFaultId) const
+{
+    for (const unsigned long ulFaultId : lstFaultId)
+        mapFaultId.try_emplace(ulFaultId, recordNumber());
+}
