@@ -32,10 +32,10 @@ public:
 
         // Chains through the open elements of other names, and for the one kind
         // that is read recursively every subset of its own ancestors.
-        const std::uint64_t nChains  = m_lstOpen.empty() ? 1 : m_lstOpen.back().nChains;
-        const std::uint64_t nOthers  = nChains / std::max<std::uint64_t>(nSameName, 1);
-        const std::uint64_t nOwn     = isSameName(pszName, u"SubItem") ? std::uint64_t{1} << nSameName : 1;
-        m_nRepeatedReads            += nOthers * nOwn - 1;
+        const std::uint64_t nChains = m_lstOpen.empty() ? 1 : m_lstOpen.back().nChains;
+        const std::uint64_t nOthers = nChains / std::max<std::uint64_t>(nSameName, 1);
+        const std::uint64_t nOwn    = isSameName(pszName, u"SubItem") ? std::uint64_t{1} << nSameName : 1;
+        m_nRepeatedReads += nOthers * nOwn - 1;
         if (m_nRepeatedReads > XmlLimits::MAX_REPEATED_READS)
             return "are nested so that they would be read too many times";
 

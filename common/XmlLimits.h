@@ -23,7 +23,7 @@ constexpr std::uint64_t MAX_REPEATED_READS   = 100000;                 // readin
 
 // Walks the document in document order, calls fnVisit for every element, and
 // checks its nesting on the way. Returns what passes a limit, or an empty text.
-std::string walkWithinLimits(const xercesc::DOMDocument&                             oDocument,
+std::string walkWithinLimits(const xercesc::DOMDocument&                            oDocument,
                              const std::function<void(const xercesc::DOMElement&)>& fnVisit);
 
 #endif

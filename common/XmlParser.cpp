@@ -55,8 +55,8 @@ public:
 // another thread's parser.
 bool initialiseXerces()
 {
-    static std::mutex          s_oMutex;
-    static bool                s_bDone = false;
+    static std::mutex           s_oMutex;
+    static bool                 s_bDone = false;
     std::lock_guard<std::mutex> oGuard(s_oMutex);
     if (s_bDone)
         return true;

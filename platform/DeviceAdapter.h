@@ -56,9 +56,9 @@ struct StDeviceType
     std::string strScriptFolder; // 9
     std::string strRemark;       // 10
 
-    std::int32_t     nSupportUpgrade      = 0;               // 1  1 is one of three conditions of a capacity type
-    std::int32_t     nSupportCapacity     = 0;               // 2  1 is one of three conditions of a capacity type
-    EnConfigFileType enConfigFileType     = EnConfigFileOwn; // 3  see above
+    std::int32_t     nSupportUpgrade       = 0;               // 1  1 is one of three conditions of a capacity type
+    std::int32_t     nSupportCapacity      = 0;               // 2  1 is one of three conditions of a capacity type
+    EnConfigFileType enConfigFileType      = EnConfigFileOwn; // 3  see above
     std::uint32_t    ulDeviceTypeID        = 0;               // 4
     std::uint32_t    ulDeviceTypeVersionID = 0;               // 5
     std::int32_t     nSupportPatch         = 0;               // 6

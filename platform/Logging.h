@@ -43,7 +43,7 @@ class OPERATIONXML_PLATFORM_API _TraceFunction
 public:
     explicit _TraceFunction(const LocationInfo& stWhere);
     ~_TraceFunction();
-    _TraceFunction(const _TraceFunction&) = delete;
+    _TraceFunction(const _TraceFunction&)            = delete;
     _TraceFunction& operator=(const _TraceFunction&) = delete;
 
 private:

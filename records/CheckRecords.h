@@ -12,17 +12,17 @@
 // One check item. Equality compares all fields but strExtInfo.
 struct StAsnCheckType
 {
-    std::string               strId;               // "id"
-    std::string               strDescription;      // "description"
-    std::string               strCmdKey;           // "cmdKey"
-    std::string               strSubItemFrom;      // "subItemFrom"
-    std::int32_t              nCompareType = 0;    // "compareType"
-    std::string               strCompareParam;     // "compareParam"
-    bool                      bSelected  = false;  // "selected"
-    bool                      bIsCompare = false;  // "isCompare"
-    std::uint32_t             ulIndex    = 0;      // position among the elements walked, dropped ones counted
-    std::list<StAsnCheckType> lstSubItem;          // "SubItem" elements
-    std::string               strExtInfo;          // set by no section; outside equality, copied with the record
+    std::string               strId;              // "id"
+    std::string               strDescription;     // "description"
+    std::string               strCmdKey;          // "cmdKey"
+    std::string               strSubItemFrom;     // "subItemFrom"
+    std::int32_t              nCompareType = 0;   // "compareType"
+    std::string               strCompareParam;    // "compareParam"
+    bool                      bSelected  = false; // "selected"
+    bool                      bIsCompare = false; // "isCompare"
+    std::uint32_t             ulIndex    = 0;     // position among the elements walked, dropped ones counted
+    std::list<StAsnCheckType> lstSubItem;         // "SubItem" elements
+    std::string               strExtInfo;         // set by no section; outside equality, copied with the record
 };
 OPERATIONXML_API bool operator==(const StAsnCheckType& stLeft, const StAsnCheckType& stRight);
 

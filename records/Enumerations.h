@@ -13,7 +13,7 @@ class AsnEnum
 public:
     constexpr AsnEnum() noexcept = default;
     constexpr AsnEnum(Enum enValue) noexcept : m_nValue(enValue) {}
-    constexpr operator Enum() const noexcept { return static_cast<Enum>(m_nValue); }
+    constexpr              operator Enum() const noexcept { return static_cast<Enum>(m_nValue); }
     constexpr std::int32_t number() const noexcept { return m_nValue; }
 
 private:
@@ -61,15 +61,15 @@ enum AsnTypeRefEnum : std::int32_t
 // (names ending in Config). 6, 10 and 11 are not in use.
 enum AsnTaskTypeEnum : std::int32_t
 {
-    SoftwareUpgrade                = 0,
-    SoftwareDowngrade              = 1,
-    PatchUpdate                    = 2,
-    SimulationPackageUpgrade       = 3,
-    PackageUpgrade                 = 4,
-    PackageDiffusion               = 5,
-    OLTAgentUpgrade                = 7,
-    PackageDiffusionDowngrade      = 8,
-    PackageDowngrade               = 9,
+    SoftwareUpgrade                 = 0,
+    SoftwareDowngrade               = 1,
+    PatchUpdate                     = 2,
+    SimulationPackageUpgrade        = 3,
+    PackageUpgrade                  = 4,
+    PackageDiffusion                = 5,
+    OLTAgentUpgrade                 = 7,
+    PackageDiffusionDowngrade       = 8,
+    PackageDowngrade                = 9,
     PackageDiffusionDowngradeConfig = 12,
     PackageDowngradeConfig          = 13,
     OpticalModuleUpgrade            = 14,

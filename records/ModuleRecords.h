@@ -5,14 +5,18 @@
 #include "records/RootRecords.h"
 
 #include <list>
+#include <map>
 #include <string>
 
 struct StAsnModuleInfoVerXMLInfo
 {
-    std::list<std::string>                  lstSupportDevType; // "dev" names, document order, repeats kept
-    StAsnOperationConfig                    stOperationConfig;
-    StAsnViewConfig                         stViewConfig; // read, never merged; no isolation view menu: that list stays empty
+    std::list<std::string> lstSupportDevType; // "dev" names, document order, repeats kept
+    StAsnOperationConfig   stOperationConfig;
+    StAsnViewConfig        stViewConfig; // read, never merged; no isolation view menu: that list stays empty
     std::list<StAsnTaskConfigInfoOperation> lstTaskConfigInfoOperation;
 };
+
+// All modules by name.
+using ModuleInfoMap = std::map<std::string, StAsnModuleInfoVerXMLInfo>;
 
 #endif

@@ -52,10 +52,10 @@ OPERATIONXML_API bool operator==(const StAsnOperParamDef& stLeft, const StAsnOpe
 // capacity entry. Equality compares the first four fields.
 struct StAsnOperation
 {
-    std::string                                          strId;                 // "id"
-    bool                                                 bIsCancelable = false; // "isCancelable"; false for patch operations
-    AsnEnum<DCAsn1ClientToServer::AsnOperationLevelEnum> enOperationLevel;      // "operationLevel", else DeviceLevel
-    std::list<StAsnOperParamDef>                         lstParam;              // "Parameter" elements
+    std::string strId;                                                     // "id"
+    bool        bIsCancelable = false;                                     // "isCancelable"; false for patch operations
+    AsnEnum<DCAsn1ClientToServer::AsnOperationLevelEnum> enOperationLevel; // "operationLevel", else DeviceLevel
+    std::list<StAsnOperParamDef>                         lstParam;         // "Parameter" elements
     bool bExtFlag     = false; // set by no section; outside equality, copied with the record
     bool bIsSupported = false; // "isSupported" of a capacity entry, nowhere else; outside equality
 };

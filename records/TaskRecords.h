@@ -26,12 +26,12 @@ OPERATIONXML_API bool operator==(const StAsnTaskOperationDef& stLeft, const StAs
 // the task type has no parameters. Equality leaves strSelected out.
 struct StAsnTaskConfigOperation
 {
-    std::string                       strId;               // "id" of a "Parameter"
-    std::string                       strValue;            // "value"
-    bool                              bIsRequired = false; // "isRequired"
-    std::string                       strSelected;         // outside equality
-    std::list<StAsnOptionInfo>        lstOption;           // "Option" (or "option") elements
-    std::list<StAsnTaskOperationDef>  lstTaskOperationDef; // task steps
+    std::string                       strId;                // "id" of a "Parameter"
+    std::string                       strValue;             // "value"
+    bool                              bIsRequired = false;  // "isRequired"
+    std::string                       strSelected;          // outside equality
+    std::list<StAsnOptionInfo>        lstOption;            // "Option" (or "option") elements
+    std::list<StAsnTaskOperationDef>  lstTaskOperationDef;  // task steps
     std::list<StAsnOtherOperationDef> lstOtherOperationDef; // task features
 };
 OPERATIONXML_API bool operator==(const StAsnTaskConfigOperation& stLeft, const StAsnTaskConfigOperation& stRight);

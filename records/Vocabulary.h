@@ -20,46 +20,46 @@ inline constexpr std::string_view LOG_CALL_PREFIX   = "Call Function return Erro
 inline constexpr std::string_view EMPTY_TEXT;
 
 // Operation names, as they stand in "id" attributes and in queries.
-inline constexpr std::string_view OP_DISPENSE = "Dispense";
-inline constexpr std::string_view OP_COMMIT = "Commit";
-inline constexpr std::string_view OP_SAVE = "Save";
-inline constexpr std::string_view OP_BACKUP = "Backup";
-inline constexpr std::string_view OP_RECOVER = "Recover";
-inline constexpr std::string_view OP_LOAD_DATA = "LoadData";
-inline constexpr std::string_view OP_UPDATE_DATA = "UpdateData";
-inline constexpr std::string_view OP_DELETE_DATABASE = "DeleteDatabase";
-inline constexpr std::string_view OP_INIT_DATABASE = "InitDatabase";
-inline constexpr std::string_view OP_COPY_DATABASE = "CopyDatabase";
-inline constexpr std::string_view OP_ROLLBACK_DATABASE = "RollbackDatabase";
-inline constexpr std::string_view OP_LOAD_SOFTWARE = "LoadSoftware";
-inline constexpr std::string_view OP_ACTIVATE_SOFTWARE = "ActivateSoftware";
-inline constexpr std::string_view OP_ROLLBACK = "Rollback";
-inline constexpr std::string_view OP_ROLLBACK_SOFTWARE = "RollbackSoftware";
-inline constexpr std::string_view OP_LOAD_PATCH = "LoadPatch";
-inline constexpr std::string_view OP_ACTIVATE_PATCH = "ActivatePatch";
-inline constexpr std::string_view OP_CONFIRM_PATCH = "ConfirmPatch";
-inline constexpr std::string_view OP_DEACTIVATE_PATCH = "DeactivatePatch";
-inline constexpr std::string_view OP_ROLLBACK_PATCH = "RollbackPatch";
-inline constexpr std::string_view OP_DELETE_PATCH = "DeletePatch";
-inline constexpr std::string_view OP_RESTART = "Restart";
-inline constexpr std::string_view OP_UNLOAD_PATCH = "UnloadPatch";
-inline constexpr std::string_view OP_UPGRADE_PATCH = "UpgradePatch";
-inline constexpr std::string_view OP_PRE_CHECK = "PreCheck";
-inline constexpr std::string_view OP_POST_CHECK = "PostCheck";
-inline constexpr std::string_view OP_ISSU_CHECK = "ISSUCheck";
-inline constexpr std::string_view OP_CHECK_FEASIBILITY = "CheckFeasibility";
-inline constexpr std::string_view OP_INSPECT_OPTICAL_MODULE_INFO = "InspectOpticalModuleInfo";
-inline constexpr std::string_view OP_LOAD_OPTICAL_MODULE_SOFTWARE = "LoadOpticalModuleSoftware";
+inline constexpr std::string_view OP_DISPENSE                        = "Dispense";
+inline constexpr std::string_view OP_COMMIT                          = "Commit";
+inline constexpr std::string_view OP_SAVE                            = "Save";
+inline constexpr std::string_view OP_BACKUP                          = "Backup";
+inline constexpr std::string_view OP_RECOVER                         = "Recover";
+inline constexpr std::string_view OP_LOAD_DATA                       = "LoadData";
+inline constexpr std::string_view OP_UPDATE_DATA                     = "UpdateData";
+inline constexpr std::string_view OP_DELETE_DATABASE                 = "DeleteDatabase";
+inline constexpr std::string_view OP_INIT_DATABASE                   = "InitDatabase";
+inline constexpr std::string_view OP_COPY_DATABASE                   = "CopyDatabase";
+inline constexpr std::string_view OP_ROLLBACK_DATABASE               = "RollbackDatabase";
+inline constexpr std::string_view OP_LOAD_SOFTWARE                   = "LoadSoftware";
+inline constexpr std::string_view OP_ACTIVATE_SOFTWARE               = "ActivateSoftware";
+inline constexpr std::string_view OP_ROLLBACK                        = "Rollback";
+inline constexpr std::string_view OP_ROLLBACK_SOFTWARE               = "RollbackSoftware";
+inline constexpr std::string_view OP_LOAD_PATCH                      = "LoadPatch";
+inline constexpr std::string_view OP_ACTIVATE_PATCH                  = "ActivatePatch";
+inline constexpr std::string_view OP_CONFIRM_PATCH                   = "ConfirmPatch";
+inline constexpr std::string_view OP_DEACTIVATE_PATCH                = "DeactivatePatch";
+inline constexpr std::string_view OP_ROLLBACK_PATCH                  = "RollbackPatch";
+inline constexpr std::string_view OP_DELETE_PATCH                    = "DeletePatch";
+inline constexpr std::string_view OP_RESTART                         = "Restart";
+inline constexpr std::string_view OP_UNLOAD_PATCH                    = "UnloadPatch";
+inline constexpr std::string_view OP_UPGRADE_PATCH                   = "UpgradePatch";
+inline constexpr std::string_view OP_PRE_CHECK                       = "PreCheck";
+inline constexpr std::string_view OP_POST_CHECK                      = "PostCheck";
+inline constexpr std::string_view OP_ISSU_CHECK                      = "ISSUCheck";
+inline constexpr std::string_view OP_CHECK_FEASIBILITY               = "CheckFeasibility";
+inline constexpr std::string_view OP_INSPECT_OPTICAL_MODULE_INFO     = "InspectOpticalModuleInfo";
+inline constexpr std::string_view OP_LOAD_OPTICAL_MODULE_SOFTWARE    = "LoadOpticalModuleSoftware";
 inline constexpr std::string_view OP_UPGRADE_OPTICAL_MODULE_SOFTWARE = "UpgradeOpticalModuleSoftware";
-inline constexpr std::string_view OP_OPTICAL_MODULE_VERIFY = "OpticalModuleVerify";
-inline constexpr std::string_view OP_PREPARE_UPGRADE = "PrepareUpgrade";
-inline constexpr std::string_view OP_POST_UPGRADE = "PostUpgrade";
-inline constexpr std::string_view OP_MANUAL_ACTIVATE = "ManualActivate";
-inline constexpr std::string_view OP_LOAD_NUBO_METER = "LoadNuboMeter";
-inline constexpr std::string_view OP_ACTIVATE_NUBO_METER = "ActivateNuboMeter";
-inline constexpr std::string_view OP_CONF_TRANSFER = "ConfTransfer";
-inline constexpr std::string_view OP_LOAD_CONF_FILE = "LoadConfFile";
-inline constexpr std::string_view OP_FAN_SLOW_TIMING = "FanSlowTiming";
+inline constexpr std::string_view OP_OPTICAL_MODULE_VERIFY           = "OpticalModuleVerify";
+inline constexpr std::string_view OP_PREPARE_UPGRADE                 = "PrepareUpgrade";
+inline constexpr std::string_view OP_POST_UPGRADE                    = "PostUpgrade";
+inline constexpr std::string_view OP_MANUAL_ACTIVATE                 = "ManualActivate";
+inline constexpr std::string_view OP_LOAD_NUBO_METER                 = "LoadNuboMeter";
+inline constexpr std::string_view OP_ACTIVATE_NUBO_METER             = "ActivateNuboMeter";
+inline constexpr std::string_view OP_CONF_TRANSFER                   = "ConfTransfer";
+inline constexpr std::string_view OP_LOAD_CONF_FILE                  = "LoadConfFile";
+inline constexpr std::string_view OP_FAN_SLOW_TIMING                 = "FanSlowTiming";
 
 inline constexpr std::string_view OPERATION_NAMES[] = {
     OP_DISPENSE,
@@ -154,9 +154,9 @@ inline constexpr std::string_view DATABASE_NAMES[] = {
 };
 inline constexpr std::string_view DATABASE_SUFFIX = ".db";
 inline constexpr std::string_view SQL_FRAGMENTS[] = {
-    "distinct ", " order by ", "select ", "insert into ", " values(", "update ",    "delete from ", " where ", " in ",
-    " not in ",  " and ",      " or ",    " from ",       " set ",    " count",     " count(*) ",   " * ",     "drop ",
-    "table ",    "view ",      " min",    " max",         " avg ",    " LIKE ",     " DESC",        " LIMIT ", " OFFSET ",
+    "distinct ", " order by ", "select ", "insert into ", " values(", "update ", "delete from ", " where ", " in ",
+    " not in ",  " and ",      " or ",    " from ",       " set ",    " count",  " count(*) ",   " * ",     "drop ",
+    "table ",    "view ",      " min",    " max",         " avg ",    " LIKE ",  " DESC",        " LIMIT ", " OFFSET ",
 };
 inline constexpr std::string_view TRUE_UPPER  = "TRUE";
 inline constexpr std::string_view TRUE_LOWER  = "true";
@@ -167,46 +167,46 @@ inline constexpr std::string_view FALSE_LOWER = "false";
 // type, and the name of their key group.
 inline constexpr std::string_view FEATURE_KEY_GROUP = "Tarvelonix";
 inline constexpr std::string_view FEATURE_KEYS[]    = {
-    "S_SwitchType",
-    "RouterType",
-    "Snmp_Device",
-    "ONLY_SUPPORT_TELNET_TYPEID",
-    "CHECK_SPACE_ENOUGH_TYPEID",
-    "S_SupportOneImageSwitch",
-    "V3R7_Device",
-    "SUPPORT_SOFTWARECHECK",
-    "SUPPORT_PATCHCHECK",
-    "CHECK_SPACE_ON_DEVICE_TYPEID",
-    "CHECK_CFSPACE_ON_DEVICE_TYPEID",
-    "WAIT_RECOVER_TIME_TYPEID",
-    "ACTIVE_HIGT_EFFICIENT_TYPEID",
-    "MAINBOARDNUM_TYPEID",
-    "DEVICE_STATUS_COMPARE_TYPEID",
-    "WALK_QXSTORAGE_TBL_TYPEID",
-    "UPGRADEBOOTROM_TYPEID",
-    "GET_MAINBOARD_NUM_TYPEID",
-    "AR_WITH_ACC_BACKUP_TYPEID",
-    "DONOT_SUPPORT_POLICY",
-    "TOOLKIT_NOT_SUPPORT_DEV_TYPE",
-    "DEFAULT_POLICY_BACKUP_CONTENT_TYPE",
-    "Q5100_AUTO_UPGRADE_TASK",
-    "ModifyReloadTable",
-    "AutoDeleteFile",
-    "AddSizeDeleteFile",
-    "TelnetToDevice",
-    "DroxAgentUpgrade",
-    "ISSUUpgrade",
-    "CheckFeasibility",
-    "TrapBackupPolicy",
-    "Startup_File_Can_Be_Deleted",
-    "SUPPORT_WEAKBOARD",
+       "S_SwitchType",
+       "RouterType",
+       "Snmp_Device",
+       "ONLY_SUPPORT_TELNET_TYPEID",
+       "CHECK_SPACE_ENOUGH_TYPEID",
+       "S_SupportOneImageSwitch",
+       "V3R7_Device",
+       "SUPPORT_SOFTWARECHECK",
+       "SUPPORT_PATCHCHECK",
+       "CHECK_SPACE_ON_DEVICE_TYPEID",
+       "CHECK_CFSPACE_ON_DEVICE_TYPEID",
+       "WAIT_RECOVER_TIME_TYPEID",
+       "ACTIVE_HIGT_EFFICIENT_TYPEID",
+       "MAINBOARDNUM_TYPEID",
+       "DEVICE_STATUS_COMPARE_TYPEID",
+       "WALK_QXSTORAGE_TBL_TYPEID",
+       "UPGRADEBOOTROM_TYPEID",
+       "GET_MAINBOARD_NUM_TYPEID",
+       "AR_WITH_ACC_BACKUP_TYPEID",
+       "DONOT_SUPPORT_POLICY",
+       "TOOLKIT_NOT_SUPPORT_DEV_TYPE",
+       "DEFAULT_POLICY_BACKUP_CONTENT_TYPE",
+       "Q5100_AUTO_UPGRADE_TASK",
+       "ModifyReloadTable",
+       "AutoDeleteFile",
+       "AddSizeDeleteFile",
+       "TelnetToDevice",
+       "DroxAgentUpgrade",
+       "ISSUUpgrade",
+       "CheckFeasibility",
+       "TrapBackupPolicy",
+       "Startup_File_Can_Be_Deleted",
+       "SUPPORT_WEAKBOARD",
 };
 
 // Storage keys and file names of device types.
-inline constexpr std::string_view TELNET_SUFFIX          = "_telnet";
-inline constexpr std::string_view COMMON_FILE_NAME       = "Common_ServerConfiguration.xml";
-inline constexpr std::string_view CONFIG_FILE_SUFFIX     = "_ServerConfiguration.xml";
-inline constexpr std::string_view CONFIG_FOLDER          = "common/dc/conf/dc/devtype_xmlconf/";
+inline constexpr std::string_view TELNET_SUFFIX      = "_telnet";
+inline constexpr std::string_view COMMON_FILE_NAME   = "Common_ServerConfiguration.xml";
+inline constexpr std::string_view CONFIG_FILE_SUFFIX = "_ServerConfiguration.xml";
+inline constexpr std::string_view CONFIG_FOLDER      = "common/dc/conf/dc/devtype_xmlconf/";
 } // namespace Vocabulary
 
 #endif

@@ -68,8 +68,7 @@ std::vector<std::string> logLinesWithPlace()
     std::lock_guard<std::mutex> oGuard(g_oLogMutex);
     std::vector<std::string>    lstLine;
     for (const StLogLine& stLine : g_lstLog)
-        lstLine.push_back(
-            render(stLine, fmt::format("{}::{} ", stLine.stWhere.pszFile, stLine.stWhere.pszFunction)));
+        lstLine.push_back(render(stLine, fmt::format("{}::{} ", stLine.stWhere.pszFile, stLine.stWhere.pszFunction)));
     return lstLine;
 }
 

@@ -23,7 +23,7 @@ class CParsedXml
 public:
     explicit CParsedXml(std::string_view strXml);
 
-    xercesc::XercesDOMParser* parser() { return m_pParser.get(); }
+    xercesc::XercesDOMParser*  parser() { return m_pParser.get(); }
     const xercesc::DOMElement* root();
 
     // The first element of the name.

@@ -1,0 +1,162 @@
+// The yes/no questions about a device type, and the telnet rules.
+#include "common/LogLine.h"
+#include "database/QueryGuard.h"
+#include "records/RecordSearch.h"
+#include "records/Vocabulary.h"
+
+namespace
+{
+constexpr const char* DC_SOURCE = "CXMLConfigDatabase";
+
+// Type and version of a device as its queries look them up: the telnet variant
+// exactly when the two names differ.
+std::uint32_t resolveDevice(const LocationInfo& stWhere, int nDeviceID, std::string& strDevType,
+                            std::string& strDevTypeVer)
+{
+    const std::uint32_t ulResult = CDCDeviceInfoDB::getDevTypeAndVersionName(
+        static_cast<unsigned long>(static_cast<unsigned int>(nDeviceID)), strDevType, strDevTypeVer);
+    if (ulResult != DC_RESULT_OK)
+        return logFail(stWhere, ulResult, "EmfGetDevTypeName Method Failed");
+    if (strDevTypeVer != strDevType)
+        strDevTypeVer += Vocabulary::TELNET_SUFFIX;
+    return DC_RESULT_OK;
+}
+} // namespace
+
+std::uint32_t CXMLConfigDatabase::isDeviceOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
+                                                      const std::string& strOperId, bool& bIsSupported)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    bIsSupported = false;
+    const CQueryGuard oGuard(*this);
+    const auto*       pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return DC_RESULT_INVALID_PARA; // the fetch has logged it
+    bIsSupported = findFirst(pInfo->stOperationConfig.lstDevOperation, strOperId) != nullptr;
+    return DC_RESULT_OK;
+}
+
+std::uint32_t CXMLConfigDatabase::isDeviceOpParaSupported(const std::string& strDevType,
+                                                          const std::string& strDevTypeVer,
+                                                          const std::string& strOperId, const std::string& strParamId,
+                                                          bool& bIsSupported)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    bIsSupported = false;
+    const CQueryGuard oGuard(*this);
+    const auto*       pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return DC_RESULT_INVALID_PARA;
+    const StAsnOperation* pOper = findFirst(pInfo->stOperationConfig.lstDevOperation, strOperId);
+    bIsSupported                = pOper != nullptr && findFirst(pOper->lstParam, strParamId) != nullptr;
+    return DC_RESULT_OK;
+}
+
+std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
+                                                     const std::string& strOperId, bool& bIsSupported)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    bIsSupported = false;
+    const CQueryGuard oGuard(*this);
+    const auto*       pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return DC_RESULT_INVALID_PARA;
+    const StAsnOtherOperationDef* pOper = findFirst(pInfo->stOperationConfig.lstOtherOperation, strOperId);
+    bIsSupported                        = pOper != nullptr && pOper->bIsSupported;
+    return DC_RESULT_OK;
+}
+
+std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
+                                                     const std::string& strOperId, const std::string& strParamId,
+                                                     bool& bIsSupported)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    bIsSupported = false;
+    const CQueryGuard oGuard(*this);
+    const auto*       pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return DC_RESULT_INVALID_PARA;
+    const StAsnOtherOperationDef* pOper  = findFirst(pInfo->stOperationConfig.lstOtherOperation, strOperId);
+    const StAsnOperParamDef*      pParam = pOper == nullptr ? nullptr : findFirst(pOper->lstParam, strParamId);
+    bIsSupported                         = pParam != nullptr && pParam->bIsRequired;
+    return DC_RESULT_OK;
+}
+
+bool CXMLConfigDatabase::isCancelOperSupported(int nDeviceID, const std::string& strOperId)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    const CQueryGuard    oGuard(*this);
+    std::string          strDevType;
+    std::string          strDevTypeVer;
+    if (resolveDevice(DC_HERE, nDeviceID, strDevType, strDevTypeVer) != DC_RESULT_OK)
+        return true; // nothing is known that forbids it
+    const auto* pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return false;
+    if (const auto* pCheck = findFirst(pInfo->stOperationConfig.lstCheckOperation, strOperId))
+        return pCheck->bIsCancelable; // overrides a task operation of the id
+    const auto* pTask = findFirst(pInfo->stOperationConfig.lstTaskOperation, strOperId);
+    return pTask != nullptr && pTask->bIsCancelable;
+}
+
+std::uint32_t CXMLConfigDatabase::isSupportTaskType(int nDeviceID, DCAsn1ClientToServer::AsnTaskTypeEnum enTaskType,
+                                                    bool& bIsSupported)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    bIsSupported = false;
+    const CQueryGuard   oGuard(*this);
+    std::string         strDevType;
+    std::string         strDevTypeVer;
+    const std::uint32_t ulResult = resolveDevice(DC_HERE, nDeviceID, strDevType, strDevTypeVer);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    const auto* pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
+    if (pInfo == nullptr)
+        return DC_RESULT_INVALID_PARA;
+    const auto& lstTask = pInfo->lstTaskConfigInfoOperation;
+    bIsSupported        = std::any_of(lstTask.begin(), lstTask.end(),
+                                      [enTaskType](const StAsnTaskConfigInfoOperation& stTask)
+                                      { return stTask.enTaskType == enTaskType; });
+    return DC_RESULT_OK;
+}
+
+bool CXMLConfigDatabase::isSupportCapacity(const std::string& strDevType, const std::string& strDevTypeVer)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    StDeviceType         stDeviceType;
+    const std::uint32_t  ulResult =
+        CDeviceAdapterInterface::getInstance()->searchDeviceType(strDevType, strDevTypeVer, stDeviceType);
+    if (ulResult != DC_RESULT_OK)
+    {
+        logFail(DC_HERE, ulResult, "CDeviceAdapterInterface::getInstance()->searchDeviceType failed.");
+        return false;
+    }
+    return stDeviceType.nSupportUpgrade == 1 && stDeviceType.nSupportCapacity == 1 &&
+           stDeviceType.nCapacityPerVersion == 1;
+}
+
+std::string CXMLConfigDatabase::trans2TelnetDevType(const std::string& strDevType, const std::string& strDevTypeVer)
+{
+    const bool bTelnet = strDevTypeVer.find(Vocabulary::TELNET_SUFFIX) != std::string::npos;
+    return bTelnet ? strDevType + std::string(Vocabulary::TELNET_SUFFIX) : strDevType;
+}
+
+bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo)
+{
+    const _TraceFunction     oTrace(DC_HERE);
+    CDeviceAdapterInterface* pAdapter = CDeviceAdapterInterface::getInstance();
+    const std::uint32_t      ulTypeID = stDeviceInfo.ulDeviceTypeID;
+    EnDeviceType             enDomain = EnDeviceTypeUnknown;
+    pAdapter->searchDomain(ulTypeID, enDomain); // an id without a domain stays unknown
+    if (enDomain != EnDeviceTypeDatacom || stDeviceInfo.ulDeviceID == INVALID_DEVICE_ID)
+        return false;
+    if (stDeviceInfo.ulLoginState == 5 || stDeviceInfo.ulLoginState == 6)
+        return true;
+    if (stDeviceInfo.ulConnectState == 1 || stDeviceInfo.ulConnectState == 2 || !pAdapter->isSnmpDevice(ulTypeID))
+        return false;
+    if (!pAdapter->isV3R7Device(ulTypeID))
+        return true;
+    if (ulTypeID != CCompatibleAdapter::getCompatibleDevType(static_cast<std::uint16_t>(ulTypeID)))
+        return true;
+    return pAdapter->isSupportTelnetToDevice(ulTypeID, stDeviceInfo.strTelnetCapability);
+}

@@ -1,0 +1,31 @@
+// CDevTypeXMLConfig: reads the two sections of a module file that no device-type
+// file has: which module it belongs to, and which device types it supports.
+// Stateless; works on the caller's parser and lists. Failures are logged and
+// answer DC_RESULT_XML_ERROR.
+#ifndef OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
+#define OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
+
+#include "platform/Export.h"
+#include "records/ModuleRecords.h"
+
+#include <xercesc/parsers/XercesDOMParser.hpp>
+
+#include <cstdint>
+#include <list>
+#include <string>
+
+class OPERATIONXML_API CDevTypeXMLConfig
+{
+public:
+    // The "name" of the document's first "DeviceType" element; a document without
+    // one belongs to no module and fails.
+    std::uint32_t setModuleXMLConfig(xercesc::XercesDOMParser* pDOMParser, std::string& strName);
+
+    // Appends the supported device types of every "support" element.
+    std::uint32_t setDevTypeXMLConfig(xercesc::XercesDOMParser* pDOMParser, StAsnModuleInfoVerXMLInfo& stModule);
+
+    // Appends the "name" of each "dev" element below one "support" element.
+    std::uint32_t fillDevTypeInfo(const xercesc::DOMElement* pElm, std::list<std::string>* pDevTypeLst);
+};
+
+#endif

@@ -1,0 +1,136 @@
+// See CModuleXMLResReader.h.
+#include "reader/CModuleXMLResReader.h"
+
+#include "common/LogLine.h"
+#include "platform/FileSystem.h"
+#include "platform/Paths.h"
+#include "reader/CDevTypeXMLConfig.h"
+#include "reader/SectionChain.h"
+#include "sections/CCheckOpXMLConfig.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace
+{
+constexpr const char* DC_SOURCE = "CModuleXMLResReader";
+constexpr const char* UTF8      = "UTF-8";
+
+// The whole path counts, so a file in a folder of such a name is read as well.
+bool isModuleFile(const std::string& strFilePath)
+{
+    return strFilePath.find("ServerConfiguration.xml") != std::string::npos ||
+           strFilePath.find("ServerConfiguration.XML") != std::string::npos;
+}
+
+// The names in an open folder, sorted; a read error ends them.
+std::vector<std::string> readNames(DIR* pDir)
+{
+    std::vector<std::string> lstName;
+    dirent                   stEntry = {};
+    dirent*                  pEntry  = nullptr;
+    while (KIVO_OS::readdir_r(pDir, &stEntry, &pEntry, UTF8) == 0 && pEntry != nullptr)
+    {
+        std::string strName = pEntry->d_name;
+        if (strName != "." && strName != "..")
+            lstName.push_back(std::move(strName));
+    }
+    std::sort(lstName.begin(), lstName.end());
+    return lstName;
+}
+} // namespace
+
+std::uint32_t CModuleXMLResReader::parseXMLOfDirs(const std::string& strFolder, ModuleInfoMap& mapModule)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    DIR*                 pDir = KIVO_OS::opendir(strFolder.c_str(), UTF8);
+    if (pDir == nullptr)
+        return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
+                       "CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: " + strFolder +
+                           ", errno: " + std::to_string(errno));
+    const std::vector<std::string> lstName = readNames(pDir);
+    KIVO_OS::closedir(pDir); // before going deeper: a deep tree must not use up descriptors
+    if (!isFirstVisit(strFolder))
+        return DC_RESULT_OK;
+    for (const std::string& strName : lstName)
+    {
+        const std::string strFilePath = strFolder + "/" + strName;
+        struct stat       oStatbuf    = {};
+        const int         nStatus     = KIVO_OS::stat(strFilePath.c_str(), &oStatbuf, UTF8);
+        if (nStatus != 0)
+        {
+            logCall(DC_HERE, static_cast<std::uint32_t>(nStatus),
+                    "KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): " + strFilePath);
+            continue;
+        }
+        if (S_ISDIR(oStatbuf.st_mode))
+        {
+            const std::uint32_t ulResult = parseXMLOfDirs(strFilePath, mapModule);
+            if (ulResult != DC_RESULT_OK)
+                logCall(DC_HERE, ulResult, "parseXMLOfDirs(strFilePath, pModuleInfoMap): " + strFilePath);
+        }
+        else if (isModuleFile(strFilePath))
+        {
+            const std::uint32_t ulResult = parseModuleXML(strFilePath, mapModule);
+            if (ulResult != DC_RESULT_OK)
+                logCall(DC_HERE, ulResult, "parseModuleXML(strFilePath, pModuleInfoMap): " + strFilePath);
+        }
+    }
+    return DC_RESULT_OK;
+}
+
+bool CModuleXMLResReader::isFirstVisit(const std::string& strFolder)
+{
+    struct stat oStatbuf = {};
+    // A folder that was opened but cannot be asked who it is cannot be known again.
+    if (KIVO_OS::stat(strFolder.c_str(), &oStatbuf, UTF8) != 0)
+        return false;
+    return m_setFolder.emplace(oStatbuf.st_dev, oStatbuf.st_ino).second;
+}
+
+std::uint32_t CModuleXMLResReader::parseModuleXML(const std::string& strPath, ModuleInfoMap& mapModule)
+{
+    const _TraceFunction              oTrace(DC_HERE);
+    const std::unique_ptr<CXmlParser> pXmlParser = CXmlParser::create();
+    m_strName.clear();
+    std::uint32_t ulResult = initialize(strPath, pXmlParser.get());
+    if (ulResult != DC_RESULT_OK)
+        logCall(DC_HERE, ulResult, "initialize(strPath, pXmlParser)");
+    else
+        ulResult = setDevXMLConfig(pXmlParser.get(), mapModule);
+    m_lstFile.push_back({strPath, m_strName, pXmlParser == nullptr ? "" : pXmlParser->problem(), ulResult});
+    return ulResult;
+}
+
+std::uint32_t CModuleXMLResReader::initialize(const std::string& strPath, CXmlParser* pXmlParser)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    if (!NS_UTIL::IsExists(strPath))
+        return logFail(DC_HERE, DC_RESULT_FILE_NOT_EXIST, "Server config File :" + strPath + " not exist.");
+    if (pXmlParser == nullptr)
+        return logFail(DC_HERE, DC_RESULT_XML_ERROR, " pXmlParser is null :");
+    pXmlParser->parseFile(strPath);
+    return DC_RESULT_OK;
+}
+
+std::uint32_t CModuleXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDOMParser, ModuleInfoMap& mapModule)
+{
+    const _TraceFunction      oTrace(DC_HERE);
+    StAsnModuleInfoVerXMLInfo stModule;
+    std::uint32_t             ulResult = CDevTypeXMLConfig().setModuleXMLConfig(pDOMParser, m_strName);
+    if (ulResult == DC_RESULT_OK)
+        ulResult = CDevTypeXMLConfig().setDevTypeXMLConfig(pDOMParser, stModule);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    const StSectionLists stLists = {stModule.stOperationConfig, stModule.stViewConfig,
+                                    stModule.lstTaskConfigInfoOperation, false};
+    ulResult                     = runSectionChain(pDOMParser, stLists,
+                                                   [pDOMParser](std::list<StAsnCheckOperationDef>& lstCheckOperation)
+                                                   { return CCheckOpXMLConfig().setCheckOpConfiguration(pDOMParser, &lstCheckOperation); });
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    if (!mapModule.emplace(m_strName, std::move(stModule)).second)
+        return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
+                       "DeviceType name is already taken by another file :" + m_strName);
+    return DC_RESULT_OK;
+}
