@@ -1,0 +1,104 @@
+// The transfer registration: which alarms it lets through, why, and what is logged.
+#include "alarm/AlarmSupport.h"
+
+#include "records/ResultCodes.h"
+
+namespace
+{
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+std::string record(const std::string& strFaultIds, const std::string& strDevType = "")
+{
+    return "<record>" + (strDevType.empty() ? "" : "<param name='DevType'>" + strDevType + "</param>") +
+           "<param name='FaultIDList'>" + strFaultIds + "</param></record>";
+}
+
+struct StTransferCase
+{
+    const char*              pszName;
+    std::string              strRecords;
+    const char*              pszAll;  // of the faults 0 to 9 raised by device type 5: decided for all types
+    const char*              pszFive; // decided for device type 5
+    std::vector<std::string> lstProblem;
+};
+class TransferTest : public testing::TestWithParam<StTransferCase>
+{
+};
+
+TEST_P(TransferTest, FollowsTheRegistrations)
+{
+    CAlarmRoot            oRoot;
+    const InitTblRegInfo& oInfo = oRoot.transfers(GetParam().strRecords);
+    std::string           strAll;
+    std::string           strFive;
+    for (unsigned long ulFaultId = 0; ulFaultId < 10; ++ulFaultId)
+    {
+        const NS_UTIL::EnvAlarmInfo stAlarm{ulFaultId, 5, "", ""};
+        const EnTransferBy          enBy = oInfo.findRegistration(stAlarm);
+        EXPECT_EQ(enBy != EnTransferBy::None, oInfo.NeedTransfer(stAlarm));
+        strAll += enBy == EnTransferBy::AllTypes ? std::to_string(ulFaultId) : "";
+        strFive += enBy == EnTransferBy::DeviceType ? std::to_string(ulFaultId) : "";
+    }
+    EXPECT_EQ(GetParam().pszAll, strAll);
+    EXPECT_EQ(GetParam().pszFive, strFive);
+    EXPECT_THAT(oInfo.problems(), ElementsAreArray(GetParam().lstProblem));
+}
+INSTANTIATE_TEST_SUITE_P(Records, TransferTest,
+                         testing::ValuesIn(std::vector<StTransferCase>{
+                             {"Nothing", "", "", "", {}},
+                             {"AllTypes", record("1,2"), "12", "", {}},
+                             {"OneType", record("7", "5"), "", "7", {}},
+                             {"AnotherType", record("7", "6"), "", "", {}},
+                             {"SecondRecordExtends", record("7", "5") + record("8,7", "5"), "", "78", {}},
+                             {"AllTypesDecideFirst", record("1,2", "5") + record("1"), "1", "2", {}},
+                             {"LargestNumberIsNoType", record("1", "18446744073709551615"), "1", "", {}},
+                         }),
+                         rowName<StTransferCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Mistakes, TransferTest,
+    testing::ValuesIn(std::vector<StTransferCase>{
+        {"PiecesThatAreNoNumbers",
+         record("x, 1 ,3z,"),
+         "13",
+         "",
+         {"record 1: \"x\" in \"FaultIDList\" is no number and is passed over",
+          "record 1: \"3z\" in \"FaultIDList\" is read as 3",
+          "record 1: \"\" in \"FaultIDList\" is no number and is passed over"}},
+        {"TypeThatIsNoNumber",
+         record("1", "five"),
+         "",
+         "",
+         {"record 1: \"five\" in \"DevType\" is no number and is passed over"}},
+        {"NoIds", record("7", "5") + "<record/>", "", "7", {"record 2: no fault id, so the record registers nothing"}},
+    }),
+    rowName<StTransferCase>);
+
+TEST(InitTblRegInfoTest, LogsWhatItRegistersAndAnUnknownParam)
+{
+    CAlarmRoot            oRoot;
+    const InitTblRegInfo& oInfo = oRoot.transfers(
+        "<record><param name='Devtype'>5</param><param name='FaultIDList'>1,2</param></record>" + record("7,8", "5"));
+    EXPECT_THAT(logLinesWithPlace(),
+                ElementsAre("E 3B0004EE InitTblRegInfo::FillAlarmInfo Call Function return Error:"
+                            "GetAlarmsAndDevType(paramNodeLst, devType, alaLst, j)",
+                            "I InitTblRegInfo::AddAlarmToLst [DCServer]alarm need to transfer:1,2",
+                            "I InitTblRegInfo::AddAlarmInfoToMap [DCServer]alarm need to transfer by devtype:5:7,8"));
+    EXPECT_THAT(oInfo.problems(), ElementsAre("record 1: a param named \"Devtype\" is not known and is passed over"));
+    EXPECT_EQ(2u, oInfo.byDevType().at(5).at(7)); // the record that registered it
+}
+
+TEST(InitTblRegInfoTest, NullElementsAreLogged)
+{
+    CAlarmRoot               oRoot;
+    InitTblRegInfo&          oInfo     = oRoot.transfers("");
+    unsigned long            ulDevType = 3;
+    std::list<unsigned long> lstFaultId;
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oInfo.GetAlarmsAndDevType({nullptr}, ulDevType, lstFaultId, 0));
+    oInfo.FillAlarmInfo(nullptr);
+    EXPECT_THAT(logLinesWithPlace(),
+                ElementsAre("E 3B0004EE InitTblRegInfo::GetAlarmsAndDevType [DCServer]pElm is null.",
+                            "E 3B0004EE InitTblRegInfo::FillAlarmInfo "
+                            "[DCServer]DOMElement::getElementsByTagName failed :"));
+}
+} // namespace
