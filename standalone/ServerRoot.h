@@ -18,11 +18,13 @@ namespace standalone
 constexpr std::uint32_t RESULT_NOT_IN_INVENTORY = 0x3B0F0001; // no row for what was asked
 constexpr std::uint32_t RESULT_NO_ROOT          = 0x3B0F0002; // no server root is open
 
-// Opens the root at the folder. On failure returns false and puts one message
+// Opens the root at the folder. Every path handed out starts with the folder as
+// it is given here, relative or not, without trailing separators. On failure returns false and puts one message
 // into strError that names the file and, where one failed, the statement.
 OPERATIONXML_PLATFORM_API bool openServerRoot(const std::string& strFolder, std::string& strError);
 
-// Closes the root; every service then answers as if its inventory were empty.
+// Closes the root. Services that answer with a code then answer RESULT_NO_ROOT,
+// lists and lookups find nothing, paths and environment values are empty.
 OPERATIONXML_PLATFORM_API void closeServerRoot();
 } // namespace standalone
 

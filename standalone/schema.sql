@@ -1,11 +1,16 @@
 -- The inventory of a stand-alone server root: what the platform services answer
 -- when the library runs outside the server.
 --
--- A root holds either server.db (an SQLite database with exactly these tables,
--- opened read-only) or server.sql (plain INSERT statements; these tables are
--- created in memory first, then the statements run). Every table must be there;
--- any may be empty. Numbers are 32-bit unless a comment says otherwise, flags
--- are 0 or 1, texts are UTF-8. A path without a leading "/" starts at the root.
+-- A root holds either server.db (an SQLite database with at least these tables
+-- and columns, opened read-only) or server.sql (plain INSERT statements; these
+-- tables are created in memory first, then the statements run); server.db counts
+-- when both are there. Every table must be there; any may be empty. Numbers are
+-- 32-bit unless a comment says otherwise (ids unsigned), texts are UTF-8 of at
+-- most 128 KB without NUL bytes. A path without a leading "/" starts at the root.
+--
+-- A server.sql works on these tables only: INSERT, UPDATE, DELETE, SELECT and
+-- BEGIN/COMMIT, with the plain functions for texts and numbers. A statement takes
+-- at most 4 MB, one that selects 1 KB, one that selects several times 512 bytes.
 
 -- Installed device types, in registry order (position). The first five columns
 -- are what most files need; the others have defaults.
@@ -49,9 +54,9 @@ CREATE TABLE check_file (
 -- SNMP, not V3R7, compatible with itself.
 CREATE TABLE device_class (
     type_id            INTEGER PRIMARY KEY,
-    domain             INTEGER NOT NULL,               -- 1 access, 2 datacom, 3 transport, 4 microwave
-    is_snmp            INTEGER NOT NULL DEFAULT 0,
-    is_v3r7            INTEGER NOT NULL DEFAULT 0,
+    domain             INTEGER NOT NULL,               -- 1 access, 2 datacom, 3 transport, 4 microwave, 5 unknown
+    is_snmp            INTEGER NOT NULL DEFAULT 0,     -- 0 or 1
+    is_v3r7            INTEGER NOT NULL DEFAULT 0,     -- 0 or 1
     compatible_type_id INTEGER                         -- 16 bits; NULL: compatible with itself
 ) STRICT;
 
@@ -93,7 +98,7 @@ CREATE TABLE capacity (
     device_type_version TEXT NOT NULL,
     soft_version        TEXT NOT NULL,
     patch_version       TEXT NOT NULL DEFAULT '',
-    full_config         INTEGER NOT NULL DEFAULT 0     -- 1: the whole own configuration applies
+    full_config         INTEGER NOT NULL DEFAULT 0     -- 0 or 1; 1: the whole own configuration applies
 ) STRICT;
 
 -- Server settings by name.

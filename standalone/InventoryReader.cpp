@@ -1,0 +1,139 @@
+// See InventoryReader.h. Rows are read with plain SELECTs of plain tables, so
+// that a server.db made by somebody else runs nothing here.
+#include "standalone/InventoryReader.h"
+
+#include "standalone/InventoryScript.h"
+#include "standalone/InventoryTables.h"
+#include "standalone/Sqlite.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace standalone
+{
+namespace
+{
+constexpr std::size_t DATABASE_SIZE_LIMIT = 256u << 20;
+
+// More than any inventory of a size can hold, and little enough for memory.
+constexpr std::size_t BASE_ROWS     = 100'000;
+constexpr std::size_t BYTES_PER_ROW = 8;
+constexpr std::size_t BASE_TEXT     = 16u << 20;
+constexpr std::size_t TEXT_PER_BYTE = 4;
+
+// A link to nowhere counts as standing there: it is a mistake to be told.
+bool standsThere(const std::string& strPath)
+{
+    struct ::stat stStatus = {};
+    return ::lstat(strPath.c_str(), &stStatus) == 0;
+}
+
+std::size_t databaseSize(const std::string& strPath)
+{
+    struct ::stat stStatus = {};
+    if (::stat(strPath.c_str(), &stStatus) != 0)
+        throw CInventoryError("cannot be read: " + std::generic_category().message(errno));
+    if (!S_ISREG(stStatus.st_mode))
+        throw CInventoryError("not a file");
+    if (static_cast<std::size_t>(stStatus.st_size) > DATABASE_SIZE_LIMIT)
+        throw CInventoryError("larger than 256 MB");
+    return static_cast<std::size_t>(stStatus.st_size);
+}
+
+void bindText(sqlite3_stmt* pStatement, const char* pszText)
+{
+    sqlite3_bind_text(pStatement, 1, pszText, -1, SQLITE_STATIC);
+}
+
+// Tables only: a view, a virtual table or a generated column would run
+// expressions of the file.
+void checkTable(CSqlite& oDb, const StInventoryTable& stTable)
+{
+    const StatementPtr oTable =
+        oDb.prepare("SELECT 1 FROM sqlite_master WHERE type='table' AND rootpage>0 AND name=?1 COLLATE NOCASE");
+    bindText(oTable.get(), stTable.pszName);
+    if (!oDb.step(oTable.get()))
+        throw CInventoryError(std::string("table ") + stTable.pszName + " is missing");
+
+    const StatementPtr       oColumns = oDb.prepare("SELECT lower(name) FROM pragma_table_info(?1)");
+    std::vector<std::string> lstFound;
+    bindText(oColumns.get(), stTable.pszName);
+    while (oDb.step(oColumns.get()))
+        lstFound.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(oColumns.get(), 0)));
+    for (const char* pszColumn : stTable.lstColumn)
+        if (std::find(lstFound.begin(), lstFound.end(), pszColumn) == lstFound.end())
+            throw CInventoryError(std::string("table ") + stTable.pszName + ": column " + pszColumn + " is missing");
+}
+
+std::string selectOf(const StInventoryTable& stTable)
+{
+    std::string strSql = "SELECT ";
+    for (const char* pszColumn : stTable.lstColumn)
+        strSql.append(pszColumn == stTable.lstColumn.front() ? "\"" : ", \"").append(pszColumn).append("\"");
+    return strSql.append(" FROM main.").append(stTable.pszName).append(" ORDER BY ").append(stTable.pszOrder);
+}
+
+void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
+{
+    StRowBudget stBudget{BASE_ROWS + nSize / BYTES_PER_ROW, BASE_TEXT + TEXT_PER_BYTE * nSize};
+    oDb.startClock(nSize);
+    for (const StInventoryTable& stTable : inventoryTables())
+    {
+        const StatementPtr oRows = oDb.prepare(selectOf(stTable));
+        CInventoryRow      oRow(oDb, oRows.get(), stTable.pszName, stBudget);
+        while (oRow.next())
+            stTable.pfnAdd(oRow, stInventory);
+    }
+    stInventory.buildIndexes();
+}
+
+void readDatabase(const std::string& strPath, StInventory& stInventory)
+{
+    const std::size_t nSize = databaseSize(strPath);
+    CSqlite           oDb   = CSqlite::openFile(strPath);
+    oDb.startClock(nSize);
+    oDb.execute("BEGIN"); // one state of the file for all tables
+    for (const StInventoryTable& stTable : inventoryTables())
+        checkTable(oDb, stTable);
+    readTables(oDb, nSize, stInventory);
+}
+
+// The messages of what is below name no file.
+template <typename Read>
+void namingFile(const std::string& strPath, Read fnRead)
+{
+    try
+    {
+        fnRead();
+    }
+    catch (const CInventoryError& oProblem)
+    {
+        throw CInventoryError(strPath + ": " + oProblem.what());
+    }
+}
+} // namespace
+
+StInventory readInventory(const std::string& strFolder)
+{
+    StInventory stInventory;
+    stInventory.strRoot = strFolder;
+    while (!stInventory.strRoot.empty() && stInventory.strRoot.back() == '/')
+        stInventory.strRoot.pop_back();
+
+    const std::string strDatabase = stInventory.strRoot + "/server.db";
+    const std::string strScript   = stInventory.strRoot + "/server.sql";
+    if (standsThere(strDatabase))
+    {
+        namingFile(strDatabase, [&] { readDatabase(strDatabase, stInventory); });
+        return stInventory;
+    }
+    if (!standsThere(strScript))
+        throw CInventoryError(strFolder + ": no inventory: neither server.db nor server.sql is there");
+    std::size_t nSize = 0;
+    CSqlite     oDb   = runInventoryScript(strScript, nSize);
+    namingFile(strScript, [&] { readTables(oDb, nSize, stInventory); });
+    return stInventory;
+}
+} // namespace standalone

@@ -1,0 +1,54 @@
+// See ServerRoot.h. The only place where the reader's exceptions end.
+#include "standalone/ServerRoot.h"
+
+#include "standalone/InventoryReader.h"
+#include "standalone/Sqlite.h"
+
+#include <cerrno>
+#include <exception>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace standalone
+{
+namespace
+{
+// Why the folder cannot be a root at all; empty when it can.
+std::string folderProblem(const std::string& strFolder)
+{
+    struct ::stat stStatus = {};
+    if (strFolder.empty())
+        return "no server root given";
+    if (::stat(strFolder.c_str(), &stStatus) != 0)
+        return strFolder + ": cannot be opened: " + std::generic_category().message(errno);
+    return S_ISDIR(stStatus.st_mode) ? std::string() : strFolder + ": not a folder";
+}
+} // namespace
+
+bool openServerRoot(const std::string& strFolder, std::string& strError)
+{
+    try
+    {
+        strError = folderProblem(strFolder);
+        if (!strError.empty())
+            return false;
+        setCurrentInventory(std::make_shared<const StInventory>(readInventory(strFolder)));
+        return true;
+    }
+    catch (const CInventoryError& oProblem)
+    {
+        strError = oProblem.what();
+    }
+    catch (const std::exception& oProblem) // out of memory
+    {
+        strError = strFolder + ": cannot be read: " + oProblem.what();
+    }
+    return false;
+}
+
+void closeServerRoot()
+{
+    setCurrentInventory(nullptr);
+}
+} // namespace standalone

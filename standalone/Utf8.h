@@ -1,0 +1,20 @@
+// UTF-8, as far as the inventory and the log need it. Called by the inventory
+// reader, which refuses other texts, and by the log lines, which replace them.
+// Plain functions without state.
+#ifndef OPERATIONXML_STANDALONE_UTF8_H
+#define OPERATIONXML_STANDALONE_UTF8_H
+
+#include <cstddef>
+#include <string_view>
+
+namespace standalone
+{
+// Bytes of the character that starts at nAt; 0 when no whole, shortest-form
+// character stands there.
+std::size_t utf8Length(std::string_view strText, std::size_t nAt);
+
+// The first byte that belongs to no character, or npos.
+std::size_t findInvalidUtf8(std::string_view strText);
+} // namespace standalone
+
+#endif
