@@ -11,7 +11,7 @@ std::uint32_t readSections(const LocationInfo& stWhere, const StSection& stSecti
         return logFail(stWhere, stSection.ulNoArgument, stSection.pszNoParser);
     if (pLstOut == nullptr && stSection.pszNoList != nullptr)
         return logFail(stWhere, stSection.ulNoArgument, stSection.pszNoList);
-    if (documentOf(pDOMParser) == nullptr)
+    if (pDOMParser == nullptr || documentOf(pDOMParser) == nullptr)
         return logFail(stWhere, DC_RESULT_XML_ERROR, stSection.pszNoDocument);
     for (const DOMElement* pSection : documentElements(*pDOMParser, stSection.pszElement))
         fnFill(*pSection);

@@ -12,10 +12,14 @@
 // nDepth elements of the name inside each other.
 inline std::string nested(const std::string& strName, unsigned nDepth)
 {
-    std::string strXml = "<" + strName + "/>";
-    for (; nDepth > 1; --nDepth)
-        strXml = "<" + strName + ">" + strXml + "</" + strName + ">";
-    return strXml;
+    std::string strOpening;
+    std::string strClosing;
+    for (; nDepth > 0; --nDepth)
+    {
+        strOpening.append("<").append(strName).append(">");
+        strClosing.append("</").append(strName).append(">");
+    }
+    return strOpening + strClosing;
 }
 
 class CForeignXml
