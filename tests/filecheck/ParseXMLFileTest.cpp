@@ -124,6 +124,7 @@ TEST(ParseXMLFileTest, EightThreadsReadAtOnceEachIntoItsOwnMap)
     const std::string                  strTorn = oRoot.write("torn.xml", "<zipcheck>");
     std::vector<ParseXMLFile::TypeMap> lstMap(8);
     std::vector<std::thread>           lstThread;
+    lstThread.reserve(lstMap.size());
     for (ParseXMLFile::TypeMap& mapType : lstMap)
         lstThread.emplace_back(
             [&]
