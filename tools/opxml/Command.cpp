@@ -1,0 +1,16 @@
+// See Command.h.
+#include "Command.h"
+
+#include "standalone/LogSink.h"
+#include "standalone/ServerRoot.h"
+
+void openRoot(const StGlobalOptions& stOptions)
+{
+    std::string strError;
+    if (!stOptions.strLogFile.empty() && !standalone::setJsonLog(stOptions.strLogFile, strError))
+        throw CTrouble(strError);
+    if (stOptions.bVerbose)
+        standalone::setConsoleLog(standalone::EnConsoleLevel::All);
+    if (!standalone::openServerRoot(stOptions.strRoot, strError))
+        throw CTrouble(strError);
+}
