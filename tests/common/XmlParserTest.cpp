@@ -1,0 +1,220 @@
+// What becomes of a file: a whole document, or none and the reason.
+#include "TestSupport.h"
+#include "common/XmlLimits.h"
+#include "records/ResultCodes.h"
+#include "sections/CDevOpXMLConfig.h"
+#include "sections/ForeignXml.h"
+
+#include <fmt/format.h>
+
+#include <sys/stat.h>
+
+namespace
+{
+struct StRefusedCase
+{
+    const char* pszName;
+    std::string strXml;
+    const char* pszProblem; // a part of it
+};
+class RefusedDocumentTest : public testing::TestWithParam<StRefusedCase>
+{
+};
+
+TEST_P(RefusedDocumentTest, LeavesNoDocument)
+{
+    CTempServerRoot   oRoot;
+    const std::string strPath = oRoot.write("a.xml", GetParam().strXml);
+    const auto        pParser = CXmlParser::create();
+    pParser->parseText("<a><b/></a>"); // must not shine through
+    pParser->parseFile(strPath);
+    EXPECT_EQ(nullptr, pParser->getDocument());
+    EXPECT_THAT(pParser->elements(u"b"), testing::IsEmpty());
+    EXPECT_THAT(pParser->problem(), testing::HasSubstr(GetParam().pszProblem));
+    std::list<StAsnOperation> lstOper;
+    EXPECT_EQ(DC_RESULT_XML_ERROR, CDevOpXMLConfig().setDevOperXMLConfig(pParser.get(), &lstOper));
+}
+
+// Every entity stands ten times in the next one.
+std::string entityBomb()
+{
+    std::string strXml = "<!DOCTYPE a [<!ENTITY e0 'ha'>";
+    for (int nLevel = 1; nLevel < 9; ++nLevel)
+    {
+        std::string strTen;
+        for (int nTimes = 0; nTimes < 10; ++nTimes)
+            strTen += fmt::format("&e{};", nLevel - 1);
+        strXml += fmt::format("<!ENTITY e{} '{}'>", nLevel, strTen);
+    }
+    return strXml + "]><a><b/>&e8;</a>";
+}
+
+INSTANTIATE_TEST_SUITE_P(Text, RefusedDocumentTest,
+                         testing::ValuesIn(std::vector<StRefusedCase>{
+                             {"Empty", "", "line 1"},
+                             {"OnlyBlanks", " \n ", "line"},
+                             {"OnlyAComment", "<!-- -->", "line 1"},
+                             {"TornOff", "<a>\n<b/><c", "line 2"},
+                             {"EndTagMissing", "<a><b/>", "line 1"},
+                             {"TwoRoots", "<a><b/></a><a/>", "line 1, column"},
+                             {"InvalidUtf8", "<?xml version='1.0' encoding='UTF-8'?><a><b/>\xC3(</a>", "line 1"},
+                             {"OtherEncodingDeclared", "<?xml version='1.0' encoding='US-ASCII'?><a><b/>\xC3\xB6</a>", "line 1"},
+                             {"UnknownEncoding", "<?xml version='1.0' encoding='none-such'?><a><b/></a>", "line 1"},
+                             {"NulByte", std::string("<a><b/>\0</a>", 12), "line 1"},
+                             {"ExternalDtd", "<!DOCTYPE a SYSTEM 'file:///etc/hostname'><a><b/></a>", "line 1"},
+                             {"ExternalEntity",
+                              "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/>&e;</a>", "line 1"},
+                             {"ExternalParameterEntity",
+                              "<!DOCTYPE a [<!ENTITY % e SYSTEM 'http://localhost:1/'>%e;]><a><b/></a>", "line 1"},
+                             {"EntityOfItself", "<!DOCTYPE a [<!ENTITY e '&e;'>]><a><b/>&e;</a>", "line 1"},
+                             {"EntityBomb", entityBomb(), "line 1"},
+                         }),
+                         rowName<StRefusedCase>);
+
+TEST(XmlParserTest, RefusesWhatIsNoFile)
+{
+    CTempServerRoot   oRoot;
+    const std::string strPipe = oRoot.path() + "/pipe";
+    ASSERT_EQ(0, ::mkfifo(strPipe.c_str(), 0600));
+    const struct
+    {
+        std::string strPath;
+        const char* pszProblem;
+    } CASES[] = {
+        {oRoot.path() + "/none.xml", "No such file or directory"},
+        {oRoot.path(), "not a regular file"},
+        {strPipe, "not a regular file"}, // and nobody waits for a writer
+        {"/dev/null", "not a regular file"},
+        {"", "No such file or directory"},
+    };
+    const auto pParser = CXmlParser::create();
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.strPath);
+        pParser->parseText("<a/>");
+        pParser->parseFile(stCase.strPath);
+        EXPECT_EQ(nullptr, pParser->getDocument());
+        EXPECT_EQ(stCase.pszProblem, pParser->problem());
+    }
+}
+
+TEST(XmlParserTest, EveryTruncationIsRefused)
+{
+    const std::string strXml  = "<?xml version='1.0'?><a x='1'><b>t&amp;</b><!-- c --><![CDATA[d]]></a>";
+    const auto        pParser = CXmlParser::create();
+    for (std::size_t nLength = 0; nLength < strXml.size(); ++nLength)
+    {
+        pParser->parseText(std::string_view(strXml).substr(0, nLength));
+        EXPECT_EQ(nullptr, pParser->getDocument()) << nLength;
+    }
+    pParser->parseText(strXml);
+    EXPECT_NE(nullptr, pParser->getDocument());
+}
+
+TEST(XmlParserTest, AGoodParseReplacesWhatWasThere)
+{
+    const auto pParser = CXmlParser::create();
+    for (const char* pszXml : {"<a><b/></a>", "<a><b/><b/>", "<a><c/><c/></a>"})
+        pParser->parseText(pszXml);
+    EXPECT_EQ("", pParser->problem());
+    EXPECT_THAT(pParser->elements(u"b"), testing::IsEmpty());
+    EXPECT_THAT(pParser->elements(u"c"), testing::SizeIs(2));
+    EXPECT_THAT(pParser->elements(u"a"), testing::ElementsAre(pParser->getDocument()->getDocumentElement()));
+}
+
+TEST(XmlParserTest, EntitiesOfTheFileItselfAreRead)
+{
+    const auto pParser = CXmlParser::create();
+    pParser->parseText("<!DOCTYPE a [<!ENTITY e '<b/>'>]><a>&e;&e;</a>");
+    EXPECT_EQ("", pParser->problem());
+    EXPECT_THAT(pParser->elements(u"b"), testing::SizeIs(2));
+}
+
+// Elements inside each other, all of different names.
+std::string ladder(std::size_t nDepth)
+{
+    std::string strXml;
+    for (std::size_t nAt = nDepth; nAt > 0; --nAt)
+        strXml = fmt::format("<e{}>{}</e{}>", nAt, strXml, nAt);
+    return strXml;
+}
+
+// Chains of sub items that are read exactly so many times more than once each:
+// the element below n of its kind is read 2^n times.
+std::string repeatedReads(std::uint64_t nReads)
+{
+    std::string strXml;
+    for (unsigned nDepth = 16; nDepth > 1; --nDepth)
+    {
+        const std::uint64_t nChain = (std::uint64_t{1} << nDepth) - 1 - nDepth;
+        for (; nReads >= nChain; nReads -= nChain)
+            strXml += nested("SubItem", nDepth);
+    }
+    return "<a>" + strXml + "</a>";
+}
+
+TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
+{
+    using namespace XmlLimits;
+    const std::string strSameName   = "elements \"b\" are nested in each other too deep";
+    const std::string strReads      = "elements \"SubItem\" are nested so that they would be read too many times";
+    const std::string strExpansions = "<!DOCTYPE a [<!ENTITY e 't'>]><a>";
+    const auto        fnExpansions  = [&](unsigned nTimes)
+    {
+        std::string strXml = strExpansions;
+        for (; nTimes > 0; --nTimes)
+            strXml += "&e;";
+        return strXml + "</a>";
+    };
+    const struct
+    {
+        const char* pszName;
+        std::string strXml;
+        std::string strProblem;
+    } CASES[] = {
+        {"Depth", ladder(MAX_DEPTH), ""},
+        {"DepthPassed", ladder(MAX_DEPTH + 1), "elements \"e101\" are nested too deep"},
+        {"SameName", nested("b", MAX_SAME_NAME_DEPTH), ""},
+        {"SameNamePassed", nested("b", MAX_SAME_NAME_DEPTH + 1), strSameName},
+        {"SameNameWithOthersBetween", "<c>" + nested("b", MAX_SAME_NAME_DEPTH) + "</c>", ""},
+        {"SameNameSideBySide", "<c>" + nested("b", MAX_SAME_NAME_DEPTH) + nested("b", 1) + "</c>", ""},
+        {"RepeatedReads", repeatedReads(MAX_REPEATED_READS), ""},
+        {"RepeatedReadsPassed", repeatedReads(MAX_REPEATED_READS + 1), strReads},
+        {"Expansions", fnExpansions(MAX_ENTITY_EXPANSION), ""},
+    };
+    const auto pParser = CXmlParser::create();
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        pParser->parseText(stCase.strXml);
+        EXPECT_EQ(stCase.strProblem, pParser->problem());
+        EXPECT_EQ(stCase.strProblem.empty(), pParser->getDocument() != nullptr);
+    }
+    pParser->parseText(fnExpansions(MAX_ENTITY_EXPANSION + 1));
+    EXPECT_EQ(nullptr, pParser->getDocument());
+}
+
+// A parser that a caller made: its document counts unless it failed half-way.
+TEST(XmlParserTest, ForeignParserIsHeldToTheSameRules)
+{
+    const struct
+    {
+        const char*   pszXml;
+        std::uint32_t ulResult;
+        std::size_t   nOperations;
+    } CASES[] = {
+        {"<DeviceOperation><Operation/><Operation/></DeviceOperation>", 0, 2}, // the root is a section itself
+        {"<a><DeviceOperation><Operation/></DeviceOperation><DeviceOperation><Operation/></DeviceOperation></a>", 0, 2},
+        {"<a><DeviceOperation><Operation/></DeviceOperation>", DC_RESULT_XML_ERROR, 0},
+        {"", DC_RESULT_XML_ERROR, 0},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszXml);
+        CForeignXml               oXml(stCase.pszXml);
+        std::list<StAsnOperation> lstOper;
+        EXPECT_EQ(stCase.ulResult, CDevOpXMLConfig().setDevOperXMLConfig(oXml.parser(), &lstOper));
+        EXPECT_EQ(stCase.nOperations, lstOper.size());
+    }
+}
+} // namespace

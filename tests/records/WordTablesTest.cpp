@@ -1,0 +1,90 @@
+// Words and the numbers that the client knows them by, and the switch of the
+// fixed checks.
+#include "records/WordTables.h"
+#include "TestSupport.h"
+#include "records/Vocabulary.h"
+
+using namespace DCAsn1ClientToServer;
+
+namespace
+{
+TEST(WordTablesTest, TaskTypesHaveTwoNumbers)
+{
+    const struct
+    {
+        const char*  pszName;
+        std::int32_t nTaskType;   // -1: no such name
+        std::int32_t nConfigType; // of the task configuration
+    } CASES[] = {
+        {"SoftwareUpgrade", 0, 0},
+        {"SoftwareDowngrade", 1, 1},
+        {"PatchUpdate", 2, 2},
+        {"SimulationPackageUpgrade", 3, 3},
+        {"PackageUpgrade", 4, 4},
+        {"PackageDowngrade", 9, 13},
+        {"PackageDiffusion", 5, 5},
+        {"PackageDiffusionDowngrade", 8, 12},
+        {"OLTAgentUpgrade", 7, 7},
+        {"OpticalModuleUpgrade", 14, 15},
+        {"NuboMeterUpgrade", 16, 16},
+        {"ConfTransferUpgradeTask", 17, 17},
+        {"softwareupgrade", -1, -1},
+        {"PackageUpgrade ", -1, -1},
+        {"", -1, -1},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        const StTaskTypeWord* pWord = findTaskType(stCase.pszName);
+        EXPECT_EQ(stCase.nTaskType, getTaskTypeByName(stCase.pszName));
+        EXPECT_EQ(stCase.nConfigType, pWord == nullptr ? -1 : std::int32_t{pWord->enConfigType});
+    }
+}
+
+TEST(WordTablesTest, WordsCompareExactly)
+{
+    const struct
+    {
+        const char*  pszWord;
+        std::int32_t nLevel;     // falls back to DeviceLevel
+        std::int32_t nOperation; // falls back to UnknownOperation
+        std::int32_t nIsolation; // its own three kinds
+    } CASES[] = {
+        {"DeviceLevel", 0, 6, 6},     {"BoardLevel", 1, 6, 6},      {"Both", 2, 6, 6},
+        {"Both ", 0, 6, 6},           {"boardlevel", 0, 6, 6},      {"", 0, 6, 6},
+        {"DeviceOperation", 0, 0, 0}, {"TaskOperation", 0, 1, 1},   {"PatchOperation", 0, 2, 6},
+        {"CheckOperation", 0, 3, 6},  {"CustomOperation", 0, 4, 6}, {"OtherOperation", 0, 5, 6},
+        {"BoardOperation", 0, 6, 7},  {"Operation", 0, 6, 6},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszWord);
+        EXPECT_EQ(stCase.nLevel, wordValue(stCase.pszWord, OPERATION_LEVEL_WORDS, DeviceLevel));
+        EXPECT_EQ(stCase.nOperation, wordValue(stCase.pszWord, TYPE_REF_WORDS, UnknownOperation));
+        EXPECT_EQ(stCase.nIsolation, wordValue(stCase.pszWord, ISOLATION_TYPE_REF_WORDS, UnknownOperation));
+    }
+}
+
+TEST(WordTablesTest, FixedChecksAreOnAtExactlyOne)
+{
+    const struct
+    {
+        const char* pszItem;
+        bool        bEnabled;
+    } CASES[] = {
+        {"", false},
+        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 1);", true},
+        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 0);", false},
+        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 2);", false},
+        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', -1);", false},
+        {"INSERT INTO config_item VALUES ('XX', 'FIXED_CHECK_ITEM', 1);", false},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszItem);
+        CTempServerRoot oRoot;
+        oRoot.open(stCase.pszItem);
+        EXPECT_EQ(stCase.bEnabled, isFixedCheckEnabled());
+    }
+}
+} // namespace
