@@ -31,6 +31,8 @@ bool isTooComplex(const StSqlStatement& stStatement)
     return stStatement.nSelects > 0 && nLength > SELECT_LENGTH;
 }
 
+constexpr std::size_t STATEMENT_SHOWN = 80;
+
 constexpr std::string_view ALLOWED_FUNCTIONS[] = {
     "abs",   "char", "coalesce", "count",     "format", "glob", "group_concat", "hex",    "ifnull",  "iif",
     "instr", "like", "lower",    "ltrim",     "max",    "min",  "nullif",       "printf", "replace", "round",
@@ -114,8 +116,9 @@ CSqlite runInventoryScript(const std::string& strPath, std::size_t& nSize)
         catch (const CInventoryError& oProblem)
         {
             const auto nLength = stStatement.nEnd - stStatement.nStart;
-            throw CInventoryError(placeOf(strPath, strText, stStatement.nStart) + oProblem.what() + ": " +
-                                  abbreviate(std::string_view(strText).substr(stStatement.nStart, nLength)));
+            throw CInventoryError(
+                placeOf(strPath, strText, stStatement.nStart) + oProblem.what() + ": " +
+                abbreviate(std::string_view(strText).substr(stStatement.nStart, nLength), STATEMENT_SHOWN));
         }
     }
     sqlite3_set_authorizer(oDb.handle(), nullptr, nullptr);

@@ -10,7 +10,6 @@ namespace standalone
 {
 namespace
 {
-constexpr std::size_t      MESSAGE_LENGTH  = 80;
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF"; // a blank to SQLite
 
 bool isBlank(char chByte)
@@ -94,21 +93,22 @@ StSqlStatement nextStatement(std::string_view strSql, std::size_t nFrom)
     return stStatement;
 }
 
-std::string abbreviate(std::string_view strStatement)
+std::string abbreviate(std::string_view strText, std::size_t nLength)
 {
     std::string strOut;
-    for (std::size_t nAt = 0; nAt < strStatement.size();)
+    for (std::size_t nAt = 0; nAt < strText.size();)
     {
-        const std::size_t      nLength      = std::max<std::size_t>(utf8Length(strStatement, nAt), 1);
-        const std::string_view strCharacter = strStatement.substr(nAt, nLength);
-        const bool             bControl =
-            nLength == 1 && (static_cast<unsigned char>(strCharacter[0]) <= ' ' || strCharacter[0] == 0x7F);
-        if (!bControl)
+        const std::size_t      nBytes       = utf8Length(strText, nAt);
+        const std::string_view strCharacter = strText.substr(nAt, std::max<std::size_t>(nBytes, 1));
+        const bool             bBlank = strCharacter[0] >= 0 && (strCharacter[0] <= ' ' || strCharacter[0] == 0x7F);
+        if (nBytes == 0)
+            strOut += '?';
+        else if (!bBlank)
             strOut += strCharacter;
         else if (!strOut.empty() && strOut.back() != ' ')
             strOut += ' ';
-        nAt += nLength;
-        if (strOut.size() >= MESSAGE_LENGTH && nAt < strStatement.size())
+        nAt += strCharacter.size();
+        if (strOut.size() >= nLength && nAt < strText.size())
             return strOut + "...";
     }
     return strOut;

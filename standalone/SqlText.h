@@ -21,8 +21,9 @@ struct StSqlStatement
 // The statement at or behind a position. nStart equals nEnd at the end of the text.
 StSqlStatement nextStatement(std::string_view strSql, std::size_t nFrom);
 
-// A statement on one line, cut to a readable length, for a message.
-std::string abbreviate(std::string_view strStatement);
+// A text on one line, cut to a readable length, without control characters and
+// broken bytes: for a message that quotes a statement or SQLite's words.
+std::string abbreviate(std::string_view strText, std::size_t nLength);
 } // namespace standalone
 
 #endif

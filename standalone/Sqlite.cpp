@@ -1,6 +1,8 @@
 // See Sqlite.h.
 #include "standalone/Sqlite.h"
 
+#include "standalone/SqlText.h"
+
 #include <array>
 #include <fstream>
 #include <sys/stat.h>
@@ -11,6 +13,8 @@ namespace
 {
 constexpr int LOCK_WAIT_MS    = 1000;
 constexpr int STEPS_PER_CHECK = 100;
+
+constexpr std::size_t MESSAGE_SHOWN = 200;
 
 // Room for any inventory, and more for a large one.
 constexpr std::chrono::milliseconds BASE_TIME{1500};
@@ -166,7 +170,7 @@ std::string CSqlite::problem() const
     case SQLITE_FULL:
         return "too much data for an inventory of this size";
     default:
-        return sqlite3_errmsg(m_pDb.get());
+        return abbreviate(sqlite3_errmsg(m_pDb.get()), MESSAGE_SHOWN); // it may quote the file at length
     }
 }
 } // namespace standalone

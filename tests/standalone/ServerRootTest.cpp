@@ -1,0 +1,85 @@
+// Which folders are server roots, and that a failure leaves things as they were.
+#include "InventoryFixture.h"
+
+#include "platform/DeviceAdapter.h"
+#include "platform/DeviceDatabase.h"
+#include "platform/Paths.h"
+#include "platform/Settings.h"
+#include "records/OperationRecords.h"
+
+namespace
+{
+std::string problemOf(const std::string& strFolder)
+{
+    std::string strError;
+    return standalone::openServerRoot(strFolder, strError) ? "opened" : strError;
+}
+
+TEST(ServerRoot, SaysWhyAFolderIsNone)
+{
+    CTempServerRoot   oRoot;
+    const std::string strPath = oRoot.path();
+    EXPECT_EQ("no server root given", problemOf(""));
+    EXPECT_EQ(strPath + "/none: cannot be opened: No such file or directory", problemOf(strPath + "/none"));
+    EXPECT_EQ(strPath + ": no inventory: neither server.db nor server.sql is there", problemOf(strPath));
+    const std::string strFile = oRoot.write("server.sql", "");
+    EXPECT_EQ(strFile + ": not a folder", problemOf(strFile));
+    EXPECT_EQ("opened", problemOf(strPath));
+}
+
+TEST(ServerRoot, FailureKeepsTheOpenRoot)
+{
+    CTempServerRoot oGood;
+    oGood.open("INSERT INTO setting VALUES('a','good');");
+    CTempServerRoot oBad;
+    oBad.write("server.sql", "INSERT INTO setting VALUES('a','bad'); nonsense;");
+    EXPECT_NE("opened", problemOf(oBad.path()));
+    std::string strValue;
+    EXPECT_EQ(0u, CDCSettingInfoTab::Instance()->getValueByParam("a", strValue));
+    EXPECT_EQ("good", strValue);
+}
+
+TEST(ServerRoot, PathsStartWithTheFolderAsGiven)
+{
+    CTempServerRoot oRoot;
+    oRoot.write("server.sql", "INSERT INTO environment VALUES('APP_ROOT','${ROOT}/x/${ROOT}');"
+                              "INSERT INTO config_file VALUES('Rel','a/b.xml'), ('Abs','/c.xml'), ('None','');");
+    ASSERT_EQ("opened", problemOf(oRoot.path() + "//"));
+    std::string strServerPath = "before";
+    NS_UTIL::EmfGetServerPath_DC(strServerPath);
+    EXPECT_EQ(oRoot.path(), strServerPath);
+    NS_UTIL::AppendDirSeparator(strServerPath);
+    NS_UTIL::AppendDirSeparator(strServerPath);
+    EXPECT_EQ(oRoot.path() + "/", strServerPath);
+
+    using ns_kivosdk_wrap::GetEnvValue;
+    EXPECT_EQ(oRoot.path() + "/x/" + oRoot.path(), GetEnvValue("APP_ROOT", false, true));
+    EXPECT_EQ("${ROOT}/x/${ROOT}", GetEnvValue("APP_ROOT", false, false));
+    EXPECT_EQ(oRoot.path() + "/", GetEnvValue("ENV_ROOT", false, true));
+    EXPECT_EQ("en_US/", GetEnvValue("OSS_LANG", false, true));
+    EXPECT_EQ("", GetEnvValue("HOME", false, true));
+    EXPECT_EQ(oRoot.path() + "/xml", CDeviceAdapterInterface::getInstance()->initXMLPath());
+
+    std::string strFile;
+    EXPECT_EQ(0u, CDeviceAdapterInterface::getInstance()->getServerConfigFile("Rel", strFile));
+    EXPECT_EQ(oRoot.path() + "/a/b.xml", strFile);
+    EXPECT_EQ(0u, CDeviceAdapterInterface::getInstance()->getServerConfigFile("Abs", strFile));
+    EXPECT_EQ("/c.xml", strFile);
+    EXPECT_EQ(0u, CDeviceAdapterInterface::getInstance()->getServerConfigFile("None", strFile));
+    EXPECT_EQ("", strFile);
+}
+
+TEST(ServerRoot, ServicesSayThatNoneIsOpen)
+{
+    std::list<StDeviceType>    lstType;
+    std::list<StAsnDevVersion> lstVersion;
+    std::string                strText = "kept";
+    EXPECT_EQ(standalone::RESULT_NO_ROOT, CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstType));
+    EXPECT_EQ(standalone::RESULT_NO_ROOT, CDCSettingInfoTab::Instance()->getValueByParam("a", strText));
+    EXPECT_EQ("kept", strText);
+    EXPECT_FALSE(CDCDeviceInfoDB::getDevVerInfo("A", "V1", lstVersion));
+    EXPECT_EQ(9, NS_UTIL::CConfigItem::Instance()->readCfgItemIntValueFromDB("DC", "X", 9));
+    EXPECT_EQ(300, CCompatibleAdapter::getCompatibleDevType(300));
+    EXPECT_EQ("", ns_kivosdk_wrap::GetEnvValue("APP_ROOT", false, true));
+}
+} // namespace
