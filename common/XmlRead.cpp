@@ -50,11 +50,13 @@ bool isNestedTooDeep(const DOMElement& oElement)
     const XMLCh* pszName   = oElement.getNodeName();
     for (const DOMNode* pNode = oElement.getParentNode(); pNode != nullptr; pNode = pNode->getParentNode())
     {
+        if (pNode->getNodeType() != DOMNode::ELEMENT_NODE)
+            continue; // an entity reference is no level, whatever its name
         // Names of one document are pooled, so equal names are one pointer.
         nSameName += pNode->getNodeName() == pszName ? 1 : 0;
         ++nDepth;
     }
-    return nDepth > XmlLimits::MAX_DEPTH || nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH;
+    return nDepth >= XmlLimits::MAX_DEPTH || nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH;
 }
 } // namespace
 
