@@ -61,7 +61,10 @@ std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysO
 {
     const _TraceFunction oTrace(DC_HERE);
     if (!NS_UTIL::IsExists(strFilePath))
-        return logFail(DC_HERE, DC_RESULT_FILE_NOT_EXIST, "Server config File :" + strFilePath + " not exist.");
+    {
+        logFail(DC_HERE, DC_RESULT_INVALID_PARA, "Server config File :" + strFilePath + " not exist.");
+        return DC_RESULT_FILE_NOT_EXIST; // missing files are logged under another code everywhere
+    }
     const std::unique_ptr<CXmlParser> pParser = CXmlParser::create();
     if (pParser != nullptr)
         pParser->parseFile(strFilePath);

@@ -82,9 +82,10 @@ std::uint32_t CModuleXMLResReader::parseXMLOfDirs(const std::string& strFolder, 
 bool CModuleXMLResReader::isFirstVisit(const std::string& strFolder)
 {
     struct stat oStatbuf = {};
-    // A folder that was opened but cannot be asked who it is cannot be known again.
+    // A folder that was opened but cannot be asked who it is counts as new: its
+    // modules must not be lost, and a path that goes round ends at the system's limit.
     if (KIVO_OS::stat(strFolder.c_str(), &oStatbuf, UTF8) != 0)
-        return false;
+        return true;
     return m_setFolder.emplace(oStatbuf.st_dev, oStatbuf.st_ino).second;
 }
 
@@ -106,7 +107,10 @@ std::uint32_t CModuleXMLResReader::initialize(const std::string& strPath, CXmlPa
 {
     const _TraceFunction oTrace(DC_HERE);
     if (!NS_UTIL::IsExists(strPath))
-        return logFail(DC_HERE, DC_RESULT_FILE_NOT_EXIST, "Server config File :" + strPath + " not exist.");
+    {
+        logFail(DC_HERE, DC_RESULT_INVALID_PARA, "Server config File :" + strPath + " not exist.");
+        return DC_RESULT_FILE_NOT_EXIST; // missing files are logged under another code everywhere
+    }
     if (pXmlParser == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, " pXmlParser is null :");
     pXmlParser->parseFile(strPath);
