@@ -38,8 +38,9 @@ public:
 
     // Capacity mode: one record for each distinct configuration among the
     // versions in service, each naming all its versions. A version that cannot be
-    // read is named in the log and left out; the result is not 0 when no version
-    // gave a record, and the list is then as it came.
+    // read is named in the log and left out; the result is not 0 when one failed
+    // and none gave a record, and the list is then as it came. No version with a
+    // capacity record is no failure: 0, and nothing is appended.
     std::uint32_t parseCapacityXML(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
     // Finds and parses the separate (telnet) check file, which then replaces the

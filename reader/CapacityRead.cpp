@@ -62,13 +62,13 @@ std::uint32_t CDevTypeXMLResReader::readVersions(const LocationInfo& stWhere, co
                                                  const std::list<StAsnDevVersion>&   lstVersion,
                                                  std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
 {
+    std::uint32_t             ulFailed = DC_RESULT_OK;
     std::list<StCapacityInfo> lstCapacity;
     if (!CDCCapacityManagerDB::readCapacity(m_strDevType, m_strDevTypeVer, lstCapacity))
-        logFail(stWhere, DC_RESULT_FILE_NOT_EXIST, "readCapacity failed");
+        ulFailed = logFail(stWhere, DC_RESULT_FILE_NOT_EXIST, "readCapacity failed");
 
     // A version that cannot be read does not cost the others their configuration.
-    std::uint32_t ulFailed       = DC_RESULT_OK;
-    bool          bCapacityGiven = true;
+    bool bCapacityGiven = true;
     for (const StAsnDevVersion& stAsnDevVersion : lstVersion)
     {
         const StCapacityInfo* pCapacity = findCapacity(lstCapacity, stAsnDevVersion);
@@ -91,10 +91,9 @@ std::uint32_t CDevTypeXMLResReader::readVersions(const LocationInfo& stWhere, co
     if (!bCapacityGiven)
         logFail(stWhere, DC_RESULT_FILE_NOT_EXIST,
                 " The capacity XML file is not exist for DeviceType:" + m_strDevType);
-    // A type of which no version could be read has not been read.
-    if (!lstInfo.empty())
-        return DC_RESULT_OK;
-    return ulFailed != DC_RESULT_OK ? ulFailed : DC_RESULT_FILE_NOT_EXIST;
+    // A type of which no version could be read has not been read. One whose
+    // versions merely have no capacity record has: it offers nothing.
+    return lstInfo.empty() ? ulFailed : DC_RESULT_OK;
 }
 
 std::uint32_t CDevTypeXMLResReader::readVersion(const LocationInfo& stWhere, const StDeviceType& oStDeviceType,
