@@ -156,7 +156,8 @@ bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo)
         return false;
     if (!pAdapter->isV3R7Device(ulTypeID))
         return true;
-    if (ulTypeID != CCompatibleAdapter::getCompatibleDevType(static_cast<std::uint16_t>(ulTypeID)))
+    const auto usTypeID = static_cast<std::uint16_t>(ulTypeID); // compatibility knows 16 bits of an id
+    if (usTypeID != CCompatibleAdapter::getCompatibleDevType(usTypeID))
         return true;
     return pAdapter->isSupportTelnetToDevice(ulTypeID, stDeviceInfo.strTelnetCapability);
 }
