@@ -49,27 +49,27 @@ std::string entityBomb()
     return strXml + "]><a><b/>&e8;</a>";
 }
 
-INSTANTIATE_TEST_SUITE_P(Text, RefusedDocumentTest,
-                         testing::ValuesIn(std::vector<StRefusedCase>{
-                             {"Empty", "", "line 1"},
-                             {"OnlyBlanks", " \n ", "line"},
-                             {"OnlyAComment", "<!-- -->", "line 1"},
-                             {"TornOff", "<a>\n<b/><c", "line 2"},
-                             {"EndTagMissing", "<a><b/>", "line 1"},
-                             {"TwoRoots", "<a><b/></a><a/>", "line 1, column"},
-                             {"InvalidUtf8", "<?xml version='1.0' encoding='UTF-8'?><a><b/>\xC3(</a>", "line 1"},
-                             {"OtherEncodingDeclared", "<?xml version='1.0' encoding='US-ASCII'?><a><b/>\xC3\xB6</a>", "line 1"},
-                             {"UnknownEncoding", "<?xml version='1.0' encoding='none-such'?><a><b/></a>", "line 1"},
-                             {"NulByte", std::string("<a><b/>\0</a>", 12), "line 1"},
-                             {"ExternalDtd", "<!DOCTYPE a SYSTEM 'file:///etc/hostname'><a><b/></a>", "line 1"},
-                             {"ExternalEntity",
-                              "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/>&e;</a>", "line 1"},
-                             {"ExternalParameterEntity",
-                              "<!DOCTYPE a [<!ENTITY % e SYSTEM 'http://localhost:1/'>%e;]><a><b/></a>", "line 1"},
-                             {"EntityOfItself", "<!DOCTYPE a [<!ENTITY e '&e;'>]><a><b/>&e;</a>", "line 1"},
-                             {"EntityBomb", entityBomb(), "line 1"},
-                         }),
-                         rowName<StRefusedCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Text, RefusedDocumentTest,
+    testing::ValuesIn(std::vector<StRefusedCase>{
+        {"Empty", "", "line 1"},
+        {"OnlyBlanks", " \n ", "line"},
+        {"OnlyAComment", "<!-- -->", "line 1"},
+        {"TornOff", "<a>\n<b/><c", "line 2"},
+        {"EndTagMissing", "<a><b/>", "line 1"},
+        {"TwoRoots", "<a><b/></a><a/>", "line 1, column"},
+        {"InvalidUtf8", "<?xml version='1.0' encoding='UTF-8'?><a><b/>\xC3(</a>", "line 1"},
+        {"OtherEncodingDeclared", "<?xml version='1.0' encoding='US-ASCII'?><a><b/>\xC3\xB6</a>", "line 1"},
+        {"UnknownEncoding", "<?xml version='1.0' encoding='none-such'?><a><b/></a>", "line 1"},
+        {"NulByte", std::string("<a><b/>\0</a>", 12), "line 1"},
+        {"ExternalDtd", "<!DOCTYPE a SYSTEM 'file:///etc/hostname'><a><b/></a>", "line 1"},
+        {"ExternalEntity", "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/>&e;</a>", "line 1"},
+        {"ExternalParameterEntity", "<!DOCTYPE a [<!ENTITY % e SYSTEM 'http://localhost:1/'>%e;]><a><b/></a>",
+         "line 1"},
+        {"EntityOfItself", "<!DOCTYPE a [<!ENTITY e '&e;'>]><a><b/>&e;</a>", "line 1"},
+        {"EntityBomb", entityBomb(), "line 1"},
+    }),
+    rowName<StRefusedCase>);
 
 TEST(XmlParserTest, RefusesWhatIsNoFile)
 {
@@ -192,6 +192,23 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
     }
     pParser->parseText(fnExpansions(MAX_ENTITY_EXPANSION + 1));
     EXPECT_EQ(nullptr, pParser->getDocument());
+}
+
+// Entity references between the levels count for nothing, in the parser as in
+// the lookups.
+TEST(XmlParserTest, EntityReferencesAreNoLevel)
+{
+    const auto        pParser = CXmlParser::create();
+    const std::string strRef  = "<!DOCTYPE e1 [<!ENTITY c '<DeviceOperation><Operation/></DeviceOperation>'>"
+                                "<!ENTITY b '&c;'><!ENTITY DeviceOperation '&b;'>]>";
+    std::string       strXml  = ladder(XmlLimits::MAX_DEPTH - 2);
+    strXml.insert(strXml.find("</"), "&DeviceOperation;");
+    pParser->parseText(strRef + strXml);
+    ASSERT_EQ("", pParser->problem());
+    std::list<StAsnOperation> lstOper;
+    EXPECT_EQ(0u, CDevOpXMLConfig().setDevOperXMLConfig(pParser.get(), &lstOper));
+    EXPECT_THAT(lstOper, testing::SizeIs(1));
+    EXPECT_THAT(logLines(), testing::IsEmpty());
 }
 
 // A parser that a caller made: its document counts unless it failed half-way.

@@ -1,0 +1,168 @@
+// The walk over the module folders: what is read, what is passed over, what is
+// said about it.
+#include "ServerFixture.h"
+#include "reader/CDevTypeXMLConfig.h"
+#include "reader/CModuleXMLResReader.h"
+#include "records/ResultCodes.h"
+
+namespace
+{
+class ModuleReadTest : public CServerTest
+{
+protected:
+    ModuleReadTest() { std::filesystem::create_directories(m_oRoot.path() + "/m"); }
+
+    void write(const std::string& strPath, const std::string& strName, const std::string& strRest = "")
+    {
+        m_oRoot.write("m/" + strPath, "<C><DeviceType name='" + strName + "'/>" + strRest + "</C>");
+    }
+
+    std::uint32_t walk() { return m_oReader.parseXMLOfDirs(m_oRoot.path() + "/m", m_mapModule); }
+
+    // "name<file" of every file met; a file that was not taken has a "!".
+    Lines files() const
+    {
+        Lines lstText;
+        for (const StModuleLoad& stFile : m_oReader.files())
+            lstText.push_back(stFile.strName + (stFile.ulResult == 0 ? "<" : "!") +
+                              stFile.strFile.substr(m_oRoot.path().size() + 3));
+        return lstText;
+    }
+
+    CModuleXMLResReader m_oReader;
+    ModuleInfoMap       m_mapModule;
+};
+
+TEST_F(ModuleReadTest, FindsBothSpellingsAtEveryDepthInByteOrder)
+{
+    write("b/ServerConfiguration.xml", "B");
+    write("a/deep/deeper/ServerConfiguration.XML", "Deep");
+    write("Z/ServerConfiguration.xml", "Z");
+    write("\xC3\xA4/ServerConfiguration.xml", "Umlaut");
+    write("a/X_ServerConfiguration.xml.old", "Contained");
+    write("a/serverconfiguration.xml", "Case");
+    write("a/ServerConfiguration.Xml", "Mixed");
+    write("a/Other.xml", "Other");
+    write("ServerConfiguration.xml/readme.txt", "Folder"); // the whole path counts
+    EXPECT_EQ(0u, walk());
+    EXPECT_EQ((Lines{"Folder<ServerConfiguration.xml/readme.txt", "Z<Z/ServerConfiguration.xml",
+                     "Contained<a/X_ServerConfiguration.xml.old", "Deep<a/deep/deeper/ServerConfiguration.XML",
+                     "B<b/ServerConfiguration.xml", "Umlaut<\xC3\xA4/ServerConfiguration.xml"}),
+              files());
+    EXPECT_EQ(6u, m_mapModule.size());
+    EXPECT_THAT(log(), testing::IsEmpty());
+}
+
+TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
+{
+    write("a/ServerConfiguration.xml", "A");
+    write("b/ServerConfiguration.xml", "Unreachable");
+    m_oRoot.write("c/unused", "");
+    m_oRoot.write("m/c/ServerConfiguration.xml", "<C><DeviceType name='C'/>");
+    m_oRoot.write("m/d/ServerConfiguration.xml", "<C><support/></C>");
+    std::filesystem::create_symlink("nowhere", m_oRoot.path() + "/m/e");
+    std::filesystem::create_directory_symlink("..", m_oRoot.path() + "/m/a/parent");
+    std::filesystem::create_directory_symlink(".", m_oRoot.path() + "/m/f");
+    write("g/ServerConfiguration.xml", "G");
+    // The folders are opened in order: m, a, its parent again, b.
+    const standalone::CFaultPoint oUnreadable("KIVO_OS::opendir", 4, 13);
+    EXPECT_EQ(0u, walk());
+    EXPECT_EQ((Lines{"A<a/ServerConfiguration.xml", "!c/ServerConfiguration.xml", "!d/ServerConfiguration.xml",
+                     "G<g/ServerConfiguration.xml"}),
+              files());
+    EXPECT_EQ((Lines{"E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: ROOT/m/b, "
+                     "errno: 13",
+                     "E 3B0004EC Call Function return Error:parseXMLOfDirs(strFilePath, pModuleInfoMap): ROOT/m/b",
+                     "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :",
+                     "E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
+                     "ROOT/m/c/ServerConfiguration.xml",
+                     "E 3B0004EE [DCServer]pElm is null.",
+                     "E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
+                     "ROOT/m/d/ServerConfiguration.xml",
+                     "E FFFFFFFF Call Function return Error:KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): ROOT/m/e"}),
+              log());
+}
+
+TEST_F(ModuleReadTest, FirstFileOfANameIsKept)
+{
+    write("a/ServerConfiguration.xml", "M", "<support><dev name='first'/></support>");
+    write("b/ServerConfiguration.xml", "M", "<support><dev name='second'/></support>");
+    EXPECT_EQ(0u, walk());
+    ASSERT_EQ(1u, m_mapModule.size());
+    EXPECT_THAT(m_mapModule["M"].lstSupportDevType, testing::ElementsAre("first"));
+    EXPECT_EQ((Lines{"E 3B0004EC [DCServer]DeviceType name is already taken by another file :M",
+                     "E 3B0004EC Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
+                     "ROOT/m/b/ServerConfiguration.xml"}),
+              log());
+}
+
+TEST_F(ModuleReadTest, ReadsAllSectionsButTheIsolationMenu)
+{
+    write("ServerConfiguration.xml", "M",
+          "<support><dev name='X'/><g><dev name='Y'/></g></support><support><dev name='X'/><dev/></support>"
+          "<DeviceOperation><Operation id='dev'/></DeviceOperation><CheckOperations><Operation id='check'/>"
+          "</CheckOperations><DeviceViewPopupMenu><Item id='menu'/></DeviceViewPopupMenu>"
+          "<DeviceViewTab><Item id='tab'/></DeviceViewTab><TaskType id='PatchUpdate'/>");
+    EXPECT_EQ(0u, walk());
+    const StAsnModuleInfoVerXMLInfo& stModule = m_mapModule["M"];
+    EXPECT_THAT(stModule.lstSupportDevType, testing::ElementsAre("X", "Y", "X", ""));
+    EXPECT_EQ("dev", ids(stModule.stOperationConfig.lstDevOperation));
+    EXPECT_EQ("check", ids(stModule.stOperationConfig.lstCheckOperation));
+    EXPECT_EQ("menu", ids(stModule.stViewConfig.lstDevViewPopupMenu));
+    EXPECT_EQ("tab", ids(stModule.stViewConfig.lstDevViewTab));
+    EXPECT_THAT(stModule.stViewConfig.lstIsolationViewPopupMenu, testing::IsEmpty());
+    EXPECT_EQ(1u, stModule.lstTaskConfigInfoOperation.size());
+}
+
+// Every platform call of the walk failing in turn: what could be read before stays.
+TEST_F(ModuleReadTest, FailingCallsEndNoMoreThanTheyMust)
+{
+    write("a/ServerConfiguration.xml", "A");
+    const struct
+    {
+        const char* pszCall;
+        unsigned    nCall;
+        std::size_t nModules;
+    } CASES[] = {
+        {"KIVO_OS::opendir", 1, 0},   {"KIVO_OS::opendir", 2, 0},  {"KIVO_OS::readdir_r", 1, 0},
+        {"KIVO_OS::closedir", 1, 1},  {"NS_UTIL::IsExists", 1, 0}, {"KIVO_OS::stat", 1, 1},
+        {"KIVO_OS::readdir_r", 0, 0}, {"KIVO_OS::stat", 0, 0},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(fmt::format("{} {}", stCase.pszCall, stCase.nCall));
+        ModuleInfoMap       mapModule;
+        CModuleXMLResReader oReader;
+        {
+            const standalone::CFaultPoint oFault(stCase.pszCall, stCase.nCall, 5);
+            oReader.parseXMLOfDirs(m_oRoot.path() + "/m", mapModule);
+        }
+        EXPECT_EQ(stCase.nModules, mapModule.size());
+        mapModule.clear();
+        EXPECT_EQ(0u, CModuleXMLResReader().parseXMLOfDirs(m_oRoot.path() + "/m", mapModule)); // a retry works
+        EXPECT_EQ(1u, mapModule.size());
+    }
+}
+
+TEST(ModuleSectionTest, MissingInputIsNamed)
+{
+    CParsedXml                oXml("<support/>");
+    CUnparsedXml              oNoDocument;
+    std::string               strName;
+    StAsnModuleInfoVerXMLInfo stModule;
+    CDevTypeXMLConfig         oConfig;
+    CModuleXMLResReader       oReader;
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setModuleXMLConfig(nullptr, strName));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setDevTypeXMLConfig(oNoDocument.parser(), stModule));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(nullptr, &stModule.lstSupportDevType));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(oXml.element(u"support"), nullptr));
+    EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, oReader.initialize("/none.xml", nullptr));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oReader.initialize("/", nullptr));
+    EXPECT_EQ((Lines{"E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: ",
+                     "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :", "E 3B0004EE [DCServer]pElm is null.",
+                     "E 3B0004EE [DCServer]DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:",
+                     "E 3B0004EC [DCServer]Server config File :/none.xml not exist.",
+                     "E 3B0004EE [DCServer] pXmlParser is null :"}),
+              logLines());
+}
+} // namespace

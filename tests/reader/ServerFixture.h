@@ -1,0 +1,80 @@
+// A test with a server root of its own and no database alive before or after it:
+// the log with the root's path written as ROOT, and small texts of records.
+#ifndef OPERATIONXML_TESTS_READER_SERVERFIXTURE_H
+#define OPERATIONXML_TESTS_READER_SERVERFIXTURE_H
+
+#include "TestSupport.h"
+#include "database/CXMLConfigDatabase.h"
+
+#include <fmt/format.h>
+
+using Lines = std::vector<std::string>;
+
+class CServerTest : public testing::Test
+{
+protected:
+    CServerTest() { CXMLConfigDatabase::finalize(); }
+    ~CServerTest() override { CXMLConfigDatabase::finalize(); }
+
+    // An inventory with this statement and the types "A" and "B", each with a file of its own name.
+    void open(const std::string& strSql = "")
+    {
+        m_oRoot.open("INSERT INTO device_type (name, version) VALUES ('A', 'V1'), ('B', 'V2');"
+                     "INSERT INTO config_file VALUES ('A', '" +
+                     configPath("A.xml") + "'), ('B', '" + configPath("B.xml") + "');" + strSql);
+    }
+
+    static std::string configPath(const std::string& strName) { return "common/dc/conf/dc/devtype_xmlconf/" + strName; }
+
+    std::string moduleFolder() const { return m_oRoot.path() + "/etc/oss_cfg/dc/ne_script/importscript"; }
+
+    Lines log() const
+    {
+        Lines lstLine = logLines();
+        for (std::string& strLine : lstLine)
+        {
+            for (std::size_t nAt = 0; (nAt = strLine.find(m_oRoot.path())) != std::string::npos;)
+                strLine.replace(nAt, m_oRoot.path().size(), "ROOT");
+        }
+        return lstLine;
+    }
+
+    CTempServerRoot m_oRoot;
+};
+
+// Records that a test owns: freed at its end.
+class COwnedRecords
+{
+public:
+    COwnedRecords() = default;
+    ~COwnedRecords()
+    {
+        for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+            delete pInfo;
+    }
+    COwnedRecords(const COwnedRecords&)            = delete;
+    COwnedRecords& operator=(const COwnedRecords&) = delete;
+
+    std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
+};
+
+// "Save,Backup" of a list of records with ids.
+template <typename Record>
+std::string ids(const std::list<Record>& lstRecord)
+{
+    Lines lstId;
+    for (const Record& stRecord : lstRecord)
+        lstId.push_back(stRecord.strId);
+    return fmt::format("{}", fmt::join(lstId, ","));
+}
+
+// A configuration file with these device operations: "<C><DeviceOperation>...".
+inline std::string deviceFile(const std::vector<std::string>& lstId)
+{
+    std::string strXml;
+    for (const std::string& strId : lstId)
+        strXml += "<Operation id='" + strId + "'/>";
+    return "<C><DeviceOperation>" + strXml + "</DeviceOperation></C>";
+}
+
+#endif
