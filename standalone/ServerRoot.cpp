@@ -51,4 +51,14 @@ void closeServerRoot()
 {
     setCurrentInventory(nullptr);
 }
+
+void setEnvironmentValue(const std::string& strName, const std::string& strValue)
+{
+    const auto pInventory = currentInventory();
+    if (pInventory == nullptr)
+        return;
+    auto pChanged                     = std::make_shared<StInventory>(*pInventory);
+    pChanged->mapEnvironment[strName] = strValue;
+    setCurrentInventory(std::move(pChanged));
+}
 } // namespace standalone

@@ -26,6 +26,11 @@ OPERATIONXML_PLATFORM_API bool openServerRoot(const std::string& strFolder, std:
 // Closes the root. Services that answer with a code then answer RESULT_NO_ROOT,
 // lists and lookups find nothing, paths and environment values are empty.
 OPERATIONXML_PLATFORM_API void closeServerRoot();
+
+// Lets one environment value of the open root read differently from here on, as
+// a process does that was started with another environment. Without a root
+// nothing happens.
+OPERATIONXML_PLATFORM_API void setEnvironmentValue(const std::string& strName, const std::string& strValue);
 } // namespace standalone
 
 #endif

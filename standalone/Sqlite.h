@@ -36,7 +36,7 @@ public:
     // An empty database in memory, sized for an inventory of so many bytes.
     static CSqlite openMemory(std::size_t nInventorySize);
 
-    // From now on a statement fails that runs past the time, or takes more
+    // From now on a statement fails that takes more processor time, or more
     // memory, than an inventory of so many bytes can need. Compiling a statement
     // is not covered, so ask between statements.
     void startClock(std::size_t nInventorySize);
@@ -64,6 +64,7 @@ private:
     struct StClock
     {
         std::chrono::steady_clock::time_point oEnd;
+        std::chrono::nanoseconds              oWorkEnd{0};
         sqlite3_int64                         nMemoryEnd = 0;
         const char*                           pszBroken  = nullptr;
     };

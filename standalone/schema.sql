@@ -5,8 +5,9 @@
 -- and columns, opened read-only) or server.sql (plain INSERT statements; these
 -- tables are created in memory first, then the statements run); server.db counts
 -- when both are there. Every table must be there; any may be empty. Numbers are
--- 32-bit unless a comment says otherwise (ids unsigned), texts are UTF-8 of at
--- most 128 KB without NUL bytes. A path without a leading "/" starts at the root.
+-- 32-bit unless a comment says otherwise (ids unsigned), texts are UTF-8 without
+-- NUL bytes, a row takes at most 16 KB. A path without a leading "/" starts at the
+-- root.
 --
 -- A server.sql works on these tables only: INSERT, UPDATE, DELETE, SELECT and
 -- BEGIN/COMMIT, with the plain functions for texts and numbers. A statement takes
