@@ -1,0 +1,91 @@
+// What a load costs as the number of types grows: CPU per type, memory held, and
+// memory needed on the way. Each load is a process of its own.
+#include "LoadProbe.h"
+#include "Measure.h"
+#include "Roots.h"
+#include "Targets.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <map>
+
+namespace
+{
+constexpr std::size_t LARGEST = 10000;
+
+constexpr StTarget GROWTH_TARGET = {"growth", "CPU per type at 100, 1,000 and 10,000 types", "within ± 5 %", 0.05};
+constexpr StTarget HELD_TARGET   = {"memory held", "resident growth per MB of XML, 10,000 types", "≤ 2.5 MB", 2.5};
+constexpr StTarget PEAK_TARGET   = {"memory peak", "peak − held during the load, 10,000 types", "≤ 16 MB", 16};
+
+// The probes of each size; made once, for all benchmarks that look at them.
+const std::vector<StLoadProbe>& probesOf(std::size_t nTypes)
+{
+    static std::map<std::size_t, std::vector<StLoadProbe>> s_mapProbe;
+    if (s_mapProbe.empty())
+    {
+        rootOf(LARGEST); // first, so that the others share its files
+        // Small loads are short: several of them, spread over the time that the large one takes.
+        for (const std::size_t nSize :
+             {100u, 1000u, 100u, 300u, 100u, 10000u, 100u, 1000u, 100u, 300u, 3000u, 1000u, 100u, 300u, 100u})
+            s_mapProbe[nSize].push_back(probeLoad(rootOf(nSize)));
+    }
+    return s_mapProbe.at(nTypes);
+}
+
+double cpuOf(std::size_t nTypes)
+{
+    std::vector<double> lstCpu;
+    for (const StLoadProbe& stProbe : probesOf(nTypes))
+        lstCpu.push_back(stProbe.dCpu);
+    return median(lstCpu);
+}
+
+void measureGrowth(benchmark::State& oState)
+{
+    std::vector<double> lstPerType; // ms
+    for (const std::size_t nTypes : {100u, 1000u, 10000u})
+        lstPerType.push_back(cpuOf(nTypes) * 1e3 / static_cast<double>(nTypes));
+    const auto [itLeast, itMost] = std::minmax_element(lstPerType.begin(), lstPerType.end());
+    const double dSpread         = (*itMost - *itLeast) / (*itMost + *itLeast);
+    oState.SetIterationTime(lstPerType.back() / 1e3);
+    answer(oState, GROWTH_TARGET, dSpread,
+           fmt::format("± {:.1f} % ({:.2f} ms)", dSpread * 100, fmt::join(lstPerType, ", ")));
+}
+
+void measureHeld(benchmark::State& oState)
+{
+    const StLoadProbe& stProbe = probesOf(LARGEST).front();
+    oState.SetIterationTime(stProbe.dCpu);
+    answer(oState, HELD_TARGET, stProbe.dHeld / megabytesOf(LARGEST),
+           fmt::format("{:.2f} MB ({:.0f} MB for {:.0f} MB)", stProbe.dHeld / megabytesOf(LARGEST), stProbe.dHeld,
+                       megabytesOf(LARGEST)));
+}
+
+void measurePeak(benchmark::State& oState)
+{
+    const StLoadProbe& stProbe = probesOf(LARGEST).front();
+    oState.SetIterationTime(stProbe.dCpu);
+    answer(oState, PEAK_TARGET, stProbe.dPeak, fmt::format("{:.1f} MB", stProbe.dPeak));
+}
+
+// A point of the curve: the load of so many types, and the bare parse of their files.
+void measureCurve(benchmark::State& oState)
+{
+    const auto nTypes = static_cast<std::size_t>(oState.range(0));
+    oState.SetIterationTime(cpuOf(nTypes));
+    oState.counters["types"]     = static_cast<double>(nTypes);
+    oState.counters["megabytes"] = megabytesOf(nTypes);
+    oState.counters["load"]      = cpuOf(nTypes);
+    oState.counters["bare"]      = bareParse(filesOf(nTypes));
+    oState.counters["wall"]      = probesOf(nTypes).front().dWall;
+}
+} // namespace
+
+void addGrowthBenchmarks()
+{
+    measureOnce("growth", measureGrowth, {GROWTH_TARGET});
+    measureOnce("memory/held", measureHeld, {HELD_TARGET});
+    measureOnce("memory/peak", measurePeak, {PEAK_TARGET});
+    measureOnce("curve", measureCurve, {})->Arg(100)->Arg(300)->Arg(1000)->Arg(3000)->Arg(10000);
+}

@@ -1,0 +1,170 @@
+// The load against the bare parse: the reader of one type, the whole process,
+// and where the time of a file goes.
+#include "Measure.h"
+#include "Roots.h"
+#include "Targets.h"
+
+#include "ConfigText.h"
+#include "ServerRootText.h"
+#include "common/XmlParser.h"
+#include "reader/CDevTypeXMLResReader.h"
+
+#include <fmt/format.h>
+#include <xercesc/framework/MemBufInputSource.hpp>
+
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+
+namespace
+{
+constexpr std::size_t CORPUS_TYPES  = 300;
+constexpr std::size_t PROCESS_TYPES = 1000;
+
+constexpr StTarget READER_TARGET  = {"load, one type after the other",
+                                     "CPU of `readDevTypeVerXMLFile` ÷ bare parse of the same 300 files", "≤ 1.10",
+                                     1.10};
+constexpr StTarget PROCESS_TARGET = {"load, whole process", "CPU of `opxml load` on 1,000 types ÷ the same bare parse",
+                                     "≤ 1.20", 1.20};
+
+using InfoList = std::list<StAsnDevTypeVerXMLInfo*>;
+
+// Reads every type of the corpus, as the database does; freeing the records is
+// no part of a load.
+double readCorpus()
+{
+    std::vector<InfoList> lstRead(CORPUS_TYPES);
+    const double          dStart = cpuSeconds();
+    for (std::size_t nType = 0; nType < CORPUS_TYPES; ++nType)
+    {
+        CDevTypeXMLResReader oReader(deviceTypeName(nType), TYPE_VERSION, false);
+        if (oReader.readDevTypeVerXMLFile(lstRead[nType]) != 0)
+            throw std::runtime_error("cannot read " + deviceTypeName(nType));
+    }
+    const double dTook = cpuSeconds() - dStart;
+    for (const InfoList& lstInfo : lstRead)
+        for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+            delete pInfo;
+    return dTook;
+}
+
+std::string figureText(const StComparison& stComparison, std::size_t nTypes)
+{
+    const double dPerType = 1e3 / static_cast<double>(nTypes);
+    return fmt::format("{:.2f} ({:.2f} ms ÷ {:.2f} ms a file)", stComparison.dRatio, stComparison.dOne * dPerType,
+                       stComparison.dOther * dPerType);
+}
+
+void measureReader(benchmark::State& oState)
+{
+    openRoot(rootOf(CORPUS_TYPES));
+    const auto         lstFile      = filesOf(CORPUS_TYPES);
+    const StComparison stComparison = alternate(readCorpus, [&] { return bareParse(lstFile); });
+    oState.SetIterationTime(stComparison.dOne);
+    answer(oState, READER_TARGET, stComparison.dRatio, figureText(stComparison, CORPUS_TYPES));
+}
+
+double loadByTool(const std::string& strRoot)
+{
+    const StChild stChild = runChild({OPXML_PROGRAM, "--root", strRoot, "load"});
+    if (stChild.nExit != 0)
+        throw std::runtime_error("opxml load failed");
+    return stChild.dCpu;
+}
+
+void measureProcess(benchmark::State& oState)
+{
+    const std::string  strRoot = rootOf(PROCESS_TYPES).string();
+    const auto         lstFile = filesOf(PROCESS_TYPES);
+    const StComparison stComparison =
+        alternate([&] { return loadByTool(strRoot); }, [&] { return bareParse(lstFile); });
+    oState.SetIterationTime(stComparison.dOne);
+    answer(oState, PROCESS_TARGET, stComparison.dRatio, figureText(stComparison, PROCESS_TYPES));
+}
+
+// Seconds of the whole corpus in each step of a load; the steps are run one by
+// one with the library's own pieces.
+struct StPhases
+{
+    double dRead    = 0; // the bytes of the files
+    double dParse   = 0; // the bare parse of these bytes
+    double dIndex   = 0; // what the library's parser adds: names, limits
+    double dRecords = 0; // the sections
+    double dRest    = 0; // what a whole read takes beyond these
+};
+
+std::string readBytes(const std::filesystem::path& oFile)
+{
+    std::string strBytes(std::filesystem::file_size(oFile), '\0');
+    std::ifstream(oFile, std::ios::binary).read(strBytes.data(), static_cast<std::streamsize>(strBytes.size()));
+    return strBytes;
+}
+
+StPhases timePhases()
+{
+    StPhases stPhases;
+    double   dParseText = 0;
+    for (const std::filesystem::path& oFile : filesOf(CORPUS_TYPES))
+    {
+        const double      dStart   = cpuSeconds();
+        const std::string strBytes = readBytes(oFile);
+        const double      dRead    = cpuSeconds();
+        {
+            xercesc::XercesDOMParser         oBare;
+            const xercesc::MemBufInputSource oSource(reinterpret_cast<const XMLByte*>(strBytes.data()), strBytes.size(),
+                                                     u"bench");
+            oBare.parse(oSource);
+        }
+        const double dBare = cpuSeconds();
+        {
+            const std::unique_ptr<CXmlParser> pTimed = CXmlParser::create();
+            pTimed->parseText(strBytes);
+        }
+        const double                      dParsed = cpuSeconds();
+        const std::unique_ptr<CXmlParser> pParser = CXmlParser::create();
+        pParser->parseText(strBytes);
+        CDevTypeXMLResReader   oReader("", "", false);
+        StAsnDevTypeVerXMLInfo stInfo;
+        const double           dReady = cpuSeconds();
+        oReader.setDevXMLConfig(pParser.get(), &stInfo);
+        stPhases.dRecords += cpuSeconds() - dReady;
+        stPhases.dRead += dRead - dStart;
+        stPhases.dParse += dBare - dRead;
+        dParseText += dParsed - dBare;
+    }
+    stPhases.dIndex = dParseText - stPhases.dParse;
+    stPhases.dRest  = readCorpus() - stPhases.dRead - dParseText - stPhases.dRecords;
+    return stPhases;
+}
+
+void measurePhases(benchmark::State& oState)
+{
+    constexpr std::pair<const char*, double StPhases::*> PHASES[] = {{"read", &StPhases::dRead},
+                                                                     {"parse", &StPhases::dParse},
+                                                                     {"index", &StPhases::dIndex},
+                                                                     {"records", &StPhases::dRecords},
+                                                                     {"rest", &StPhases::dRest}};
+    openRoot(rootOf(CORPUS_TYPES));
+    std::vector<StPhases> lstRound;
+    for (int nRound = 0; nRound < ROUNDS; ++nRound)
+        lstRound.push_back(timePhases());
+    double dTotal = 0;
+    for (const auto& [pszName, pPhase] : PHASES)
+    {
+        std::vector<double> lstSeconds;
+        for (const StPhases& stRound : lstRound)
+            lstSeconds.push_back(stRound.*pPhase);
+        const double dSeconds    = median(lstSeconds);
+        oState.counters[pszName] = dSeconds * 1e3 / CORPUS_TYPES; // ms a file
+        dTotal += dSeconds;
+    }
+    oState.SetIterationTime(dTotal);
+}
+} // namespace
+
+void addLoadBenchmarks()
+{
+    measureOnce("load/reader", measureReader, {READER_TARGET});
+    measureOnce("load/process", measureProcess, {PROCESS_TARGET});
+    measureOnce("load/phases", measurePhases, {});
+}

@@ -1,0 +1,91 @@
+#include "Measure.h"
+
+#include "Roots.h"
+
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+
+#include <algorithm>
+#include <ctime>
+#include <fcntl.h>
+#include <fstream>
+#include <iterator>
+#include <spawn.h>
+#include <stdexcept>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+double seconds(const timeval& stTime)
+{
+    return static_cast<double>(stTime.tv_sec) + static_cast<double>(stTime.tv_usec) / 1e6;
+}
+} // namespace
+
+double cpuSeconds()
+{
+    timespec stNow = {};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &stNow);
+    return static_cast<double>(stNow.tv_sec) + static_cast<double>(stNow.tv_nsec) / 1e9;
+}
+
+double median(std::vector<double> lstValue)
+{
+    const auto itMiddle = lstValue.begin() + static_cast<std::ptrdiff_t>(lstValue.size() / 2);
+    std::nth_element(lstValue.begin(), itMiddle, lstValue.end());
+    return *itMiddle;
+}
+
+StComparison alternate(const std::function<double()>& fnOne, const std::function<double()>& fnOther)
+{
+    std::vector<double> lstOne;
+    std::vector<double> lstOther;
+    std::vector<double> lstRatio;
+    for (int nRound = 0; nRound < ROUNDS; ++nRound)
+    {
+        lstOne.push_back(fnOne());
+        lstOther.push_back(fnOther());
+        lstRatio.push_back(lstOne.back() / lstOther.back());
+    }
+    return {median(lstRatio), median(lstOne), median(lstOther)};
+}
+
+double bareParse(const std::vector<std::filesystem::path>& lstFile)
+{
+    const double dStart = cpuSeconds();
+    for (const std::filesystem::path& oFile : lstFile)
+    {
+        xercesc::XercesDOMParser oParser;
+        oParser.parse(oFile.c_str());
+        if (oParser.getErrorCount() != 0 || oParser.getDocument() == nullptr)
+            throw std::runtime_error("cannot parse " + oFile.string());
+    }
+    return cpuSeconds() - dStart;
+}
+
+StChild runChild(const std::vector<std::string>& lstArgument)
+{
+    const std::string          strOutput = (workFolder() / "child.out").string();
+    posix_spawn_file_actions_t stActions;
+    ::posix_spawn_file_actions_init(&stActions);
+    ::posix_spawn_file_actions_addopen(&stActions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    ::posix_spawn_file_actions_addopen(&stActions, STDOUT_FILENO, strOutput.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
+                                       0600);
+    ::posix_spawn_file_actions_addopen(&stActions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    std::vector<char*> lstPointer;
+    for (const std::string& strArgument : lstArgument)
+        lstPointer.push_back(const_cast<char*>(strArgument.c_str()));
+    lstPointer.push_back(nullptr);
+    pid_t     nChild = 0;
+    const int nError = ::posix_spawn(&nChild, lstPointer[0], &stActions, nullptr, lstPointer.data(), environ);
+    ::posix_spawn_file_actions_destroy(&stActions);
+    int    nStatus = 0;
+    rusage stUsage = {};
+    if (nError != 0 || ::wait4(nChild, &nStatus, 0, &stUsage) != nChild || !WIFEXITED(nStatus))
+        throw std::runtime_error("cannot run " + lstArgument[0]);
+    std::ifstream oOutput(strOutput, std::ios::binary);
+    return {WEXITSTATUS(nStatus), seconds(stUsage.ru_utime) + seconds(stUsage.ru_stime),
+            std::string(std::istreambuf_iterator<char>(oOutput), {})};
+}
