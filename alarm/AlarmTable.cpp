@@ -47,6 +47,7 @@ void CAlarmTable::read(const LocationInfo& stWhere, const std::function<void(con
         logFail(stWhere, DC_RESULT_XML_ERROR, "XercesDOMParser::getDocument failed :");
         return;
     }
+    m_bIsRead = true;
     for (const DOMElement* pRecord : m_pXmlParser->elements(u"record"))
     {
         ++m_ulRecord;

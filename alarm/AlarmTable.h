@@ -26,6 +26,9 @@ public:
     // The file that was read, or should have been.
     const std::string& path() const { return m_strPath; }
 
+    // Whether the file gave a document; if not, the one problem says why.
+    bool isRead() const { return m_bIsRead; }
+
     // What is wrong with the file, for the people who write it: why there is no
     // document, or what the load passed over, in the order it was met. Nothing
     // here is logged; the server runs on as if the mistakes were not there.
@@ -57,6 +60,7 @@ private:
     std::string                 m_strPath;
     std::vector<std::string>    m_lstProblem;
     std::unique_ptr<CXmlParser> m_pXmlParser; // kept without its document; null when Xerces cannot start
+    bool                        m_bIsRead  = false;
     unsigned long               m_ulRecord = 0;
 };
 
