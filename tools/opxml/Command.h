@@ -38,12 +38,19 @@ struct StTool
     std::function<int()> fnRun;
 };
 
-// Opens the server root and the log that the options name; throws CTrouble.
+// Opens the log that the options name; throws CTrouble.
+void openLog(const StGlobalOptions& stOptions);
+
+// Opens the log and the server root; throws CTrouble.
 void openRoot(const StGlobalOptions& stOptions);
 
 // Each adds one command, in a source file of its own.
 void addLoadCommand(CLI::App& oApp, StTool& stTool);
 void addShowCommand(CLI::App& oApp, StTool& stTool);
 void addDumpCommand(CLI::App& oApp, StTool& stTool);
+void addModulesCommand(CLI::App& oApp, StTool& stTool);
+void addAlarmCommand(CLI::App& oApp, StTool& stTool);
+void addTransferCommand(CLI::App& oApp, StTool& stTool);
+void addFileCheckCommand(CLI::App& oApp, StTool& stTool);
 
 #endif

@@ -37,6 +37,10 @@ int runTool(int nArguments, char** ppszArguments)
     addLoadCommand(oApp, stTool);
     addShowCommand(oApp, stTool);
     addDumpCommand(oApp, stTool);
+    addModulesCommand(oApp, stTool);
+    addAlarmCommand(oApp, stTool);
+    addTransferCommand(oApp, stTool);
+    addFileCheckCommand(oApp, stTool);
     try
     {
         oApp.parse(nArguments, ppszArguments);
