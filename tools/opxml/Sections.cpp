@@ -50,14 +50,18 @@ SectionCounts countSections(const StAsnModuleInfoVerXMLInfo& stModule)
     return countLists(stModule.stOperationConfig, stModule.stViewConfig, stModule.lstTaskConfigInfoOperation);
 }
 
+SectionCounts countAdded(const StAsnModuleInfoVerXMLInfo& stModule)
+{
+    return countLists(stModule.stOperationConfig, {}, stModule.lstTaskConfigInfoOperation);
+}
+
 std::vector<StContribution> findContributions(const std::string& strDevType)
 {
     std::vector<StContribution> lstContribution;
     CXMLConfigDatabase::getInstance()->visitModules(
         [&](const std::string& strName, const StAsnModuleInfoVerXMLInfo& stModule)
         {
-            const SectionCounts arCount =
-                countLists(stModule.stOperationConfig, {}, stModule.lstTaskConfigInfoOperation);
+            const SectionCounts arCount = countAdded(stModule);
             for (const std::string& strSupported : stModule.lstSupportDevType)
             {
                 if (strSupported == strDevType)

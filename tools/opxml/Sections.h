@@ -25,6 +25,9 @@ using SectionCounts = std::array<std::size_t, SECTION_COUNT>;
 SectionCounts countSections(const StAsnDevTypeVerXMLInfo& stInfo);
 SectionCounts countSections(const StAsnModuleInfoVerXMLInfo& stModule);
 
+// How many of a module's records are added to a type: menus and tabs are not.
+SectionCounts countAdded(const StAsnModuleInfoVerXMLInfo& stModule);
+
 // One contribution of a module to a device type. A module that names the type
 // twice contributes twice.
 struct StContribution
