@@ -48,6 +48,7 @@ void openRoot(const StGlobalOptions& stOptions);
 void addLoadCommand(CLI::App& oApp, StTool& stTool);
 void addShowCommand(CLI::App& oApp, StTool& stTool);
 void addDumpCommand(CLI::App& oApp, StTool& stTool);
+void addQueryCommand(CLI::App& oApp, StTool& stTool);
 void addModulesCommand(CLI::App& oApp, StTool& stTool);
 void addAlarmCommand(CLI::App& oApp, StTool& stTool);
 void addTransferCommand(CLI::App& oApp, StTool& stTool);

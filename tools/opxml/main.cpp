@@ -37,6 +37,7 @@ int runTool(int nArguments, char** ppszArguments)
     addLoadCommand(oApp, stTool);
     addShowCommand(oApp, stTool);
     addDumpCommand(oApp, stTool);
+    addQueryCommand(oApp, stTool);
     addModulesCommand(oApp, stTool);
     addAlarmCommand(oApp, stTool);
     addTransferCommand(oApp, stTool);
