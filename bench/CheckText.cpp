@@ -43,8 +43,10 @@ void addCheck(CXmlText& oXml, CDice& oDice, const std::string& strSeries, const 
     const std::size_t nItems = bBoards ? std::size(Words::BOARDS) : 2 + oDice.below(3);
     for (std::size_t nItem = 0; nItem < nItems; ++nItem)
     {
-        const std::string strItem = strSeries + "-" + std::string(Words::BOARDS[nItem]);
-        addSubItem(oXml, oDice, strId + "." + strItem, strKey + "_" + strItem, strLimit);
+        std::string strItem = strSeries;
+        strItem.append("-").append(Words::BOARDS[nItem]);
+        addSubItem(oXml, oDice, std::string(strId).append(".").append(strItem),
+                   std::string(strKey).append("_").append(strItem), strLimit);
     }
     oXml.close();
 }

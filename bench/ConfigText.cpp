@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr std::size_t FULL_BYTES = 96 * 1000; // from this size on, every list is whole
+constexpr std::size_t FULL_BYTES = 96000; // from this size on, every list is whole
 
 class CConfigText
 {

@@ -12,8 +12,8 @@
 
 struct StConfigWish
 {
-    std::size_t   nType  = 0;         // number of the device type: its file differs from every other
-    std::size_t   nBytes = 96 * 1000; // the file gets this long, and up to one check item longer
+    std::size_t   nType  = 0;     // number of the device type: its file differs from every other
+    std::size_t   nBytes = 96000; // the file gets this long, and up to one check item longer
     std::uint64_t ulSeed = 1;
     bool          bCheck = true; // false: no "CheckOperations"; other operations fill the file instead
 };

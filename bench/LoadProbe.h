@@ -10,7 +10,7 @@ struct StLoadProbe
     double dCpu  = 0; // seconds
     double dWall = 0;
     double dHeld = 0; // megabytes resident after the load beyond those before it
-    double dPeak = 0; // megabytes resident at the highest beyond those after the load
+    double dPeak = 0; // megabytes resident at the highest beyond those really in use after the load
 };
 
 // Starts a child and returns what it measured.

@@ -75,6 +75,7 @@ StChild runChild(const std::vector<std::string>& lstArgument)
                                        0600);
     ::posix_spawn_file_actions_addopen(&stActions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     std::vector<char*> lstPointer;
+    lstPointer.reserve(lstArgument.size() + 1);
     for (const std::string& strArgument : lstArgument)
         lstPointer.push_back(const_cast<char*>(strArgument.c_str()));
     lstPointer.push_back(nullptr);

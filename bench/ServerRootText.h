@@ -14,8 +14,8 @@ struct StRootWish
 {
     std::filesystem::path oFolder;
     std::size_t           nTypes   = 0;
-    std::size_t           nBytes   = 96 * 1000; // of each configuration file
-    std::size_t           nAlarms  = 0;         // records of the alarm table; 0: no table
+    std::size_t           nBytes   = 96000; // of each configuration file
+    std::size_t           nAlarms  = 0;     // records of the alarm table; 0: no table
     std::uint64_t         ulSeed   = 1;
     bool                  bCheck   = true; // files with "CheckOperations"
     std::filesystem::path oFilesOf = {};   // take the files of this root (at least as many, same seed and size)
