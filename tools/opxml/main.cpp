@@ -2,9 +2,12 @@
 // line. Parses the command line, runs one command, and turns every end into an
 // exit code: 0 yes or found, 1 no or nothing, 2 trouble (one line on stderr).
 #include "Command.h"
+#include "Output.h"
 
 #include <cstdio>
 #include <exception>
+#include <string>
+#include <vector>
 
 #ifndef OPXML_VERSION
 #define OPXML_VERSION "unknown"
@@ -29,6 +32,18 @@ void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
                 "Colours only on a terminal, and never when NO_COLOR is set.");
 }
 
+// The parser reports a misspelt command as a missing one.
+void nameUnknownCommand(const CLI::App& oApp)
+{
+    const std::vector<std::string> lstUnknown = oApp.remaining();
+    if (!oApp.get_subcommands().empty() || lstUnknown.empty() || lstUnknown.front().compare(0, 1, "-") == 0)
+        return;
+    std::vector<std::string> lstName;
+    for (const CLI::App* pCommand : oApp.get_subcommands({}))
+        lstName.push_back(pCommand->get_name());
+    throw CTrouble("no command \"" + printable(lstUnknown.front()) + "\"" + nearestNames(lstUnknown.front(), lstName));
+}
+
 int runTool(int nArguments, char** ppszArguments)
 {
     CLI::App oApp("What a server's device types support, read from their configuration files.", "opxml");
@@ -48,6 +63,7 @@ int runTool(int nArguments, char** ppszArguments)
     }
     catch (const CLI::ParseError& oProblem)
     {
+        nameUnknownCommand(oApp);
         // Help and version end well; everything else is a usage error.
         return oApp.exit(oProblem) == 0 ? EXIT_YES : EXIT_TROUBLE;
     }
