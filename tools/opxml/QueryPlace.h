@@ -41,16 +41,22 @@ std::string offerText(const std::vector<std::string>& lstName);
 StQueryReason noneOfThem(const std::string& strWhat, const std::string& strId, const std::string& strWhere,
                          const std::vector<std::string>& lstId);
 
-// Each id once, in the order of the list.
+// Adds the ids of a list in its order, each once.
 template <typename Record>
-std::vector<std::string> idsOf(const std::list<Record>& lstRecord)
+void addIds(std::vector<std::string>& lstId, const std::list<Record>& lstRecord)
 {
-    std::vector<std::string> lstId;
     for (const Record& stRecord : lstRecord)
     {
         if (std::find(lstId.begin(), lstId.end(), stRecord.strId) == lstId.end())
             lstId.push_back(stRecord.strId);
     }
+}
+
+template <typename Record>
+std::vector<std::string> idsOf(const std::list<Record>& lstRecord)
+{
+    std::vector<std::string> lstId;
+    addIds(lstId, lstRecord);
     return lstId;
 }
 

@@ -102,8 +102,7 @@ StQueryReason whyNotCancelable(const QueryArguments& lstArgument)
     if (const auto* pTask = findFirst(stConfig.lstTaskOperation, strOperId))
         return {pTask->bIsCancelable ? "" : "the task operation is there, but its isCancelable is not set", {}};
     std::vector<std::string> lstId = idsOf(stConfig.lstTaskOperation);
-    for (const StAsnCheckOperationDef& stCheck : stConfig.lstCheckOperation)
-        lstId.push_back(stCheck.strId);
+    addIds(lstId, stConfig.lstCheckOperation);
     return noneOfThem("task or check operation", strOperId, stPlace.strName, lstId);
 }
 
