@@ -57,7 +57,7 @@ void CAlarmTable::read(const LocationInfo& stWhere, const std::function<void(con
             fnRecord(*pRecord);
     }
     m_ulRecord = 0;
-    m_pXmlParser->resetDocumentPool(); // the dictionary outlives it by the life of the process
+    m_pXmlParser->releaseDocument(); // the dictionary outlives it by the life of the process
 }
 
 std::optional<unsigned long> CAlarmTable::readNumber(const char* pszParam, std::string_view strText)

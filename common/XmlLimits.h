@@ -5,12 +5,14 @@
 #ifndef OPERATIONXML_COMMON_XMLLIMITS_H
 #define OPERATIONXML_COMMON_XMLLIMITS_H
 
+#include "platform/Export.h"
+
 #include <xercesc/dom/DOM.hpp>
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
+#include <vector>
 
 namespace XmlLimits
 {
@@ -21,9 +23,32 @@ constexpr std::size_t   MAX_SAME_NAME_DEPTH  = 16;                     // elemen
 constexpr std::uint64_t MAX_REPEATED_READS   = 100000;                 // readings beyond one per element, whole file
 } // namespace XmlLimits
 
-// Walks the document in document order, calls fnVisit for every element, and
-// checks its nesting on the way. Returns what passes a limit, or an empty text.
-std::string walkWithinLimits(const xercesc::DOMDocument&                            oDocument,
-                             const std::function<void(const xercesc::DOMElement&)>& fnVisit);
+// Follows the elements of one document as they open and close, and holds their
+// nesting against the limits.
+class OPERATIONXML_API CNestingCheck
+{
+public:
+    // An element opens below the ones that are open. Returns what passes a limit,
+    // or an empty text. Names are a document's own, which keeps each of them once,
+    // so they compare by address.
+    std::string open(const XMLCh* pszName);
+
+    // The element opened last closes.
+    void close() { m_lstOpen.pop_back(); }
+
+private:
+    struct StOpen
+    {
+        const XMLCh*  pszName;
+        std::uint64_t nChains; // ways to pick one open element of each name: below 3^34 at depth 100
+    };
+
+    std::vector<StOpen> m_lstOpen;
+    std::uint64_t       m_nRepeatedReads = 0;
+};
+
+// The same for a document that was parsed elsewhere: what passes a limit, or an
+// empty text.
+std::string checkNesting(const xercesc::DOMDocument& oDocument);
 
 #endif

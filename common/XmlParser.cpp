@@ -2,7 +2,6 @@
 // and what is left after a failure.
 #include "common/XmlParser.h"
 
-#include "common/XmlLimits.h"
 #include "common/XmlRead.h"
 
 #include <xercesc/framework/MemBufInputSource.hpp>
@@ -42,6 +41,12 @@ public:
 
 private:
     std::string& m_strProblem;
+};
+
+// Ends a parse at the element that passes a limit.
+struct StLimitPassed
+{
+    std::string strProblem;
 };
 
 class CEntityLimit : public SecurityManager
@@ -136,25 +141,28 @@ CXmlParser::CXmlParser()
     setDisableDefaultEntityResolution(true);
 }
 
-void CXmlParser::refuse(std::string strProblem)
+void CXmlParser::releaseDocument()
 {
     m_mapElements.clear();
+    m_oNesting        = {};
+    m_bInEmptyElement = false;
+    m_strProblem.clear();
     resetDocumentPool();
-    m_strProblem = std::move(strProblem);
 }
 
 void CXmlParser::parseFile(const std::string& strPath)
 {
     std::string strBytes;
     std::string strProblem = CFile(strPath).read(strBytes);
-    if (!strProblem.empty())
-        return refuse(std::move(strProblem));
-    parseText(strBytes);
+    if (strProblem.empty())
+        return parseText(strBytes);
+    releaseDocument();
+    m_strProblem = std::move(strProblem);
 }
 
 void CXmlParser::parseText(std::string_view strXml)
 {
-    refuse({});
+    releaseDocument();
     std::string strProblem;
     try
     {
@@ -166,9 +174,10 @@ void CXmlParser::parseText(std::string_view strXml)
             strProblem = "the parser reported an error";
         else if (strProblem.empty() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
             strProblem = "the document has no root element";
-        else if (strProblem.empty())
-            strProblem = walkWithinLimits(*getDocument(), [this](const DOMElement& oElement)
-                                          { m_mapElements[oElement.getTagName()].push_back(&oElement); });
+    }
+    catch (const StLimitPassed& stPassed)
+    {
+        strProblem = stPassed.strProblem;
     }
     catch (const OutOfMemoryException&)
     {
@@ -187,13 +196,46 @@ void CXmlParser::parseText(std::string_view strXml)
         strProblem = toLocal(oProblem.getMessage());
     }
     setErrorHandler(nullptr);
-    if (!strProblem.empty())
-        refuse(std::move(strProblem));
+    if (strProblem.empty())
+        return;
+    releaseDocument(); // a half-read document is no document
+    m_strProblem = std::move(strProblem);
+}
+
+void CXmlParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
+                              const RefVectorOf<XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty, bool bIsRoot)
+{
+    m_bInEmptyElement = bIsEmpty; // the base ends an empty element before it returns
+    XercesDOMParser::startElement(oDecl, nUri, pszPrefix, lstAttr, nAttrs, bIsEmpty, bIsRoot);
+    if (!bIsEmpty)
+        openElement();
+}
+
+void CXmlParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot, const XMLCh* pszPrefix)
+{
+    if (std::exchange(m_bInEmptyElement, false))
+        openElement();
+    m_oNesting.close();
+    XercesDOMParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
+}
+
+void CXmlParser::openElement()
+{
+    const auto*  pElement  = static_cast<const DOMElement*>(fCurrentParent);
+    const XMLCh* pszName   = pElement->getTagName();
+    std::string  strPassed = m_oNesting.open(pszName);
+    if (!strPassed.empty())
+        throw StLimitPassed{std::move(strPassed)};
+    m_mapElements[pszName].push_back(pElement);
 }
 
 const ElementList& CXmlParser::elements(const char16_t* pszName) const
 {
     static const ElementList s_lstNone;
-    const auto               itFound = m_mapElements.find(pszName);
-    return itFound == m_mapElements.end() ? s_lstNone : itFound->second;
+    for (const auto& [pszStored, lstElement] : m_mapElements)
+    {
+        if (XMLString::equals(pszStored, pszName))
+            return lstElement;
+    }
+    return s_lstNone;
 }

@@ -5,12 +5,13 @@
 // - nothing is fetched from outside the file, and entity expansion, size and
 //   nesting are limited (XmlLimits.h), so no file exhausts the server;
 // - no exception leaves it;
-// - the elements of the document are indexed by name once, since every section
-//   asks the whole document for its own.
+// - the elements of the document are indexed by name while it is parsed, since
+//   every section asks the whole document for its own.
 // A parser and its document belong to one thread. Nothing here is logged.
 #ifndef OPERATIONXML_COMMON_XMLPARSER_H
 #define OPERATIONXML_COMMON_XMLPARSER_H
 
+#include "common/XmlLimits.h"
 #include "platform/Export.h"
 
 #include <xercesc/dom/DOM.hpp>
@@ -40,6 +41,9 @@ public:
     // The same for a document held in memory.
     void parseText(std::string_view strXml);
 
+    // Frees the document, as if nothing had been parsed.
+    void releaseDocument();
+
     // Why there is no document ("line 12, column 7: ..."); empty after a good parse.
     const std::string& problem() const { return m_strProblem; }
 
@@ -49,10 +53,18 @@ public:
 private:
     CXmlParser();
 
-    void refuse(std::string strProblem);
+    // The parser's own hooks: follow every element as it opens and closes.
+    void startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
+                      const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
+                      bool bIsRoot) override;
+    void endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
+                    const XMLCh* pszPrefix) override;
+    void openElement();
 
-    std::unordered_map<std::u16string_view, ElementList> m_mapElements; // names are the document's own
-    std::string                                          m_strProblem;
+    std::unordered_map<const XMLCh*, ElementList> m_mapElements; // by name; the document keeps each name once
+    CNestingCheck                                 m_oNesting;
+    bool                                          m_bInEmptyElement = false;
+    std::string                                   m_strProblem;
 };
 
 #endif

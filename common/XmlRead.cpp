@@ -36,27 +36,100 @@ std::string transcode(const XMLCh* pszText)
     }
 }
 
+// Narrows a text; false when it is not plain ASCII.
+bool narrow(const XMLCh* pszText, std::size_t nLength, char* pOut)
+{
+    unsigned int nBits = 0;
+    for (std::size_t nAt = 0; nAt < nLength; ++nAt)
+    {
+        nBits |= pszText[nAt];
+        pOut[nAt] = static_cast<char>(pszText[nAt]);
+    }
+    return nBits < 0x80;
+}
+
+// A text in the server's local code page. ASCII is the same bytes in every local
+// code page, and nearly all texts are ASCII and short.
+std::string toLocal(const XMLCh* pszText, std::size_t nLength)
+{
+    char arShort[64];
+    if (nLength <= sizeof(arShort))
+        return narrow(pszText, nLength, arShort) ? std::string(arShort, nLength) : transcode(pszText);
+    std::string strLong(nLength, '\0');
+    if (!narrow(pszText, nLength, strLong.data()))
+        return transcode(pszText);
+    return strLong;
+}
+
+// Less than 0, 0 or more: the order of two names.
+int compareNames(const XMLCh* pszLeft, const XMLCh* pszRight)
+{
+    while (*pszLeft == *pszRight && *pszLeft != 0)
+    {
+        ++pszLeft;
+        ++pszRight;
+    }
+    return static_cast<int>(*pszLeft) - static_cast<int>(*pszRight);
+}
+
+// The attribute of a name, or null. The map keeps its attributes in the order of
+// their names; this is its own search without the calls around each comparison.
+const DOMAttr* findAttribute(const DOMElement& oElement, const char16_t* pszName)
+{
+    const DOMNamedNodeMap& oAttributes = *oElement.getAttributes();
+    XMLSize_t              nFirst      = 0;
+    XMLSize_t              nEnd        = oAttributes.getLength();
+    while (nFirst < nEnd)
+    {
+        const XMLSize_t nAt    = (nFirst + nEnd) / 2;
+        const auto*     pAttr  = static_cast<const DOMAttr*>(oAttributes.item(nAt));
+        const int       nOrder = compareNames(pszName, pAttr->getName());
+        if (nOrder == 0)
+            return pAttr;
+        if (nOrder < 0)
+            nEnd = nAt;
+        else
+            nFirst = nAt + 1;
+    }
+    return nullptr;
+}
+
+// The value of an attribute, empty when it is missing. DOMAttr::getValue() casts
+// its way through the class hierarchy at every call; nearly all values are one
+// text node, whose content is at hand.
+std::u16string_view attrValue(const DOMElement& oElement, const char16_t* pszName)
+{
+    const DOMAttr* pAttr = findAttribute(oElement, pszName);
+    const DOMNode* pText = pAttr == nullptr ? nullptr : pAttr->getFirstChild();
+    if (pText == nullptr)
+        return u"";
+    if (pText->getNodeType() == DOMNode::TEXT_NODE && pText->getNextSibling() == nullptr)
+        return {pText->getNodeValue(), static_cast<const DOMText*>(pText)->getLength()};
+    return pAttr->getValue(); // entity references in it
+}
+
 bool isTextNode(const DOMNode& oNode)
 {
     return oNode.getNodeType() == DOMNode::TEXT_NODE || oNode.getNodeType() == DOMNode::CDATA_SECTION_NODE;
 }
 
-// Whether an element stands deeper, or inside more of its own name, than any
-// document that is read may hold.
+// Whether an element stands directly inside more of its own name than any
+// document that is read may hold. An element with nothing inside it is not asked
+// for its ancestors: most are such.
 bool isNestedTooDeep(const DOMElement& oElement)
 {
-    std::size_t  nDepth    = 0;
-    std::size_t  nSameName = 0;
-    const XMLCh* pszName   = oElement.getNodeName();
-    for (const DOMNode* pNode = oElement.getParentNode(); pNode != nullptr; pNode = pNode->getParentNode())
+    if (oElement.getFirstChild() == nullptr)
+        return false;
+    // Names of one document are pooled, so equal names are one pointer.
+    const XMLCh*   pszName   = oElement.getNodeName();
+    const DOMNode* pNode     = oElement.getParentNode();
+    std::size_t    nSameName = 0;
+    while (pNode != nullptr && pNode->getNodeName() == pszName && nSameName < XmlLimits::MAX_SAME_NAME_DEPTH)
     {
-        if (pNode->getNodeType() != DOMNode::ELEMENT_NODE)
-            continue; // an entity reference is no level, whatever its name
-        // Names of one document are pooled, so equal names are one pointer.
-        nSameName += pNode->getNodeName() == pszName ? 1 : 0;
-        ++nDepth;
+        pNode = pNode->getParentNode();
+        ++nSameName;
     }
-    return nDepth >= XmlLimits::MAX_DEPTH || nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH;
+    return nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH;
 }
 } // namespace
 
@@ -73,7 +146,7 @@ const DOMDocument* documentOf(const XercesDOMParser* pDOMParser)
         return pDocument;
 
     // A document that a caller parsed for itself has not been checked yet.
-    const std::string strProblem = walkWithinLimits(*pDocument, [](const DOMElement&) {});
+    const std::string strProblem = checkNesting(*pDocument);
     if (strProblem.empty())
         return pDocument;
     logFail(DC_HERE, DC_RESULT_XML_ERROR, "XML document is refused: " + strProblem);
@@ -95,23 +168,13 @@ ElementList documentElements(const XercesDOMParser& oDOMParser, const char16_t* 
 
 std::string toLocal(const XMLCh* pszText)
 {
-    if (pszText == nullptr)
-        return {};
-    // ASCII is the same bytes in every local code page, and most texts are ASCII.
-    std::size_t nLength = 0;
-    while (pszText[nLength] != 0 && pszText[nLength] < 0x80)
-        ++nLength;
-    if (pszText[nLength] != 0)
-        return transcode(pszText);
-    std::string strLocal(nLength, '\0');
-    for (std::size_t nAt = 0; nAt < nLength; ++nAt)
-        strLocal[nAt] = static_cast<char>(pszText[nAt]);
-    return strLocal;
+    return pszText == nullptr ? std::string() : toLocal(pszText, XMLString::stringLen(pszText));
 }
 
 std::string attrText(const DOMElement& oElement, const char16_t* pszName)
 {
-    return toLocal(oElement.getAttribute(pszName));
+    const std::u16string_view strValue = attrValue(oElement, pszName);
+    return toLocal(strValue.data(), strValue.size());
 }
 
 std::uint32_t toNumber(const std::string& strText)
@@ -121,7 +184,12 @@ std::uint32_t toNumber(const std::string& strText)
 
 std::uint32_t attrNumber(const DOMElement& oElement, const char16_t* pszName)
 {
-    return toNumber(attrText(oElement, pszName));
+    const std::u16string_view strValue = attrValue(oElement, pszName);
+    if (strValue.empty())
+        return 0;
+    if (strValue.size() == 1 && strValue[0] >= u'0' && strValue[0] <= u'9') // nearly every number there is
+        return static_cast<std::uint32_t>(strValue[0] - u'0');
+    return toNumber(toLocal(strValue.data(), strValue.size()));
 }
 
 bool attrFlag(const DOMElement& oElement, const char16_t* pszName)
@@ -132,7 +200,8 @@ bool attrFlag(const DOMElement& oElement, const char16_t* pszName)
 std::string elementText(const DOMElement& oElement)
 {
     std::u16string strText;
-    for (const DOMNode* pNode = &oElement; pNode != nullptr; pNode = nextInSubtree(*pNode, oElement))
+    CSubtreeWalk   oWalk(&oElement);
+    while (const DOMNode* pNode = oWalk.next())
     {
         if (isTextNode(*pNode))
             strText += pNode->getNodeValue();
@@ -140,16 +209,28 @@ std::string elementText(const DOMElement& oElement)
     return toLocal(strText.c_str());
 }
 
-const DOMNode* nextInSubtree(const DOMNode& oNode, const DOMNode& oRoot)
+const DOMNode* CSubtreeWalk::parent() const
 {
-    if (const DOMNode* pChild = oNode.getFirstChild())
-        return pChild;
-    for (const DOMNode* pNode = &oNode; pNode != &oRoot; pNode = pNode->getParentNode())
+    return m_nDepth <= REMEMBERED ? m_arOpen[m_nDepth - 1] : m_pNode->getParentNode();
+}
+
+const DOMNode* CSubtreeWalk::next()
+{
+    const DOMNode* pChild = m_pNode == nullptr ? nullptr : m_pNode->getFirstChild();
+    if (pChild != nullptr)
     {
-        if (const DOMNode* pSibling = pNode->getNextSibling())
-            return pSibling;
+        if (m_nDepth < REMEMBERED)
+            m_arOpen[m_nDepth] = m_pNode;
+        ++m_nDepth;
+        return m_pNode = pChild;
     }
-    return nullptr;
+    for (; m_nDepth != 0; --m_nDepth)
+    {
+        if (const DOMNode* pSibling = m_pNode->getNextSibling())
+            return m_pNode = pSibling;
+        m_pNode = parent();
+    }
+    return m_pNode = nullptr;
 }
 
 CElements::CElements(const DOMElement* pRoot, const char16_t* pszName)
@@ -159,11 +240,10 @@ CElements::CElements(const DOMElement* pRoot, const char16_t* pszName)
 
 CElements::Iterator& CElements::Iterator::operator++()
 {
-    const DOMNode* pNode = m_pCurrent;
-    do
-        pNode = nextInSubtree(*pNode, *m_pRoot);
+    const DOMNode* pNode = m_oWalk.next();
     while (pNode != nullptr &&
-           (pNode->getNodeType() != DOMNode::ELEMENT_NODE || !XMLString::equals(pNode->getNodeName(), m_pszName)));
+           (pNode->getNodeType() != DOMNode::ELEMENT_NODE || !XMLString::equals(pNode->getNodeName(), m_pszName)))
+        pNode = m_oWalk.next();
     m_pCurrent = static_cast<const DOMElement*>(pNode);
     return *this;
 }

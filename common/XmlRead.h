@@ -44,17 +44,38 @@ bool attrFlag(const xercesc::DOMElement& oElement, const char16_t* pszName);
 // All text below an element, comments and processing instructions left out.
 std::string elementText(const xercesc::DOMElement& oElement);
 
-// The node after oNode in document order within the subtree of oRoot, or null.
-const xercesc::DOMNode* nextInSubtree(const xercesc::DOMNode& oNode, const xercesc::DOMNode& oRoot);
+// Walks the nodes below one root in document order. Remembers the way down for
+// the usual depths: asking Xerces for a parent casts through its class hierarchy.
+class CSubtreeWalk
+{
+public:
+    explicit CSubtreeWalk(const xercesc::DOMNode* pRoot) : m_pNode(pRoot) {} // null: nothing to walk
+
+    // The next node, or null at the end.
+    const xercesc::DOMNode* next();
+
+private:
+    const xercesc::DOMNode* parent() const;
+
+    static constexpr std::size_t REMEMBERED = 16;
+
+    const xercesc::DOMNode* m_pNode;              // the root at first, null at the end
+    std::size_t             m_nDepth = 0;         // of m_pNode below the root
+    const xercesc::DOMNode* m_arOpen[REMEMBERED]; // the root, and what lies between it and m_pNode
+};
 
 // The descendants of one element with a tag name, at any depth, in document
 // order, nested matches included: the DOM's descendant lookup as a range. Nothing
 // is allocated. A lookup fails (isMissing) on a null element and below one that
-// is itself nested beyond the limits: documents of CXmlParser never are, but a
-// reader may be handed an element of any document.
+// stands directly inside too many of its own kind: documents of CXmlParser hold
+// no such element, but a reader may be handed an element of any document.
 class CElements
 {
 public:
+    struct StEnd
+    {
+    };
+
     class Iterator
     {
     public:
@@ -64,27 +85,27 @@ public:
         using pointer           = const xercesc::DOMElement*;
         using reference         = const xercesc::DOMElement&;
 
-        Iterator(const xercesc::DOMElement* pRoot, const char16_t* pszName)
-            : m_pRoot(pRoot), m_pCurrent(pRoot), m_pszName(pszName)
+        Iterator(const xercesc::DOMElement* pRoot, const char16_t* pszName) : m_oWalk(pRoot), m_pszName(pszName)
         {
+            ++*this; // to the first match
         }
 
         reference operator*() const { return *m_pCurrent; }
         Iterator& operator++();
-        bool      operator!=(const Iterator& oOther) const { return m_pCurrent != oOther.m_pCurrent; }
+        bool      operator!=(StEnd) const { return m_pCurrent != nullptr; }
 
     private:
-        const xercesc::DOMElement* m_pRoot;
-        const xercesc::DOMElement* m_pCurrent; // null at the end
+        CSubtreeWalk               m_oWalk;
+        const xercesc::DOMElement* m_pCurrent = nullptr; // null at the end
         const char16_t*            m_pszName;
     };
 
     CElements(const xercesc::DOMElement* pRoot, const char16_t* pszName);
 
     bool     isMissing() const { return m_pRoot == nullptr; }
-    bool     isEmpty() const { return !(begin() != end()); }
-    Iterator begin() const { return isMissing() ? end() : ++Iterator(m_pRoot, m_pszName); }
-    Iterator end() const { return Iterator(nullptr, m_pszName); }
+    bool     isEmpty() const { return !(begin() != StEnd{}); }
+    Iterator begin() const { return Iterator(m_pRoot, m_pszName); }
+    StEnd    end() const { return {}; }
 
 private:
     const xercesc::DOMElement* m_pRoot; // null when the lookup failed

@@ -41,14 +41,14 @@ std::uint32_t readRecords(const LocationInfo& stWhere, const CElements& oElement
         return logFail(stWhere, DC_RESULT_XML_ERROR, pszFailed);
     for (const xercesc::DOMElement& oElement : oElements)
     {
-        Record stRecord;
-        bool   bKeep = true;
+        Record& stRecord = pLstOut->emplace_back();
         if constexpr (std::is_same_v<std::invoke_result_t<Read, decltype(oElement), Record&>, bool>)
-            bKeep = fnRead(oElement, stRecord);
+        {
+            if (!fnRead(oElement, stRecord))
+                pLstOut->pop_back();
+        }
         else
             fnRead(oElement, stRecord);
-        if (bKeep)
-            pLstOut->push_back(std::move(stRecord));
     }
     return DC_RESULT_OK;
 }

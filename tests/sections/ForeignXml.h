@@ -9,7 +9,7 @@
 
 #include <string>
 
-// nDepth elements of the name inside each other.
+// nDepth elements of the name inside each other, the innermost with a text in it.
 inline std::string nested(const std::string& strName, unsigned nDepth)
 {
     std::string strOpening;
@@ -19,7 +19,7 @@ inline std::string nested(const std::string& strName, unsigned nDepth)
         strOpening.append("<").append(strName).append(">");
         strClosing.append("</").append(strName).append(">");
     }
-    return strOpening + strClosing;
+    return strOpening + "text" + strClosing;
 }
 
 class CForeignXml
