@@ -18,14 +18,16 @@ int run(int nArguments, char** ppszArguments)
     std::string strFolder;
     std::string strCheck = "yes";
     oApp.add_option("DIR", strFolder, "Folder of the root; made when missing")->required();
-    oApp.add_option("--types", stWish.nTypes, "Number of device types, each with a file of its own")
-        ->default_val(100)
-        ->check(CLI::Range(0, 60000));
+    oApp.add_option("--types", stWish.nTypes, "Number of device types")->default_val(100)->check(CLI::Range(0, 60000));
     oApp.add_option("--kilobytes", nKilobytes, "Size of each file; below 10 the sections set the size")
         ->capture_default_str()
         ->check(CLI::Range(1, 200000));
     oApp.add_option("--seed", stWish.ulSeed, "Another seed, other files")->capture_default_str();
     oApp.add_option("--alarms", stWish.nAlarms, "Number of records in the alarm table")->capture_default_str();
+    oApp.add_option("--versions", stWish.nVersions, "Registered versions of each type, served by one file")
+        ->capture_default_str()
+        ->check(CLI::Range(1, 100));
+    oApp.add_flag("--common", stWish.bCommon, "One common file of that size for all types");
     oApp.add_option("--check", strCheck, "'no': no CheckOperations; other operations fill the files instead")
         ->capture_default_str()
         ->check(CLI::IsMember({"yes", "no"}));

@@ -5,6 +5,8 @@
 #include "Roots.h"
 #include "Targets.h"
 
+#include "ServerRootText.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -26,8 +28,8 @@ const std::vector<StLoadProbe>& probesOf(std::size_t nTypes)
     {
         rootOf(LARGEST); // first, so that the others share its files
         // Small loads are short: several of them, spread over the time that the large one takes.
-        for (const std::size_t nSize :
-             {100u, 1000u, 100u, 300u, 100u, 10000u, 100u, 1000u, 100u, 300u, 3000u, 1000u, 100u, 300u, 100u})
+        for (const std::size_t nSize : {100u, 1000u, 100u, 300u, 100u, 3000u, 10000u, 100u, 1000u, 100u, 300u, 3000u,
+                                        1000u, 100u, 300u, 100u, 3000u})
             s_mapProbe[nSize].push_back(probeLoad(rootOf(nSize)));
     }
     return s_mapProbe.at(nTypes);
@@ -80,6 +82,38 @@ void measureCurve(benchmark::State& oState)
     oState.counters["bare"]      = bareParse(filesOf(nTypes));
     oState.counters["wall"]      = probesOf(nTypes).front().dWall;
 }
+
+// The same number of types, set up in other ways: what an operator can change.
+void measureVariant(benchmark::State& oState)
+{
+    struct StVariant
+    {
+        const char* pszText;
+        std::size_t nBytes;
+        std::size_t nVersions;
+        bool        bCommon;
+    };
+    constexpr StVariant VARIANTS[] = {{"a file of 96 KB each", 96000, 1, false},
+                                      {"a file of 48 KB each", 48000, 1, false},
+                                      {"all on a common file of 96 KB", 96000, 1, true},
+                                      {"all on a common file of 24 KB", 24000, 1, true},
+                                      {"a file of 96 KB each, registered in three versions", 96000, 3, false}};
+    const auto          nVariant   = static_cast<std::size_t>(oState.range(0));
+    const StVariant&    stVariant  = VARIANTS[nVariant];
+    StRootWish          stWish;
+    stWish.oFolder   = workFolder() / ("variant-" + std::to_string(nVariant));
+    stWish.nTypes    = 1000;
+    stWish.nBytes    = stVariant.nBytes;
+    stWish.nVersions = stVariant.nVersions;
+    stWish.bCommon   = stVariant.bCommon;
+    writeServerRoot(stWish);
+    const StLoadProbe stProbe = probeLoad(stWish.oFolder);
+    std::filesystem::remove_all(stWish.oFolder);
+    oState.SetLabel(stVariant.pszText);
+    oState.SetIterationTime(stProbe.dCpu);
+    oState.counters["load"] = stProbe.dCpu;
+    oState.counters["held"] = stProbe.dHeld;
+}
 } // namespace
 
 void addGrowthBenchmarks()
@@ -88,4 +122,5 @@ void addGrowthBenchmarks()
     measureOnce("memory/held", measureHeld, {HELD_TARGET});
     measureOnce("memory/peak", measurePeak, {PEAK_TARGET});
     measureOnce("curve", measureCurve, {})->Arg(100)->Arg(300)->Arg(1000)->Arg(3000)->Arg(10000);
+    measureOnce("variant", measureVariant, {})->DenseRange(0, 4);
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <fstream>
 #include <functional>
+#include <initializer_list>
 #include <stdexcept>
 
 namespace
@@ -48,31 +49,54 @@ void addRows(std::string& strSql, const std::string& strInsert, std::size_t nRow
     }
 }
 
+std::string joined(std::initializer_list<std::string> lstValue)
+{
+    std::string strRow;
+    for (const std::string& strValue : lstValue)
+        strRow.append(strRow.empty() ? "" : ", ").append(strValue);
+    return strRow;
+}
+
 std::string typeId(std::size_t nType)
 {
     return std::to_string(1001 + nType);
 }
 
-std::string inventoryText(std::size_t nTypes)
+std::string versionName(std::size_t nVersion)
 {
-    std::string strSql = "-- Generated: one file and one device for each type.\n"
-                         "INSERT INTO setting (name, value) VALUES ('WDM_SUPPORT_ISSU_UPGRADE', '1');\n"
-                         "INSERT INTO resource (key, value) VALUES ('BACKUP_PROGRAM_SUPPORT', '1');\n";
-    addRows(strSql, "INSERT INTO device_type (position, name, version, type_id, version_id)", nTypes,
+    return nVersion == 0 ? TYPE_VERSION : "V4." + std::to_string(nVersion);
+}
+
+std::string inventoryText(const StRootWish& stWish)
+{
+    const std::size_t nTypes    = stWish.nTypes;
+    const std::size_t nVersions = stWish.nVersions;
+    std::string       strSql    = "-- Generated: one device for each type.\n"
+                                  "INSERT INTO setting (name, value) VALUES ('WDM_SUPPORT_ISSU_UPGRADE', '1');\n"
+                                  "INSERT INTO resource (key, value) VALUES ('BACKUP_PROGRAM_SUPPORT', '1');\n";
+    addRows(strSql, "INSERT INTO device_type (position, name, version, type_id, version_id, config_file_type)",
+            nTypes * nVersions,
+            [&](std::size_t nRow)
+            {
+                const std::size_t nType = nRow / nVersions;
+                return joined({std::to_string(nRow + 1), quoted(deviceTypeName(nType)),
+                               quoted(versionName(nRow % nVersions)), typeId(nType),
+                               std::to_string(nRow % nVersions + 1), stWish.bCommon ? "1" : "0"});
+            });
+    addRows(strSql, "INSERT INTO config_file (device_type, path)", stWish.bCommon ? 0 : nTypes,
+            [](std::size_t nType) {
+                return joined({quoted(deviceTypeName(nType)), quoted(configFile("", nType).string())});
+            });
+    addRows(strSql, "INSERT INTO device_class (type_id, domain, is_snmp, is_v3r7)", nTypes,
+            [](std::size_t nType) {
+                return joined({typeId(nType), "2", "1", "1"});
+            });
+    addRows(strSql, "INSERT INTO device (device_id, name, type_id, version_id)", nTypes,
             [](std::size_t nType)
             {
-                return std::to_string(nType + 1) + ", " + quoted(deviceTypeName(nType)) + ", " + quoted(TYPE_VERSION) +
-                       ", " + typeId(nType) + ", 1";
+                const std::string strId = std::to_string(nType + 1);
+                return joined({strId, quoted("hall-" + strId), typeId(nType), "1"});
             });
-    addRows(strSql, "INSERT INTO config_file (device_type, path)", nTypes,
-            [](std::size_t nType)
-            { return quoted(deviceTypeName(nType)) + ", " + quoted(configFile("", nType).string()); });
-    addRows(strSql, "INSERT INTO device_class (type_id, domain, is_snmp, is_v3r7)", nTypes,
-            [](std::size_t nType) { return typeId(nType) + ", 2, 1, 1"; });
-    addRows(
-        strSql, "INSERT INTO device (device_id, name, type_id, version_id)", nTypes,
-        [](std::size_t nType)
-        { return std::to_string(nType + 1) + ", 'hall-" + std::to_string(nType + 1) + "', " + typeId(nType) + ", 1"; });
     return strSql;
 }
 
@@ -101,12 +125,15 @@ std::filesystem::path configFile(const std::filesystem::path& oFolder, std::size
 
 void writeServerRoot(const StRootWish& stWish)
 {
-    writeFile(stWish.oFolder / "server.sql", inventoryText(stWish.nTypes));
+    writeFile(stWish.oFolder / "server.sql", inventoryText(stWish));
     if (stWish.nAlarms > 0)
         writeFile(stWish.oFolder / ALARM_FILE, alarmText(stWish.nAlarms, stWish.ulSeed));
     if (!stWish.oFilesOf.empty())
         return std::filesystem::create_directory_symlink(std::filesystem::absolute(stWish.oFilesOf) / "common",
                                                          stWish.oFolder / "common");
+    if (stWish.bCommon)
+        return writeFile(stWish.oFolder / CONFIG_FOLDER / "Common_ServerConfiguration.xml",
+                         configText({0, stWish.nBytes, stWish.ulSeed, stWish.bCheck}));
     for (std::size_t nType = 0; nType < stWish.nTypes; ++nType)
         writeFile(configFile(stWish.oFolder, nType), configText({nType, stWish.nBytes, stWish.ulSeed, stWish.bCheck}));
 }
