@@ -172,8 +172,8 @@ TEST_F(CServerTest, UnknownTypeIsSoughtAndLoggedStepByStep)
     bool bAnswer = true;
     EXPECT_EQ(DC_RESULT_INVALID_PARA, oDatabase.isDeviceOpSupported("Z", "V1_telnet", "Backup", bAnswer));
     EXPECT_EQ((Lines{"E 3B0F0001 [DCServer]CDeviceAdapterInterface::getInstance()->searchDeviceType failed.",
-                     "E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                     "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)",
+                     ("E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
+                      "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)"),
                      "E 3B0F0001 Call Function return Error:initialize(\"\", \"\", true)",
                      "E 3B0F0001 Call Function return Error:parseNormalXML(pAsnDevTypeVerXMLInfo)",
                      "E 3B0F0001 [DCServer]readXMLfile Failed for strDevType = Z, strDevTypeVer = V1_telnet",

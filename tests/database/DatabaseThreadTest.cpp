@@ -40,6 +40,7 @@ protected:
     static void inThreads(int nThreads, Work fnWork)
     {
         std::vector<std::thread> lstThread;
+        lstThread.reserve(static_cast<std::size_t>(nThreads));
         for (int nAt = 0; nAt < nThreads; ++nAt)
             lstThread.emplace_back(fnWork, nAt);
         for (std::thread& oThread : lstThread)

@@ -94,12 +94,12 @@ TEST_P(CapacityReadTest, GivesEveryVersionThatCanBeRead)
 }
 
 const Lines MISSING_DOCUMENT = {
-    "E 3B0004EC [DCServer]Server config File :ROOT/common/dc/conf/dc/devtype_xmlconf/C_2_ServerConfiguration.xml "
-    "not exist.",
-    "E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->getServerConfigFile("
-    "strDevTypeTemp, strFilePath)",
-    "E 3B0F0001 Call Function return Error:initialize(stAsnDevVersion.strSoftVersion, "
-    "stAsnDevVersion.strPatchVersion, false)",
+    ("E 3B0004EC [DCServer]Server config File :ROOT/common/dc/conf/dc/devtype_xmlconf/C_2_ServerConfiguration.xml "
+     "not exist."),
+    ("E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->getServerConfigFile("
+     "strDevTypeTemp, strFilePath)"),
+    ("E 3B0F0001 Call Function return Error:initialize(stAsnDevVersion.strSoftVersion, "
+     "stAsnDevVersion.strPatchVersion, false)"),
     "E 3B0F0001 [DCServer]CDevTypeXMLResReader::initialize failed",
     "E 3B0F0001 [DCServer]Version is left out, DeviceType:C, SoftVersion:2, PatchVersion:",
 };

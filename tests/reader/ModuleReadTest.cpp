@@ -57,7 +57,6 @@ TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
 {
     write("a/ServerConfiguration.xml", "A");
     write("b/ServerConfiguration.xml", "Unreachable");
-    m_oRoot.write("c/unused", "");
     m_oRoot.write("m/c/ServerConfiguration.xml", "<C><DeviceType name='C'/>");
     m_oRoot.write("m/d/ServerConfiguration.xml", "<C><support/></C>");
     std::filesystem::create_symlink("nowhere", m_oRoot.path() + "/m/e");
@@ -70,15 +69,15 @@ TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
     EXPECT_EQ((Lines{"A<a/ServerConfiguration.xml", "!c/ServerConfiguration.xml", "!d/ServerConfiguration.xml",
                      "G<g/ServerConfiguration.xml"}),
               files());
-    EXPECT_EQ((Lines{"E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: ROOT/m/b, "
-                     "errno: 13",
+    EXPECT_EQ((Lines{("E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: ROOT/m/b, "
+                      "errno: 13"),
                      "E 3B0004EC Call Function return Error:parseXMLOfDirs(strFilePath, pModuleInfoMap): ROOT/m/b",
                      "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :",
-                     "E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
-                     "ROOT/m/c/ServerConfiguration.xml",
+                     ("E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
+                      "ROOT/m/c/ServerConfiguration.xml"),
                      "E 3B0004EE [DCServer]pElm is null.",
-                     "E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
-                     "ROOT/m/d/ServerConfiguration.xml",
+                     ("E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
+                      "ROOT/m/d/ServerConfiguration.xml"),
                      "E FFFFFFFF Call Function return Error:KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): ROOT/m/e"}),
               log());
 }
