@@ -61,53 +61,6 @@ std::string toLocal(const XMLCh* pszText, std::size_t nLength)
     return strLong;
 }
 
-// Less than 0, 0 or more: the order of two names.
-int compareNames(const XMLCh* pszLeft, const XMLCh* pszRight)
-{
-    while (*pszLeft == *pszRight && *pszLeft != 0)
-    {
-        ++pszLeft;
-        ++pszRight;
-    }
-    return static_cast<int>(*pszLeft) - static_cast<int>(*pszRight);
-}
-
-// The attribute of a name, or null. The map keeps its attributes in the order of
-// their names; this is its own search without the calls around each comparison.
-const DOMAttr* findAttribute(const DOMElement& oElement, const char16_t* pszName)
-{
-    const DOMNamedNodeMap& oAttributes = *oElement.getAttributes();
-    XMLSize_t              nFirst      = 0;
-    XMLSize_t              nEnd        = oAttributes.getLength();
-    while (nFirst < nEnd)
-    {
-        const XMLSize_t nAt    = (nFirst + nEnd) / 2;
-        const auto*     pAttr  = static_cast<const DOMAttr*>(oAttributes.item(nAt));
-        const int       nOrder = compareNames(pszName, pAttr->getName());
-        if (nOrder == 0)
-            return pAttr;
-        if (nOrder < 0)
-            nEnd = nAt;
-        else
-            nFirst = nAt + 1;
-    }
-    return nullptr;
-}
-
-// The value of an attribute, empty when it is missing. DOMAttr::getValue() casts
-// its way through the class hierarchy at every call; nearly all values are one
-// text node, whose content is at hand.
-std::u16string_view attrValue(const DOMElement& oElement, const char16_t* pszName)
-{
-    const DOMAttr* pAttr = findAttribute(oElement, pszName);
-    const DOMNode* pText = pAttr == nullptr ? nullptr : pAttr->getFirstChild();
-    if (pText == nullptr)
-        return u"";
-    if (pText->getNodeType() == DOMNode::TEXT_NODE && pText->getNextSibling() == nullptr)
-        return {pText->getNodeValue(), static_cast<const DOMText*>(pText)->getLength()};
-    return pAttr->getValue(); // entity references in it
-}
-
 bool isTextNode(const DOMNode& oNode)
 {
     return oNode.getNodeType() == DOMNode::TEXT_NODE || oNode.getNodeType() == DOMNode::CDATA_SECTION_NODE;
@@ -171,20 +124,57 @@ std::string toLocal(const XMLCh* pszText)
     return pszText == nullptr ? std::string() : toLocal(pszText, XMLString::stringLen(pszText));
 }
 
-std::string attrText(const DOMElement& oElement, const char16_t* pszName)
-{
-    const std::u16string_view strValue = attrValue(oElement, pszName);
-    return toLocal(strValue.data(), strValue.size());
-}
-
 std::uint32_t toNumber(const std::string& strText)
 {
     return static_cast<std::uint32_t>(std::strtol(strText.c_str(), nullptr, 10));
 }
 
-std::uint32_t attrNumber(const DOMElement& oElement, const char16_t* pszName)
+CAttributes::CAttributes(const DOMElement& oElement)
+    : m_oElement(oElement), m_nAttributes(oElement.getAttributes()->getLength())
 {
-    const std::u16string_view strValue = attrValue(oElement, pszName);
+    const DOMNamedNodeMap& oMap = *oElement.getAttributes();
+    for (std::size_t nAt = 0; nAt < m_nAttributes && m_nAttributes <= REMEMBERED; ++nAt)
+    {
+        const auto* pAttr  = static_cast<const DOMAttr*>(oMap.item(nAt));
+        m_arAttribute[nAt] = {pAttr->getName(), pAttr};
+    }
+}
+
+const DOMAttr* CAttributes::find(const char16_t* pszName) const
+{
+    if (m_nAttributes > REMEMBERED)
+        return m_oElement.getAttributeNode(pszName);
+    for (std::size_t nAt = 0; nAt < m_nAttributes; ++nAt)
+    {
+        const StAttribute& stAttribute = m_arAttribute[nAt];
+        if (*stAttribute.pszName == *pszName && XMLString::equals(stAttribute.pszName, pszName))
+            return stAttribute.pAttr;
+    }
+    return nullptr;
+}
+
+std::u16string_view CAttributes::value(const char16_t* pszName) const
+{
+    const DOMAttr* pAttr = find(pszName);
+    const DOMNode* pText = pAttr == nullptr ? nullptr : pAttr->getFirstChild();
+    if (pText == nullptr)
+        return {};
+    // Nearly all values are one text node, whose content is at hand; getValue()
+    // casts its way through the class hierarchy at every call.
+    if (pText->getNodeType() == DOMNode::TEXT_NODE && pText->getNextSibling() == nullptr)
+        return {pText->getNodeValue(), static_cast<const DOMText*>(pText)->getLength()};
+    return pAttr->getValue(); // entity references in it
+}
+
+std::string attrText(const CAttributes& oAttributes, const char16_t* pszName)
+{
+    const std::u16string_view strValue = oAttributes.value(pszName);
+    return toLocal(strValue.data(), strValue.size());
+}
+
+std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName)
+{
+    const std::u16string_view strValue = oAttributes.value(pszName);
     if (strValue.empty())
         return 0;
     if (strValue.size() == 1 && strValue[0] >= u'0' && strValue[0] <= u'9') // nearly every number there is
@@ -192,9 +182,19 @@ std::uint32_t attrNumber(const DOMElement& oElement, const char16_t* pszName)
     return toNumber(toLocal(strValue.data(), strValue.size()));
 }
 
+bool attrFlag(const CAttributes& oAttributes, const char16_t* pszName)
+{
+    return attrNumber(oAttributes, pszName) != 0;
+}
+
+std::string attrText(const DOMElement& oElement, const char16_t* pszName)
+{
+    return attrText(CAttributes(oElement), pszName);
+}
+
 bool attrFlag(const DOMElement& oElement, const char16_t* pszName)
 {
-    return attrNumber(oElement, pszName) != 0;
+    return attrFlag(CAttributes(oElement), pszName);
 }
 
 std::string elementText(const DOMElement& oElement)

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "names are written as u\"...\" literals");
@@ -30,16 +31,44 @@ ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const c
 // A text in the server's local code page.
 std::string toLocal(const XMLCh* pszText);
 
-// An attribute: "" when it is missing.
-std::string attrText(const xercesc::DOMElement& oElement, const char16_t* pszName);
-
 // Base 10 by the C library's string-to-long rule, kept to its low 32 bits; text
 // without digits gives 0.
 std::uint32_t toNumber(const std::string& strText);
-std::uint32_t attrNumber(const xercesc::DOMElement& oElement, const char16_t* pszName);
 
-// True when that number is not 0, so "true" is false.
-bool attrFlag(const xercesc::DOMElement& oElement, const char16_t* pszName);
+// The attributes of one element, at hand for several readings.
+class CAttributes
+{
+public:
+    explicit CAttributes(const xercesc::DOMElement& oElement);
+
+    const xercesc::DOMElement* element() const { return &m_oElement; }
+
+    // The value of an attribute, empty when it is missing.
+    std::u16string_view value(const char16_t* pszName) const;
+
+private:
+    static constexpr std::size_t REMEMBERED = 12;
+
+    struct StAttribute
+    {
+        const XMLCh*            pszName;
+        const xercesc::DOMAttr* pAttr;
+    };
+
+    const xercesc::DOMAttr* find(const char16_t* pszName) const;
+
+    const xercesc::DOMElement& m_oElement;
+    std::size_t                m_nAttributes;
+    StAttribute                m_arAttribute[REMEMBERED]; // filled unless the element has more
+};
+
+// One attribute of an element: as text ("" when it is missing), as a number by
+// toNumber(), as a flag (true when that number is not 0, so "true" is false).
+std::string   attrText(const CAttributes& oAttributes, const char16_t* pszName);
+std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName);
+bool          attrFlag(const CAttributes& oAttributes, const char16_t* pszName);
+std::string   attrText(const xercesc::DOMElement& oElement, const char16_t* pszName);
+bool          attrFlag(const xercesc::DOMElement& oElement, const char16_t* pszName);
 
 // All text below an element, comments and processing instructions left out.
 std::string elementText(const xercesc::DOMElement& oElement);

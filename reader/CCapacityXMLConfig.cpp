@@ -86,11 +86,11 @@ std::uint32_t CCapacityXMLConfig::parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo)
 std::uint32_t CCapacityXMLConfig::fillOperInfo(const DOMElement* pEntry, std::list<StAsnOperation>& lstOut)
 {
     return readRecords(DC_HERE, CElements(pEntry, u"Operation"), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const DOMElement& oOperation, StAsnOperation& stOperation)
+                       [this](const CAttributes& oOperation, StAsnOperation& stOperation)
                        {
                            stOperation.strId        = attrText(oOperation, u"id");
                            stOperation.bIsSupported = attrFlag(oOperation, u"isSupported");
-                           fillOperParaInfo(&oOperation, stOperation.lstParam);
+                           fillOperParaInfo(oOperation.element(), stOperation.lstParam);
                        });
 }
 
@@ -98,19 +98,19 @@ std::uint32_t CCapacityXMLConfig::fillOperParaInfo(const DOMElement* pOperation,
 {
     return readRecords(DC_HERE, CElements(pOperation, u"Parameter"),
                        "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const DOMElement& oParameter, StAsnOperParamDef& stParam)
+                       [this](const CAttributes& oParameter, StAsnOperParamDef& stParam)
                        {
                            stParam.strId       = attrText(oParameter, u"id");
                            stParam.strValue    = attrText(oParameter, u"value");
                            stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
-                           fillOperOptionInfo(&oParameter, stParam.lstOption);
+                           fillOperOptionInfo(oParameter.element(), stParam.lstOption);
                        });
 }
 
 std::uint32_t CCapacityXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut)
 {
     return readRecords(DC_HERE, optionElements(pParameter), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [](const DOMElement& oOption, StAsnOptionInfo& stOption)
+                       [](const CAttributes& oOption, StAsnOptionInfo& stOption)
                        {
                            readOption(oOption, stOption);
                            stOption.strTarget = attrText(oOption, u"target");

@@ -33,13 +33,13 @@ constexpr StSection CHECK_FILE = {
 // The check types of a telnet check file, in the order in which they run.
 constexpr const char16_t* TELNET_CHECK_TYPES[] = {u"PreCheck", u"PostCheck"};
 
-void readOperation(const DOMElement& oOperation, StAsnCheckOperationDef& stOperation)
+void readOperation(const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
 {
     stOperation.enOperationLevel = readLevel(oOperation);
     stOperation.bIsCancelable    = attrFlag(oOperation, u"isCancelable");
 }
 
-void readItem(const DOMElement& oItem, StAsnCheckType& stItem)
+void readItem(const CAttributes& oItem, StAsnCheckType& stItem)
 {
     stItem.strId           = attrText(oItem, u"id");
     stItem.strDescription  = attrText(oItem, u"description");
@@ -52,7 +52,7 @@ void readItem(const DOMElement& oItem, StAsnCheckType& stItem)
 }
 
 // An item that says nothing about it is integrated. The spelling is the attribute's.
-bool isIntegrated(const DOMElement& oItem)
+bool isIntegrated(const CAttributes& oItem)
 {
     const std::string strIntegrated = attrText(oItem, u"integated");
     return strIntegrated.empty() || strIntegrated == "1";
@@ -81,11 +81,11 @@ std::uint32_t CCheckOpXMLConfig::fillCheckOperInfo(const DOMElement*            
     if (pLstOut == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "oAsnCheckOperationLst is null.");
     return readRecords(DC_HERE, CElements(pSection, u"Operation"), "pParaLst is null.", pLstOut,
-                       [this](const DOMElement& oOperation, StAsnCheckOperationDef& stOperation)
+                       [this](const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
                        {
                            stOperation.strId = attrText(oOperation, u"id");
                            readOperation(oOperation, stOperation);
-                           fillCheckType(&oOperation, u"Parameter", &stOperation.lstCheckType);
+                           fillCheckType(oOperation.element(), u"Parameter", &stOperation.lstCheckType);
                        });
 }
 
@@ -96,11 +96,11 @@ std::uint32_t CCheckOpXMLConfig::fillCheckType(const DOMElement* pElement, const
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pOperElm is null.");
     std::uint32_t ulIndex = 0; // an item that is left out takes its position all the same
     return readRecords(DC_HERE, CElements(pElement, pszTagName), " pParaLst is null.", pLstOut,
-                       [&](const DOMElement& oItem, StAsnCheckType& stItem)
+                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
                        {
                            readItem(oItem, stItem);
                            stItem.ulIndex = ulIndex++;
-                           fillCheckType(&oItem, u"SubItem", &stItem.lstSubItem);
+                           fillCheckType(oItem.element(), u"SubItem", &stItem.lstSubItem);
                            return isIntegrated(oItem);
                        });
 }
@@ -116,7 +116,7 @@ std::uint32_t CCheckOpXMLConfig::setCheckOpConfigurationTelnet(XercesDOMParser* 
             StAsnCheckOperationDef& stOperation = pLstOut->emplace_back();
             stOperation.strId                   = toLocal(pszCheckType);
             stOperation.nTaskType               = readTaskType(oTaskType);
-            readOperation(oCheckType, stOperation);
+            readOperation(CAttributes(oCheckType), stOperation);
             fillCheckTypeTelnet(&oCheckType, u"Parameter", &stOperation.lstCheckType);
         }
     };
@@ -140,7 +140,7 @@ std::uint32_t CCheckOpXMLConfig::fillCheckTypeTelnet(const DOMElement* pElmCheck
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pCheckItemLst is null.");
     std::uint32_t ulIndex = 0;
     return readRecords(DC_HERE, CElements(pElmCheckType, pszTagName), "pParaLst is null.", pCheckItemLst,
-                       [&](const DOMElement& oItem, StAsnCheckType& stItem)
+                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
                        {
                            readItem(oItem, stItem);
                            stItem.ulIndex = ulIndex++;
@@ -148,7 +148,7 @@ std::uint32_t CCheckOpXMLConfig::fillCheckTypeTelnet(const DOMElement* pElmCheck
                            const std::string strChecked = attrText(oItem, u"checked");
                            if (strChecked == Vocabulary::TRUE_LOWER || strChecked == Vocabulary::FALSE_LOWER)
                                stItem.bSelected = strChecked == Vocabulary::TRUE_LOWER;
-                           fillCheckTypeTelnet(&oItem, u"SubItem", &stItem.lstSubItem);
+                           fillCheckTypeTelnet(oItem.element(), u"SubItem", &stItem.lstSubItem);
                            return isIntegrated(oItem) && attrText(oItem, u"GUI") != Vocabulary::FALSE_LOWER;
                        });
 }
@@ -172,12 +172,12 @@ std::uint32_t CCheckOpXMLConfig::fillFixedCheckType(const DOMElement* pElmCheckT
     if (pLstOut == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "oAsnCheckOperationLst is null.");
     return readRecords(DC_HERE, CElements(pElmCheckType, u"Operation"), "pParaLst is null.", pLstOut,
-                       [&](const DOMElement& oOperation, StAsnCheckOperationDef& stOperation)
+                       [&](const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
                        {
                            stOperation.strId     = attrText(oOperation, u"id");
                            stOperation.nTaskType = nTaskType;
                            readOperation(oOperation, stOperation);
-                           fillFixedCheckItem(&oOperation, &stOperation.lstCheckType);
+                           fillFixedCheckItem(oOperation.element(), &stOperation.lstCheckType);
                        });
 }
 
@@ -190,7 +190,7 @@ std::uint32_t CCheckOpXMLConfig::fillFixedCheckItem(const DOMElement*          p
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pCheckItemLst is null.");
     std::uint32_t ulIndex = 0;
     return readRecords(DC_HERE, CElements(pElmCheckOperation, u"Parameter"), "pParaLst is null.", pCheckItemLst,
-                       [&](const DOMElement& oItem, StAsnCheckType& stItem)
+                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
                        {
                            stItem.strId          = attrText(oItem, u"id");
                            stItem.strDescription = attrText(oItem, u"description");

@@ -36,14 +36,14 @@ std::uint32_t CCustomOpXMLConfig::fillCustomOper(const DOMElement*              
                                                  std::list<StAsnCustomOperationDef>* pLstOut)
 {
     return readRecords(DC_HERE, CElements(pSection, u"Operation"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                       [this](const DOMElement& oOperation, StAsnCustomOperationDef& stOperation)
+                       [this](const CAttributes& oOperation, StAsnCustomOperationDef& stOperation)
                        {
                            stOperation.strId            = attrText(oOperation, u"id");
                            stOperation.strShortcutKey   = attrText(oOperation, u"shortcutkey");
                            stOperation.enOperationLevel = readLevel(oOperation);
                            stOperation.enAvailableIn    = wordValue(attrText(oOperation, u"AvailableIn"),
                                                                     AVAILABILITY_WORDS, DCAsn1ClientToServer::PopupMenu);
-                           fillResourceClass(&oOperation, stOperation.strResourceClass);
+                           fillResourceClass(oOperation.element(), stOperation.strResourceClass);
                        });
 }
 

@@ -116,13 +116,14 @@ std::uint32_t CDevOpXMLConfig::fillOperations(const LocationInfo& stWhere, const
     if (pSection == nullptr || pLstOut == nullptr)
         return logFail(stWhere, DC_RESULT_XML_ERROR, stSection.pszNoInput);
     return readRecords(stWhere, CElements(pSection, u"Operation"), stSection.pszNoElements, pLstOut,
-                       [&](const DOMElement& oOperation, StAsnOperation& stOper)
+                       [&](const CAttributes& oOperation, StAsnOperation& stOper)
                        {
                            stOper.strId            = attrText(oOperation, u"id");
                            stOper.enOperationLevel = readLevel(oOperation);
                            if (stSection.bReadsCancelable)
                                stOper.bIsCancelable = attrFlag(oOperation, u"isCancelable");
-                           fillOperParaInfo(&oOperation, stOper.lstParam); // a bad parameter never stops its siblings
+                           fillOperParaInfo(oOperation.element(),
+                                            stOper.lstParam); // a bad parameter never stops its siblings
                        });
 }
 
@@ -130,20 +131,20 @@ std::uint32_t CDevOpXMLConfig::fillOperParaInfo(const DOMElement* pOperation, st
 {
     return readRecords(DC_HERE, CElements(pOperation, u"Parameter"),
                        "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const DOMElement& oParameter, StAsnOperParamDef& stParam)
+                       [this](const CAttributes& oParameter, StAsnOperParamDef& stParam)
                        {
                            stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
                            stParam.strId       = attrText(oParameter, u"id");
                            stParam.strValue    = attrText(oParameter, u"value");
                            stParam.strSelected = attrText(oParameter, u"selected");
-                           fillOperOptionInfo(&oParameter, stParam.lstOption); // nor does a bad option
+                           fillOperOptionInfo(oParameter.element(), stParam.lstOption); // nor does a bad option
                        });
 }
 
 std::uint32_t CDevOpXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut)
 {
     return readRecords(DC_HERE, optionElements(pParameter), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [](const DOMElement& oOption, StAsnOptionInfo& stOption)
+                       [](const CAttributes& oOption, StAsnOptionInfo& stOption)
                        {
                            readOption(oOption, stOption);
                            stOption.strTarget = attrText(oOption, u"target");

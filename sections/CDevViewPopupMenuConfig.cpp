@@ -36,7 +36,7 @@ std::uint32_t CDevViewPopupMenuConfig::fillDevViewPopUpMenu(const DOMElement* pM
         return logFail(DC_HERE, DC_RESULT_XML_ERROR,
                        "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:");
     return readRecords(DC_HERE, CElements(pMenu, u"Item"), "DOMElement::getElementsByTagName failed.", pLstOut,
-                       [](const DOMElement& oItem, StAsnMenuOpDef& stEntry)
+                       [](const CAttributes& oItem, StAsnMenuOpDef& stEntry)
                        {
                            readReference(oItem, stEntry);
                            return stEntry.enType != DCAsn1ClientToServer::OtherOperation ||

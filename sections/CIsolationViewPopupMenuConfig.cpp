@@ -29,6 +29,6 @@ std::uint32_t CIsolationViewPopupMenuConfig::fillIsolationViewPopUpMenu(const DO
         return logFail(DC_HERE, DC_RESULT_XML_ERROR,
                        "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.");
     return readRecords(DC_HERE, CElements(pMenu, u"Item"), "DOMElement::getElementsByTagName failed.", pLstOut,
-                       [](const DOMElement& oItem, StAsnMenuOpDef& stEntry)
+                       [](const CAttributes& oItem, StAsnMenuOpDef& stEntry)
                        { readReference(oItem, ISOLATION_TYPE_REF_WORDS, stEntry); });
 }

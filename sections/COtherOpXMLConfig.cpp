@@ -27,7 +27,7 @@ std::uint32_t COtherOpXMLConfig::setOtherOperXMLConfig(XercesDOMParser*         
                         [&](const DOMElement& oEntry)
                         {
                             StAsnOtherOperationDef stEntry;
-                            readCapability(oEntry, stEntry);
+                            readCapability(CAttributes(oEntry), stEntry);
                             // Asked for its log lines alone: the entry is stored whatever the answer.
                             JudgeFilterOndixISSUCapability(stEntry.strId);
                             fillOperParaInfo(&oEntry, stEntry.lstParam);
@@ -54,12 +54,12 @@ bool COtherOpXMLConfig::JudgeFilterOndixISSUCapability(const std::string& strId)
 std::uint32_t COtherOpXMLConfig::fillOperParaInfo(const DOMElement* pEntry, std::list<StAsnOperParamDef>& lstOut)
 {
     return readRecords(DC_HERE, CElements(pEntry, u"Parameter"), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const DOMElement& oParameter, StAsnOperParamDef& stParam)
+                       [this](const CAttributes& oParameter, StAsnOperParamDef& stParam)
                        {
                            stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
                            stParam.strId       = attrText(oParameter, u"id");
                            stParam.strValue    = attrText(oParameter, u"value");
-                           fillOperOptionInfo(&oParameter, stParam.lstOption);
+                           fillOperOptionInfo(oParameter.element(), stParam.lstOption);
                        });
 }
 

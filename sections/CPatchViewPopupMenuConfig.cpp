@@ -33,10 +33,10 @@ std::uint32_t CPatchViewPopupMenuConfig::fillPatchTypeInfo(const DOMElement*    
     if (pLstOut == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Invalid para. NULL pointer. pAsnPatchViewMenuOpList");
     return readRecords(DC_HERE, CElements(pSection, u"Patch"), "Invalid para. NULL pointer. pParaLst", pLstOut,
-                       [this](const DOMElement& oPatch, StAsnPatchTypeMenuDef& stMenu)
+                       [this](const CAttributes& oPatch, StAsnPatchTypeMenuDef& stMenu)
                        {
                            stMenu.enPatchType = readPatchType(oPatch);
-                           fillMenuOperLst(&oPatch, &stMenu.lstMenuOp);
+                           fillMenuOperLst(oPatch.element(), &stMenu.lstMenuOp);
                        });
 }
 

@@ -31,10 +31,10 @@ std::uint32_t CPatchXMLConfig::fillPatchType(const DOMElement* pSection, std::li
     if (pLstOut == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Invalid para. NULL pointer. pAsnPatchStateConfigLst");
     return readRecords(DC_HERE, CElements(pSection, u"Patch"), "Invalid para. NULL pointer. pParaLst1", pLstOut,
-                       [this](const DOMElement& oPatch, StAsnPatchDef& stPatch)
+                       [this](const CAttributes& oPatch, StAsnPatchDef& stPatch)
                        {
                            stPatch.enPatchType = readPatchType(oPatch);
-                           fillPatchState(&oPatch, &stPatch.lstPatchState);
+                           fillPatchState(oPatch.element(), &stPatch.lstPatchState);
                        });
 }
 
@@ -43,10 +43,10 @@ std::uint32_t CPatchXMLConfig::fillPatchState(const DOMElement* pPatch, std::lis
     if (pPatch == nullptr || pLstOut == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
     readRecords(DC_HERE, CElements(pPatch, u"State"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                [this](const DOMElement& oState, StAsnPatchStateDef& stState)
+                [this](const CAttributes& oState, StAsnPatchStateDef& stState)
                 {
                     stState.strName = attrText(oState, u"name");
-                    fillPatchItem(&oState, &stState.lstPatchItem);
+                    fillPatchItem(oState.element(), &stState.lstPatchItem);
                 });
     return DC_RESULT_OK; // also when the lookup failed: a patch without states is no failure
 }

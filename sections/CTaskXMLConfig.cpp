@@ -37,7 +37,7 @@ std::uint32_t CTaskXMLConfig::fillTaskOperInfo(const DOMElement* pElement, std::
 {
     return readRecords(DC_HERE, CElements(pElement, u"TaskConfigOper"),
                        "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [](const DOMElement& oStep, StAsnTaskOperationDef& stStep)
+                       [](const CAttributes& oStep, StAsnTaskOperationDef& stStep)
                        {
                            readReference(oStep, stStep);
                            stStep.strDependsOn       = attrText(oStep, u"dependsOn");

@@ -31,12 +31,12 @@ std::uint32_t CUpgradeOpXMLConfig::fillUpgradeOperInfo(const DOMElement*        
                                                        std::list<StAsnUpgradeOperationDef>* pLstOut)
 {
     return readRecords(DC_HERE, CElements(pSection, u"Operation"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                       [this](const DOMElement& oOperation, StAsnUpgradeOperationDef& stOperation)
+                       [this](const CAttributes& oOperation, StAsnUpgradeOperationDef& stOperation)
                        {
                            stOperation.strId            = attrText(oOperation, u"id");
                            stOperation.enOperationLevel = readLevel(oOperation);
                            // An upgrade that lacks a step must not be offered: it is dropped as a whole.
-                           return fillSubOperType(&oOperation, u"SubOperation", stOperation.lstSubOperation) ==
+                           return fillSubOperType(oOperation.element(), u"SubOperation", stOperation.lstSubOperation) ==
                                   DC_RESULT_OK;
                        });
 }
@@ -47,11 +47,12 @@ std::uint32_t CUpgradeOpXMLConfig::fillSubOperType(const DOMElement* pOperation,
     std::uint32_t       ulBelow = DC_RESULT_OK;
     const std::uint32_t ulHere  = readRecords(
          DC_HERE, CElements(pOperation, pszTagName), "DOMElement::getElementsByTagName failed :", &lstOut,
-         [&](const DOMElement& oSubOperation, StAsnUpgradeSubOperationDef& stSubOperation)
+         [&](const CAttributes& oSubOperation, StAsnUpgradeSubOperationDef& stSubOperation)
          {
             stSubOperation.strId            = attrText(oSubOperation, u"id");
             stSubOperation.enOperationLevel = readLevel(oSubOperation); // "operDescription" is in no record
-            ulBelow = std::max(ulBelow, fillSubParaType(&oSubOperation, u"Parameter", stSubOperation.lstParameter));
+            ulBelow =
+                std::max(ulBelow, fillSubParaType(oSubOperation.element(), u"Parameter", stSubOperation.lstParameter));
         });
     return std::max(ulHere, ulBelow);
 }
@@ -62,11 +63,11 @@ std::uint32_t CUpgradeOpXMLConfig::fillSubParaType(const DOMElement* pSubOperati
     std::uint32_t       ulBelow = DC_RESULT_OK;
     const std::uint32_t ulHere =
         readRecords(DC_HERE, CElements(pSubOperation, pszTagName), "DOMElement::getElementsByTagName failed :", &lstOut,
-                    [&](const DOMElement& oParameter, StAsnOperParamDef& stParam)
+                    [&](const CAttributes& oParameter, StAsnOperParamDef& stParam)
                     {
                         stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
                         stParam.strId       = attrText(oParameter, u"id"); // these have no "value" and no "selected"
-                        ulBelow             = std::max(ulBelow, fillOperOptionInfo(&oParameter, stParam.lstOption));
+                        ulBelow = std::max(ulBelow, fillOperOptionInfo(oParameter.element(), stParam.lstOption));
                     });
     return std::max(ulHere, ulBelow);
 }

@@ -30,7 +30,7 @@ std::uint32_t readSections(const LocationInfo& stWhere, const StSection& stSecti
                            const xercesc::XercesDOMParser* pDOMParser, const void* pLstOut,
                            const std::function<void(const xercesc::DOMElement&)>& fnFill);
 
-// Appends a fresh record for every element, filled by fnRead(element, record).
+// Appends a fresh record for every element, filled by fnRead(attributes, record).
 // An fnRead that answers a bool drops the record with false. A failed lookup and
 // a missing list are logged with the text and answer DC_RESULT_XML_ERROR.
 template <typename Record, typename Read>
@@ -41,14 +41,15 @@ std::uint32_t readRecords(const LocationInfo& stWhere, const CElements& oElement
         return logFail(stWhere, DC_RESULT_XML_ERROR, pszFailed);
     for (const xercesc::DOMElement& oElement : oElements)
     {
-        Record& stRecord = pLstOut->emplace_back();
-        if constexpr (std::is_same_v<std::invoke_result_t<Read, decltype(oElement), Record&>, bool>)
+        Record&           stRecord = pLstOut->emplace_back();
+        const CAttributes oAttributes(oElement);
+        if constexpr (std::is_same_v<std::invoke_result_t<Read, const CAttributes&, Record&>, bool>)
         {
-            if (!fnRead(oElement, stRecord))
+            if (!fnRead(oAttributes, stRecord))
                 pLstOut->pop_back();
         }
         else
-            fnRead(oElement, stRecord);
+            fnRead(oAttributes, stRecord);
     }
     return DC_RESULT_OK;
 }
