@@ -20,14 +20,13 @@ constexpr StTarget ROOT_TARGET  = {"start without a load",
 
 const std::string EXAMPLE_SERVER = EXAMPLE_FOLDER "/server";
 
-// CPU seconds of the tool; some types of the example server are broken on
-// purpose, so the exit status 1 is fine.
-double cpuOfTool(const std::vector<std::string>& lstArgument)
+// CPU seconds of the tool, which must end with the exit status.
+double cpuOfTool(const std::vector<std::string>& lstArgument, int nExit = 0)
 {
     std::vector<std::string> lstWhole = {OPXML_PROGRAM, "--root", EXAMPLE_SERVER};
     lstWhole.insert(lstWhole.end(), lstArgument.begin(), lstArgument.end());
     const StChild stChild = runChild(lstWhole);
-    if (stChild.nExit != 0 && stChild.nExit != 1)
+    if (stChild.nExit != nExit)
         throw std::runtime_error("opxml " + lstArgument.front() + " failed");
     return stChild.dCpu;
 }
@@ -62,7 +61,7 @@ void measureBatch(benchmark::State& oState)
         });
     const double dSeconds = stComparison.dOne - stComparison.dOther;
     oState.SetIterationTime(dSeconds);
-    answer(oState, BATCH_TARGET, QUESTIONS / dSeconds, fmt::format("{:.0f}", QUESTIONS / dSeconds));
+    answer(oState, BATCH_TARGET, QUESTIONS / dSeconds, fmt::format("{:.2f} million", QUESTIONS / dSeconds / 1e6));
 }
 
 void measureStart(benchmark::State& oState)
@@ -71,7 +70,8 @@ void measureStart(benchmark::State& oState)
         [] {
             return cpuOfTool({"query", "isDeviceOpSupported", "LX 2400/S", "V3.7", "Backup"});
         },
-        [] { return cpuOfTool({"load"}); });
+        [] { return cpuOfTool({"load"}, 1); } // two of its types are broken on purpose
+    );
     oState.SetIterationTime(stComparison.dOne);
     answer(oState, START_TARGET, stComparison.dRatio,
            fmt::format("{:.2f} ({:.0f} ms ÷ {:.0f} ms)", stComparison.dRatio, stComparison.dOne * 1e3,

@@ -4,6 +4,8 @@
 #include "records/RecordSearch.h"
 #include "records/Vocabulary.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr const char* DC_SOURCE = "CXMLConfigDatabase";
