@@ -14,6 +14,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <mutex>
+#include <new>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -180,6 +181,10 @@ void CXmlParser::parseText(std::string_view strXml)
         strProblem = stPassed.strProblem;
     }
     catch (const OutOfMemoryException&)
+    {
+        strProblem = "out of memory";
+    }
+    catch (const std::bad_alloc&)
     {
         strProblem = "out of memory";
     }

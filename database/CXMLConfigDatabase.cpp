@@ -7,8 +7,8 @@
 #include "reader/CDevTypeXMLResReader.h"
 #include "records/Vocabulary.h"
 
-#include <algorithm>
 #include <cstdlib>
+#include <set>
 #include <utility>
 
 namespace
@@ -77,9 +77,11 @@ void CXMLConfigDatabase::waitUntilLoaded()
 
 void CXMLConfigDatabase::storeDevTypeXMLConfig(const std::string& strKey, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
 {
-    const _TraceFunction               oTrace(DC_HERE);
-    std::list<StAsnDevTypeVerXMLInfo*> lstNew(lstInfo);
-    lstNew.remove(nullptr);
+    const _TraceFunction                    oTrace(DC_HERE);
+    std::set<const StAsnDevTypeVerXMLInfo*> setNew; // each record is owned once, even if it is named twice
+    std::list<StAsnDevTypeVerXMLInfo*>      lstNew(lstInfo);
+    lstNew.remove_if([&setNew](const StAsnDevTypeVerXMLInfo* pNew)
+                     { return pNew == nullptr || !setNew.insert(pNew).second; });
     const auto itStored = m_mapDevType.find(strKey);
     if (itStored == m_mapDevType.end())
     {
@@ -90,8 +92,7 @@ void CXMLConfigDatabase::storeDevTypeXMLConfig(const std::string& strKey, std::l
     // A record that the new list names again lives on: the list may be an
     // earlier answer, or the stored list itself.
     std::list<StAsnDevTypeVerXMLInfo*>& lstOld = itStored->second;
-    lstOld.remove_if([&lstNew](const StAsnDevTypeVerXMLInfo* pOld)
-                     { return std::find(lstNew.begin(), lstNew.end(), pOld) != lstNew.end(); });
+    lstOld.remove_if([&setNew](const StAsnDevTypeVerXMLInfo* pOld) { return setNew.count(pOld) != 0; });
     freeXMLInfo(lstOld);
     lstOld = std::move(lstNew);
 }

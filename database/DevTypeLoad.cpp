@@ -9,6 +9,7 @@
 #include <ace/Guard_T.h>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace
@@ -72,9 +73,19 @@ std::uint32_t CXMLConfigDatabase::readDevType(const std::string& strDevType, con
     // the suffix a second time: the key follows the version alone.
     const std::string    strKey = trans2TelnetDevType(strDevType, strDevTypeVer);
     CDevTypeXMLResReader oReader(strKey, strDevTypeVer, bCapacity);
-    oReader.initializeCheck(); // most types have no check file of their own
-    const std::uint32_t ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
-    stOrigin                     = oReader.origin();
+    std::uint32_t        ulResult = DC_RESULT_XML_ERROR;
+    try
+    {
+        oReader.initializeCheck(); // most types have no check file of their own
+        ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
+    }
+    catch (const std::bad_alloc&)
+    {
+        // Memory ran out over this type: it fails, the others go on.
+        freeXMLInfo(lstInfo);
+        lstInfo.clear();
+    }
+    stOrigin = oReader.origin();
     if (ulResult != DC_RESULT_OK)
         return logFail(DC_HERE, ulResult,
                        "readXMLfile Failed for strDevType = " + strDevType + ", strDevTypeVer = " + strDevTypeVer);
