@@ -66,12 +66,9 @@ void measureBatch(benchmark::State& oState)
 
 void measureStart(benchmark::State& oState)
 {
-    const StComparison stComparison = alternate(
-        [] {
-            return cpuOfTool({"query", "isDeviceOpSupported", "LX 2400/S", "V3.7", "Backup"});
-        },
-        [] { return cpuOfTool({"load"}, 1); } // two of its types are broken on purpose
-    );
+    const auto fnAsk  = [] { return cpuOfTool({"query", "isDeviceOpSupported", "LX 2400/S", "V3.7", "Backup"}); };
+    const auto fnLoad = [] { return cpuOfTool({"load"}, 1); }; // two types are broken on purpose
+    const StComparison stComparison = alternate(fnAsk, fnLoad);
     oState.SetIterationTime(stComparison.dOne);
     answer(oState, START_TARGET, stComparison.dRatio,
            fmt::format("{:.2f} ({:.0f} ms ÷ {:.0f} ms)", stComparison.dRatio, stComparison.dOne * 1e3,
