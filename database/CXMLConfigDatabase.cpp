@@ -82,7 +82,7 @@ void CXMLConfigDatabase::storeDevTypeXMLConfig(const std::string& strKey, std::l
     std::list<StAsnDevTypeVerXMLInfo*>      lstNew(lstInfo);
     lstNew.remove_if([&setNew](const StAsnDevTypeVerXMLInfo* pNew)
                      { return pNew == nullptr || !setNew.insert(pNew).second; });
-    const auto itStored = m_mapDevType.find(strKey);
+    const auto itStored = m_mapDevType.find(std::string_view(strKey));
     if (itStored == m_mapDevType.end())
     {
         m_mapDevType.emplace(strKey, std::move(lstNew));
@@ -146,7 +146,8 @@ const std::list<StAsnDevTypeVerXMLInfo*>* CXMLConfigDatabase::findStored(const s
 {
     // The key is the name itself for all but telnet variants: no copy for those.
     const bool bTelnet  = strDevTypeVer.find(Vocabulary::TELNET_SUFFIX) != std::string::npos;
-    const auto itStored = m_mapDevType.find(bTelnet ? trans2TelnetDevType(strDevType, strDevTypeVer) : strDevType);
+    const auto itStored = bTelnet ? m_mapDevType.find(std::string_view(trans2TelnetDevType(strDevType, strDevTypeVer)))
+                                  : m_mapDevType.find(std::string_view(strDevType));
     return itStored == m_mapDevType.end() ? nullptr : &itStored->second;
 }
 
@@ -167,7 +168,7 @@ void CXMLConfigDatabase::visitDevTypes(
 {
     const CQueryGuard oGuard(*this);
     for (const auto& [strKey, lstInfo] : m_mapDevType)
-        fnVisit(strKey, lstInfo);
+        fnVisit(std::string(strKey), lstInfo);
 }
 
 void CXMLConfigDatabase::visitModules(

@@ -5,6 +5,7 @@
 #include "Output.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <string>
 #include <vector>
@@ -79,7 +80,9 @@ int main(int nArguments, char** ppszArguments)
 {
     try
     {
-        return runTool(nArguments, ppszArguments);
+        // The store dies with the process: freeing its records one by one at exit
+        // would only take time. Everything is written by now.
+        std::_Exit(runTool(nArguments, ppszArguments));
     }
     catch (const std::exception& oProblem)
     {
