@@ -43,11 +43,12 @@ std::vector<std::string> readNames(DIR* pDir)
 std::uint32_t CModuleXMLResReader::parseXMLOfDirs(const std::string& strFolder, ModuleInfoMap& mapModule)
 {
     const _TraceFunction oTrace(DC_HERE);
-    DIR*                 pDir = KIVO_OS::opendir(strFolder.c_str(), UTF8);
+    DIR*                 pDir   = KIVO_OS::opendir(strFolder.c_str(), UTF8);
+    const int            nErrno = errno;
     if (pDir == nullptr)
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
                        "CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: " + strFolder +
-                           ", errno: " + std::to_string(errno));
+                           ", errno: " + std::to_string(nErrno));
     const std::vector<std::string> lstName = readNames(pDir);
     KIVO_OS::closedir(pDir); // before going deeper: a deep tree must not use up descriptors
     if (!isFirstVisit(strFolder))
