@@ -17,7 +17,7 @@ class DatabaseThreadTest : public CServerTest
 protected:
     DatabaseThreadTest()
     {
-        std::filesystem::create_directories(moduleFolder());
+        makeModuleFolder();
         m_oRoot.writeConfig("A.xml", deviceFile({"Save"}));
         m_oRoot.writeConfig("B.xml", deviceFile({"Backup"}));
         m_oRoot.writeConfig("D.xml", deviceFile({"Late"}));

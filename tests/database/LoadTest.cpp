@@ -3,179 +3,99 @@
 
 namespace
 {
-struct StFile
-{
-    const char* pszName; // in the configuration folder
-    std::string strContent;
-};
+const std::string TWIN = "INSERT INTO config_file VALUES ('A_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');";
+const std::string ADDED_A = "I [DCServer]Added device A to MAP.\n";
+const std::string ADDED_B = "I [DCServer]Added device B to MAP.\n";
 
-struct StLoadCase
+std::string missing(const std::string& strFile)
 {
-    const char*         pszName;
-    std::string         strSql;
-    std::vector<StFile> lstFile;
-    const char*         pszFailing; // a platform call that answers 7, "" for none
-    Lines               lstStored;  // "key: ids of the device operations"
-    Lines               lstLog;
-};
+    return "E 3B0004EC [DCServer]Server config File :ROOT/common/dc/conf/dc/devtype_xmlconf/" + strFile +
+           " not exist.\n";
+}
+std::string failedCall(const std::string& strCode, const std::string& strCall)
+{
+    return "E " + strCode + " Call Function return Error:" + strCall + "\n";
+}
+std::string failedType(const std::string& strCode, const std::string& strType, const std::string& strVersion)
+{
+    return failedCall(strCode, "parseNormalXML(pAsnDevTypeVerXMLInfo)") + "E " + strCode +
+           " [DCServer]readXMLfile Failed for strDevType = " + strType + ", strDevTypeVer = " + strVersion + "\nE " +
+           strCode + " [DCServer]readAndStoreDevTypeXMLConfig() fail." + strType + strVersion + "\n";
+}
+std::string failedStart(const std::string& strCode)
+{
+    return failedCall(strCode, "initialize(\"\", \"\", true)");
+}
 
-class LoadTest : public CServerTest, public testing::WithParamInterface<StLoadCase>
+TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
 {
-protected:
-    static Lines stored()
+    const std::string ADAPTER = "CDeviceAdapterInterface::getInstance()->";
+    const struct
     {
-        Lines lstText;
+        const char* pszName;
+        std::string strSql;
+        const char* pszFiles;   // one device operation each, of the file's name
+        const char* pszFailing; // a platform call that answers 7, "" for none
+        const char* pszStored;  // "key: ids of the device operations"
+        std::string strLog;
+    } CASES[] = {
+        {"all well", "", "A B", "", "A: A;B: B;", ADDED_A + ADDED_B},
+        {"registry empty", "DELETE FROM device_type;", "A", "", "", ""},
+        {"registry fails", "", "A B", "CDeviceAdapterInterface::getALLDLLInfo", "",
+         failedCall("00000007", ADAPTER + "getALLDLLInfo(strDllList)") +
+             "E 00000007 [DCServer]getSuppportedDeviceTypes() failed :\n"
+             "E 00000007 [DCServer]readAndStoreDevTypeXMLConfig() failed :\n"},
+        {"module folder closed", "", "A B", "KIVO_OS::opendir", "A: A;B: B;",
+         "E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: "
+         "ROOT/etc/oss_cfg/dc/ne_script/importscript, errno: 7\n" +
+             failedCall("3B0004EC", "oModuleXMLReader.parseXMLOfDirs(strModulePath, m_pModuleInfoMap)") +
+             "E 3B0004EC [DCServer]readAndStoreModuleXMLConfig failed\n" + ADDED_A + ADDED_B},
+        {"twin serves", TWIN, "twin B", "", "A: twin;B: B;", missing("A.xml") + ADDED_A + ADDED_B},
+        {"twin missing as well", TWIN, "B", "", "B: B;",
+         missing("A.xml") + missing("twin.xml") + failedStart("3B000D21") + failedType("3B000D21", "A", "V1") +
+             ADDED_B},
+        {"no twin", "", "A", "", "A: A;",
+         ADDED_A + missing("B.xml") +
+             failedCall("3B0F0001", ADAPTER + "getServerConfigFile(strDevTypeTemp, strFilePath)") +
+             failedStart("3B0F0001") + failedType("3B0F0001", "B", "V2")},
+        {"malformed", "UPDATE config_file SET path = 'torn.xml' WHERE device_type = 'A';", "B", "", "B: B;",
+         "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\n" + failedType("3B0004EE", "A", "V1") + ADDED_B},
+        {"search fails", "DELETE FROM device_type WHERE name = 'B';", "A", "CDeviceAdapterInterface::searchDeviceType",
+         "",
+         "E 00000007 [DCServer]CDeviceAdapterInterface::getInstance()->searchDeviceType failed.\n" +
+             failedCall("00000007", ADAPTER + "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)") +
+             failedStart("00000007") + failedType("00000007", "A", "V1")},
+        // The storage key follows the version alone, and is what the file is looked up by.
+        {"second version", "INSERT INTO device_type (name, version) VALUES ('A', 'V0');", "A B", "", "A: A;B: B;",
+         ADDED_A + ADDED_B},
+        {"telnet version", "INSERT INTO device_type (name, version) VALUES ('A', 'x_telnet_y');" + TWIN, "A B twin", "",
+         "A: A;A_telnet: twin;B: B;", ADDED_A + "I [DCServer]Added device A_telnet to MAP.\n" + ADDED_B},
+        {"telnet name",
+         "INSERT INTO device_type (name, version) VALUES ('A_telnet', 'V_telnet');"
+         "INSERT INTO config_file VALUES ('A_telnet_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');",
+         "A B twin", "", "A: A;A_telnet_telnet: twin;B: B;",
+         ADDED_A + "I [DCServer]Added device A_telnet_telnet to MAP.\n" + ADDED_B},
+    };
+    makeModuleFolder();
+    m_oRoot.write("torn.xml", "<C><DeviceOperation><Operation id='half'/>");
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        CXMLConfigDatabase::finalize();
+        std::filesystem::remove_all(m_oRoot.configFolder());
+        for (const std::string& strFile : words(stCase.pszFiles))
+            m_oRoot.writeConfig(strFile + ".xml", deviceFile({strFile}));
+        open(stCase.strSql);
+        clearLog();
+        std::string                   strStored;
+        const standalone::CFaultPoint oFault(stCase.pszFailing, 0, 7);
         CXMLConfigDatabase::getInstance()->visitDevTypes(
             [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-            {
-                for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
-                    lstText.push_back(strKey + ": " + ids(pInfo->stOperationConfig.lstDevOperation));
-            });
-        return lstText;
+            { strStored += strKey + ": " + ids(lstInfo.front()->stOperationConfig.lstDevOperation) + ";"; });
+        EXPECT_EQ(stCase.pszStored, strStored);
+        EXPECT_EQ(stCase.strLog, logText());
     }
-};
-
-TEST_P(LoadTest, LogsAndStoresExactlyThis)
-{
-    const StLoadCase& stCase = GetParam();
-    std::filesystem::create_directories(moduleFolder());
-    if (stCase.pszName == std::string("ModuleFolderMissing"))
-        std::filesystem::remove_all(moduleFolder());
-    for (const StFile& stFile : stCase.lstFile)
-        m_oRoot.writeConfig(stFile.pszName, stFile.strContent);
-    open(stCase.strSql);
-    Lines lstStored;
-    {
-        const standalone::CFaultPoint oFault(stCase.pszFailing, 0, 7);
-        lstStored = stored();
-    }
-    EXPECT_EQ(stCase.lstStored, lstStored);
-    EXPECT_EQ(stCase.lstLog, log());
 }
-
-const StFile      FILE_A = {"A.xml", deviceFile({"Save"})};
-const StFile      FILE_B = {"B.xml", deviceFile({"Backup"})};
-const std::string FOLDER = "ROOT/common/dc/conf/dc/devtype_xmlconf/";
-
-Lines failed(const std::string& strCode, const std::string& strType, const std::string& strVersion)
-{
-    return {"E " + strCode + " Call Function return Error:parseNormalXML(pAsnDevTypeVerXMLInfo)",
-            "E " + strCode + " [DCServer]readXMLfile Failed for strDevType = " + strType +
-                ", strDevTypeVer = " + strVersion,
-            "E " + strCode + " [DCServer]readAndStoreDevTypeXMLConfig() fail." + strType + strVersion};
-}
-Lines joined(std::initializer_list<Lines> lstPart)
-{
-    Lines lstAll;
-    for (const Lines& lstLine : lstPart)
-        lstAll.insert(lstAll.end(), lstLine.begin(), lstLine.end());
-    return lstAll;
-}
-const Lines ADDED_A              = {"I [DCServer]Added device A to MAP."};
-const Lines ADDED_B              = {"I [DCServer]Added device B to MAP."};
-const Lines INITIALIZE_FAILED_21 = {"E 3B000D21 Call Function return Error:initialize(\"\", \"\", true)"};
-
-INSTANTIATE_TEST_SUITE_P(
-    Whole, LoadTest,
-    testing::ValuesIn(std::vector<StLoadCase>{
-        {"AllWell", "", {FILE_A, FILE_B}, "", {"A: Save", "B: Backup"}, joined({ADDED_A, ADDED_B})},
-        {"RegistryEmpty", "DELETE FROM device_type;", {FILE_A}, "", {}, {}},
-        {"RegistryFails",
-         "",
-         {FILE_A, FILE_B},
-         "CDeviceAdapterInterface::getALLDLLInfo",
-         {},
-         {"E 00000007 Call Function return Error:CDeviceAdapterInterface::getInstance()->getALLDLLInfo(strDllList)",
-          "E 00000007 [DCServer]getSuppportedDeviceTypes() failed :",
-          "E 00000007 [DCServer]readAndStoreDevTypeXMLConfig() failed :"}},
-        {"ModuleFolderMissing",
-         "",
-         {FILE_A, FILE_B},
-         "",
-         {"A: Save", "B: Backup"},
-         joined({{"E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: "
-                  "ROOT/etc/oss_cfg/dc/ne_script/importscript, errno: 2",
-                  "E 3B0004EC Call Function return Error:oModuleXMLReader.parseXMLOfDirs(strModulePath, "
-                  "m_pModuleInfoMap)",
-                  "E 3B0004EC [DCServer]readAndStoreModuleXMLConfig failed"},
-                 ADDED_A,
-                 ADDED_B})},
-        {"OwnFileMissingWithTwin",
-         "INSERT INTO config_file VALUES ('A_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');",
-         {{"twin.xml", deviceFile({"Twin"})}, FILE_B},
-         "",
-         {"A: Twin", "B: Backup"},
-         joined({{"E 3B0004EC [DCServer]Server config File :" + FOLDER + "A.xml not exist."}, ADDED_A, ADDED_B})},
-        {"OwnFileAndTwinMissing",
-         "INSERT INTO config_file VALUES ('A_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');",
-         {FILE_B},
-         "",
-         {"B: Backup"},
-         joined({{"E 3B0004EC [DCServer]Server config File :" + FOLDER + "A.xml not exist.",
-                  "E 3B0004EC [DCServer]Server config File :" + FOLDER + "twin.xml not exist."},
-                 INITIALIZE_FAILED_21,
-                 failed("3B000D21", "A", "V1"),
-                 ADDED_B})},
-        {"OwnFileMissingWithoutTwin",
-         "",
-         {FILE_A},
-         "",
-         {"A: Save"},
-         joined({ADDED_A,
-                 {"E 3B0004EC [DCServer]Server config File :" + FOLDER + "B.xml not exist.",
-                  "E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                  "getServerConfigFile(strDevTypeTemp, strFilePath)",
-                  "E 3B0F0001 Call Function return Error:initialize(\"\", \"\", true)"},
-                 failed("3B0F0001", "B", "V2")})},
-        {"FileMalformed",
-         "",
-         {{"A.xml", "<C><DeviceOperation><Operation id='half'/>"}, FILE_B},
-         "",
-         {"B: Backup"},
-         joined(
-             {{"E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :"}, failed("3B0004EE", "A", "V1"), ADDED_B})},
-        {"TypeUnknownToTheSearch",
-         "DELETE FROM device_type WHERE name = 'B';",
-         {FILE_A},
-         "CDeviceAdapterInterface::searchDeviceType",
-         {},
-         joined({{"E 00000007 [DCServer]CDeviceAdapterInterface::getInstance()->searchDeviceType failed.",
-                  "E 00000007 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                  "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)",
-                  "E 00000007 Call Function return Error:initialize(\"\", \"\", true)"},
-                 failed("00000007", "A", "V1")})},
-    }),
-    rowName<StLoadCase>);
-
-// The storage key follows the version alone, and is what the file is looked up by.
-INSTANTIATE_TEST_SUITE_P(
-    Keys, LoadTest,
-    testing::ValuesIn(std::vector<StLoadCase>{
-        {"SecondVersionReplacesTheFirst",
-         "INSERT INTO device_type (name, version) VALUES ('A', 'V0');",
-         {FILE_A, FILE_B},
-         "",
-         {"A: Save", "B: Backup"},
-         joined({ADDED_A, ADDED_B})},
-        {"TelnetVersionHasItsOwn",
-         "INSERT INTO device_type (name, version) VALUES ('A', 'x_telnet_y');"
-         "INSERT INTO config_file VALUES ('A_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');",
-         {FILE_A, FILE_B, {"twin.xml", deviceFile({"Twin"})}},
-         "",
-         {"A: Save", "A_telnet: Twin", "B: Backup"},
-         joined({ADDED_A, {"I [DCServer]Added device A_telnet to MAP."}, ADDED_B})},
-        {"TelnetNameGetsASecondSuffix",
-         "INSERT INTO device_type (name, version) VALUES ('A_telnet', 'V_telnet'), ('A_Telnet', 'V_Telnet');"
-         "INSERT INTO config_file VALUES ('A_telnet_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml'),"
-         "('A_Telnet', 'common/dc/conf/dc/devtype_xmlconf/A.xml');",
-         {FILE_A, FILE_B, {"twin.xml", deviceFile({"Twin"})}},
-         "",
-         {"A: Save", "A_Telnet: Save", "A_telnet_telnet: Twin", "B: Backup"},
-         joined({ADDED_A,
-                 {"I [DCServer]Added device A_Telnet to MAP.", "I [DCServer]Added device A_telnet_telnet to MAP."},
-                 ADDED_B})},
-    }),
-    rowName<StLoadCase>);
 
 TEST_F(CServerTest, ReportSaysWhereEveryTypeCameFromInLoadOrder)
 {

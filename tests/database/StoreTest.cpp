@@ -11,7 +11,7 @@ class StoreTest : public CServerTest
 protected:
     StoreTest()
     {
-        std::filesystem::create_directories(moduleFolder());
+        makeModuleFolder();
         m_oRoot.writeConfig("A.xml", deviceFile({"Save"}));
         m_oRoot.writeConfig("B.xml", deviceFile({"Backup"}));
     }
@@ -24,8 +24,6 @@ protected:
         clearLog();
         return oDatabase;
     }
-
-    static RecordList twoRecords() { return {new StAsnDevTypeVerXMLInfo, new StAsnDevTypeVerXMLInfo}; }
 };
 
 TEST_F(StoreTest, FailedStartUpLeavesADatabaseThatReadsOnDemand)
@@ -59,26 +57,17 @@ TEST_F(StoreTest, FailedReadOnDemandLeavesNothingBehindAndIsTriedAgain)
     EXPECT_NE(nullptr, oDatabase.getFirstDevTypeXMLConfig("A", "V1"));
 }
 
-TEST_F(StoreTest, StoringUnderAKeyReplacesAndFrees)
+TEST_F(StoreTest, StoringUnderAKeyFreesWhatDoesNotComeInAgain)
 {
     open("DELETE FROM device_type;");
     CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    RecordList          lstFirst  = twoRecords();
-    oDatabase.storeDevTypeXMLConfig("X", lstFirst);
-    EXPECT_EQ(lstFirst.front(), oDatabase.getFirstDevTypeXMLConfig("X", "V"));
-    RecordList lstSecond = {nullptr, new StAsnDevTypeVerXMLInfo};
-    oDatabase.storeDevTypeXMLConfig("X", lstSecond); // the first two are gone: the leak check sees to it
-    EXPECT_EQ(lstSecond.back(), oDatabase.getFirstDevTypeXMLConfig("X", "V"));
-    EXPECT_EQ(Lines{"I [DCServer]Added device X to MAP."}, log());
-}
-
-TEST_F(StoreTest, RecordsThatComeInAgainLiveOn)
-{
-    open("DELETE FROM device_type;");
-    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    RecordList          lstStored = twoRecords();
-    oDatabase.storeDevTypeXMLConfig("X", lstStored);
-    lstStored.front()->strDevType = "first";
+    RecordList          lstGone   = {new StAsnDevTypeVerXMLInfo, new StAsnDevTypeVerXMLInfo};
+    oDatabase.storeDevTypeXMLConfig("X", lstGone);
+    RecordList  lstStored = {nullptr, new StAsnDevTypeVerXMLInfo, new StAsnDevTypeVerXMLInfo};
+    const auto* pFirst    = *std::next(lstStored.begin());
+    oDatabase.storeDevTypeXMLConfig("X", lstStored); // the first two are gone: the leak check sees to it
+    EXPECT_EQ(pFirst, oDatabase.getFirstDevTypeXMLConfig("X", "V"));
+    EXPECT_EQ("I [DCServer]Added device X to MAP.\n", logText());
 
     RecordList lstAnswer;
     EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("X", "V", lstAnswer, false));
@@ -88,22 +77,20 @@ TEST_F(StoreTest, RecordsThatComeInAgainLiveOn)
         { oDatabase.storeDevTypeXMLConfig(strKey, const_cast<RecordList&>(lstInfo)); });
     EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("X", "V", lstAnswer, false));
     EXPECT_EQ(2u, lstAnswer.size());
-    EXPECT_EQ("first", oDatabase.getFirstDevTypeXMLConfig("X", "V")->strDevType);
-
+    EXPECT_EQ(pFirst, oDatabase.getFirstDevTypeXMLConfig("X", "V"));
     lstAnswer.pop_front(); // the other one goes
     oDatabase.storeDevTypeXMLConfig("X", lstAnswer);
-    EXPECT_EQ("", oDatabase.getFirstDevTypeXMLConfig("X", "V")->strDevType);
+    EXPECT_EQ(lstAnswer.front(), oDatabase.getFirstDevTypeXMLConfig("X", "V"));
 }
 
 TEST_F(StoreTest, FreeingKeepsTheNodes)
 {
-    CXMLConfigDatabase oDatabase;
-    RecordList         lstInfo = twoRecords();
-    lstInfo.insert(std::next(lstInfo.begin()), nullptr);
-    oDatabase.freeXMLInfo(lstInfo);
-    EXPECT_THAT(lstInfo, testing::ElementsAre(nullptr, nullptr, nullptr));
-    oDatabase.freeXMLInfo(lstInfo);
-    EXPECT_EQ(3u, lstInfo.size());
+    RecordList lstInfo = {new StAsnDevTypeVerXMLInfo, nullptr, new StAsnDevTypeVerXMLInfo};
+    for (int nTime = 0; nTime < 2; ++nTime)
+    {
+        CXMLConfigDatabase().freeXMLInfo(lstInfo);
+        EXPECT_THAT(lstInfo, testing::ElementsAre(nullptr, nullptr, nullptr));
+    }
 }
 
 TEST_F(StoreTest, FinalizeFreesAllAndTheNextInstanceLoadsAnew)
@@ -123,17 +110,13 @@ TEST_F(StoreTest, FinalizeFreesAllAndTheNextInstanceLoadsAnew)
 class CapacityStoreTest : public StoreTest
 {
 protected:
-    CapacityStoreTest()
+    void load(const std::string& strSql = "")
     {
-        for (const char* pszVersion : {"1", "2"})
-            m_oRoot.writeConfig("C_" + std::string(pszVersion) + "_ServerConfiguration.xml",
-                                "<C><upgradecapacity sysoid='1'><Operation id='" +
-                                    std::string(*pszVersion == '1' ? "-" : "Save") + "'/></upgradecapacity></C>");
+        for (const auto& [strVersion, strDenied] : {std::pair{"1", "-"}, {"2", "Save"}})
+            m_oRoot.writeConfig(
+                fmt::format("C_{}_ServerConfiguration.xml", strVersion),
+                fmt::format("<C><upgradecapacity sysoid='1'><Operation id='{}'/></upgradecapacity></C>", strDenied));
         m_oRoot.writeConfig("Common_ServerConfiguration.xml", deviceFile({"Save", "Backup"}));
-    }
-
-    void openCapacity(const std::string& strSql = "")
-    {
         open("INSERT INTO device_type (name, version, sys_oid, support_upgrade, support_capacity, "
              "capacity_per_version) VALUES ('C', 'V', '1', 1, 1, 1);"
              "INSERT INTO version_in_service (device_type, device_type_version, soft_version) VALUES "
@@ -141,65 +124,53 @@ protected:
              "INSERT INTO capacity (device_type, device_type_version, soft_version) VALUES "
              "('C', 'V', '1'), ('C', 'V', '2');" +
              strSql);
+        m_pDatabase = CXMLConfigDatabase::getInstance();
+        clearLog();
     }
+
+    CXMLConfigDatabase* m_pDatabase = nullptr;
+    RecordList          m_lstInfo;
 };
 
 TEST_F(CapacityStoreTest, CapacityFlagReadsCapableTypesAnewAndNoOthers)
 {
-    openCapacity();
-    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    RecordList          lstInfo;
-    EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, false));
-    EXPECT_EQ(2u, lstInfo.size());
-    m_oRoot.writeConfig("Common_ServerConfiguration.xml", deviceFile({"Backup"}));
-    m_oRoot.writeConfig("A.xml", deviceFile({"New"}));
-    EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, true));
-    ASSERT_EQ(1u, lstInfo.size()); // both versions say the same now
-    EXPECT_EQ(2u, lstInfo.front()->lstDevVersion.size());
-    EXPECT_EQ(lstInfo.front(), oDatabase.getFirstDevTypeXMLConfig("C", "V"));
-    EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("A", "V1", lstInfo, true)); // not capable: from the store
-    EXPECT_EQ("Save", ids(lstInfo.front()->stOperationConfig.lstDevOperation));
-}
-
-TEST_F(CapacityStoreTest, HundredReadsWithAnEarlierAnswerComingIn)
-{
-    openCapacity();
-    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    RecordList          lstInfo;
-    clearLog();
+    load();
     for (int nTime = 0; nTime < 100; ++nTime)
     {
         // The pointers of the last answer die in this call and are never looked at.
-        ASSERT_EQ(0u, oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, true));
-        ASSERT_EQ(2u, lstInfo.size());
-        ASSERT_EQ("Save,Backup", ids(lstInfo.front()->stOperationConfig.lstDevOperation));
-        ASSERT_EQ("Backup", ids(lstInfo.back()->stOperationConfig.lstDevOperation));
+        ASSERT_EQ(0u, m_pDatabase->getDevTypeXMLConfig("C", "V", m_lstInfo, true));
+        ASSERT_EQ(2u, m_lstInfo.size());
+        ASSERT_EQ("Save,Backup", ids(m_lstInfo.front()->stOperationConfig.lstDevOperation));
+        ASSERT_EQ("Backup", ids(m_lstInfo.back()->stOperationConfig.lstDevOperation));
     }
-    EXPECT_THAT(log(), testing::IsEmpty());
+    EXPECT_EQ("", logText());
+    m_oRoot.writeConfig("Common_ServerConfiguration.xml", deviceFile({"Backup"}));
+    m_oRoot.writeConfig("A.xml", deviceFile({"New"}));
+    EXPECT_EQ(0u, m_pDatabase->getDevTypeXMLConfig("C", "V", m_lstInfo, true));
+    ASSERT_EQ(1u, m_lstInfo.size()); // both versions say the same now
+    EXPECT_EQ(2u, m_lstInfo.front()->lstDevVersion.size());
+    EXPECT_EQ(m_lstInfo.front(), m_pDatabase->getFirstDevTypeXMLConfig("C", "V"));
+    EXPECT_EQ(0u, m_pDatabase->getDevTypeXMLConfig("A", "V1", m_lstInfo, true)); // not capable: from the store
+    EXPECT_EQ("Save", ids(m_lstInfo.front()->stOperationConfig.lstDevOperation));
 }
 
 TEST_F(CapacityStoreTest, FailedCapacityReadLeavesTheStoreAsItWas)
 {
-    openCapacity();
-    CXMLConfigDatabase&     oDatabase = *CXMLConfigDatabase::getInstance();
-    StAsnDevTypeVerXMLInfo* pStored   = oDatabase.getFirstDevTypeXMLConfig("C", "V");
-    RecordList              lstInfo;
+    load();
+    const StAsnDevTypeVerXMLInfo* pStored = m_pDatabase->getFirstDevTypeXMLConfig("C", "V");
     m_oRoot.writeConfig("Common_ServerConfiguration.xml", "<C>");
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, true));
-    EXPECT_THAT(lstInfo, testing::IsEmpty());
-    EXPECT_EQ(pStored, oDatabase.getFirstDevTypeXMLConfig("C", "V"));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, m_pDatabase->getDevTypeXMLConfig("C", "V", m_lstInfo, true));
+    EXPECT_THAT(m_lstInfo, testing::IsEmpty());
+    EXPECT_EQ(pStored, m_pDatabase->getFirstDevTypeXMLConfig("C", "V"));
     EXPECT_EQ("Save,Backup", ids(pStored->stOperationConfig.lstDevOperation));
 }
 
 TEST_F(CapacityStoreTest, TypeThatOffersNothingHasNoFirstRecord)
 {
-    openCapacity("DELETE FROM capacity;");
-    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    clearLog();
-    EXPECT_EQ(nullptr, oDatabase.getFirstDevTypeXMLConfig("C", "V"));
+    load("DELETE FROM capacity;");
+    EXPECT_EQ(nullptr, m_pDatabase->getFirstDevTypeXMLConfig("C", "V"));
     EXPECT_EQ("E 00000000 [DCServer]getDevTypeXMLConfig Method Failed", log().back());
-    RecordList lstInfo;
-    EXPECT_EQ(0u, oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, false));
-    EXPECT_THAT(lstInfo, testing::IsEmpty());
+    EXPECT_EQ(0u, m_pDatabase->getDevTypeXMLConfig("C", "V", m_lstInfo, false));
+    EXPECT_THAT(m_lstInfo, testing::IsEmpty());
 }
 } // namespace

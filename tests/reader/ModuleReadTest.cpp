@@ -19,14 +19,14 @@ protected:
 
     std::uint32_t walk() { return m_oReader.parseXMLOfDirs(m_oRoot.path() + "/m", m_mapModule); }
 
-    // "name<file" of every file met; a file that was not taken has a "!".
-    Lines files() const
+    // "name<file;" of every file met; a file that was not taken has a "!".
+    std::string files() const
     {
-        Lines lstText;
+        std::string strText;
         for (const StModuleLoad& stFile : m_oReader.files())
-            lstText.push_back(stFile.strName + (stFile.ulResult == 0 ? "<" : "!") +
-                              stFile.strFile.substr(m_oRoot.path().size() + 3));
-        return lstText;
+            strText += stFile.strName + (stFile.ulResult == 0 ? "<" : "!") +
+                       stFile.strFile.substr(m_oRoot.path().size() + 3) + ";";
+        return strText;
     }
 
     CModuleXMLResReader m_oReader;
@@ -45,9 +45,9 @@ TEST_F(ModuleReadTest, FindsBothSpellingsAtEveryDepthInByteOrder)
     write("a/Other.xml", "Other");
     write("ServerConfiguration.xml/readme.txt", "Folder"); // the whole path counts
     EXPECT_EQ(0u, walk());
-    EXPECT_EQ((Lines{"Folder<ServerConfiguration.xml/readme.txt", "Z<Z/ServerConfiguration.xml",
-                     "Contained<a/X_ServerConfiguration.xml.old", "Deep<a/deep/deeper/ServerConfiguration.XML",
-                     "B<b/ServerConfiguration.xml", "Umlaut<\xC3\xA4/ServerConfiguration.xml"}),
+    EXPECT_EQ("Folder<ServerConfiguration.xml/readme.txt;Z<Z/ServerConfiguration.xml;"
+              "Contained<a/X_ServerConfiguration.xml.old;Deep<a/deep/deeper/ServerConfiguration.XML;"
+              "B<b/ServerConfiguration.xml;Umlaut<\xC3\xA4/ServerConfiguration.xml;",
               files());
     EXPECT_EQ(6u, m_mapModule.size());
     EXPECT_THAT(log(), testing::IsEmpty());
@@ -55,7 +55,7 @@ TEST_F(ModuleReadTest, FindsBothSpellingsAtEveryDepthInByteOrder)
 
 TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
 {
-    write("a/ServerConfiguration.xml", "A");
+    write("a/ServerConfiguration.xml", "A", "<support><dev name='first'/></support>");
     write("b/ServerConfiguration.xml", "Unreachable");
     m_oRoot.write("m/c/ServerConfiguration.xml", "<C><DeviceType name='C'/>");
     m_oRoot.write("m/d/ServerConfiguration.xml", "<C><support/></C>");
@@ -63,54 +63,42 @@ TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
     std::filesystem::create_directory_symlink("..", m_oRoot.path() + "/m/a/parent");
     std::filesystem::create_directory_symlink(".", m_oRoot.path() + "/m/f");
     write("g/ServerConfiguration.xml", "G");
+    write("h/ServerConfiguration.xml", "A", "<support><dev name='second'/></support>");
     // The folders are opened in order: m, a, its parent again, b.
     const standalone::CFaultPoint oUnreadable("KIVO_OS::opendir", 4, 13);
     EXPECT_EQ(0u, walk());
-    EXPECT_EQ((Lines{"A<a/ServerConfiguration.xml", "!c/ServerConfiguration.xml", "!d/ServerConfiguration.xml",
-                     "G<g/ServerConfiguration.xml"}),
+    EXPECT_EQ("A<a/ServerConfiguration.xml;!c/ServerConfiguration.xml;!d/ServerConfiguration.xml;"
+              "G<g/ServerConfiguration.xml;A!h/ServerConfiguration.xml;",
               files());
-    EXPECT_EQ((Lines{("E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: ROOT/m/b, "
-                      "errno: 13"),
-                     "E 3B0004EC Call Function return Error:parseXMLOfDirs(strFilePath, pModuleInfoMap): ROOT/m/b",
-                     "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :",
-                     ("E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
-                      "ROOT/m/c/ServerConfiguration.xml"),
-                     "E 3B0004EE [DCServer]pElm is null.",
-                     ("E 3B0004EE Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
-                      "ROOT/m/d/ServerConfiguration.xml"),
-                     "E FFFFFFFF Call Function return Error:KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): ROOT/m/e"}),
-              log());
-}
-
-TEST_F(ModuleReadTest, FirstFileOfANameIsKept)
-{
-    write("a/ServerConfiguration.xml", "M", "<support><dev name='first'/></support>");
-    write("b/ServerConfiguration.xml", "M", "<support><dev name='second'/></support>");
-    EXPECT_EQ(0u, walk());
-    ASSERT_EQ(1u, m_mapModule.size());
-    EXPECT_THAT(m_mapModule["M"].lstSupportDevType, testing::ElementsAre("first"));
-    EXPECT_EQ((Lines{"E 3B0004EC [DCServer]DeviceType name is already taken by another file :M",
-                     "E 3B0004EC Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): "
-                     "ROOT/m/b/ServerConfiguration.xml"}),
-              log());
+    EXPECT_THAT(m_mapModule["A"].lstSupportDevType, testing::ElementsAre("first"));
+    const std::string FAILED = " Call Function return Error:parseModuleXML(strFilePath, pModuleInfoMap): ROOT/m/";
+    EXPECT_EQ(
+        "E 3B0004EC [DCServer]CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: ROOT/m/b, errno: 13\n"
+        "E 3B0004EC Call Function return Error:parseXMLOfDirs(strFilePath, pModuleInfoMap): ROOT/m/b\n"
+        "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\nE 3B0004EE" +
+            FAILED +
+            "c/ServerConfiguration.xml\n"
+            "E 3B0004EE [DCServer]pElm is null.\nE 3B0004EE" +
+            FAILED +
+            "d/ServerConfiguration.xml\n"
+            "E FFFFFFFF Call Function return Error:KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): ROOT/m/e\n"
+            "E 3B0004EC [DCServer]DeviceType name is already taken by another file :A\nE 3B0004EC" +
+            FAILED + "h/ServerConfiguration.xml\n",
+        logText());
 }
 
 TEST_F(ModuleReadTest, ReadsAllSectionsButTheIsolationMenu)
 {
     write("ServerConfiguration.xml", "M",
           "<support><dev name='X'/><g><dev name='Y'/></g></support><support><dev name='X'/><dev/></support>"
-          "<DeviceOperation><Operation id='dev'/></DeviceOperation><CheckOperations><Operation id='check'/>"
-          "</CheckOperations><DeviceViewPopupMenu><Item id='menu'/></DeviceViewPopupMenu>"
-          "<DeviceViewTab><Item id='tab'/></DeviceViewTab><TaskType id='PatchUpdate'/>");
+          "<CheckOperations><Operation id='check'/></CheckOperations>"
+          "<DeviceViewPopupMenu><Item id='menu'/></DeviceViewPopupMenu>");
     EXPECT_EQ(0u, walk());
     const StAsnModuleInfoVerXMLInfo& stModule = m_mapModule["M"];
     EXPECT_THAT(stModule.lstSupportDevType, testing::ElementsAre("X", "Y", "X", ""));
-    EXPECT_EQ("dev", ids(stModule.stOperationConfig.lstDevOperation));
     EXPECT_EQ("check", ids(stModule.stOperationConfig.lstCheckOperation));
     EXPECT_EQ("menu", ids(stModule.stViewConfig.lstDevViewPopupMenu));
-    EXPECT_EQ("tab", ids(stModule.stViewConfig.lstDevViewTab));
-    EXPECT_THAT(stModule.stViewConfig.lstIsolationViewPopupMenu, testing::IsEmpty());
-    EXPECT_EQ(1u, stModule.lstTaskConfigInfoOperation.size());
+    EXPECT_EQ("", ids(stModule.stViewConfig.lstIsolationViewPopupMenu));
 }
 
 // Every platform call of the walk failing in turn: what could be read before stays.
@@ -143,25 +131,24 @@ TEST_F(ModuleReadTest, FailingCallsEndNoMoreThanTheyMust)
     }
 }
 
-TEST(ModuleSectionTest, MissingInputIsNamed)
+TEST_F(ModuleReadTest, MissingInputIsNamed)
 {
-    CParsedXml                oXml("<support/>");
-    CUnparsedXml              oNoDocument;
+    CParsedXml                oXml("");
+    const auto                pNoDocument = CXmlParser::create();
     std::string               strName;
     StAsnModuleInfoVerXMLInfo stModule;
     CDevTypeXMLConfig         oConfig;
-    CModuleXMLResReader       oReader;
     EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setModuleXMLConfig(nullptr, strName));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setDevTypeXMLConfig(oNoDocument.parser(), stModule));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setDevTypeXMLConfig(pNoDocument.get(), stModule));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(nullptr, &stModule.lstSupportDevType));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(oXml.element(u"support"), nullptr));
-    EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, oReader.initialize("/none.xml", nullptr));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oReader.initialize("/", nullptr));
-    EXPECT_EQ((Lines{"E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: ",
-                     "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :", "E 3B0004EE [DCServer]pElm is null.",
-                     "E 3B0004EE [DCServer]DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:",
-                     "E 3B0004EC [DCServer]Server config File :/none.xml not exist.",
-                     "E 3B0004EE [DCServer] pXmlParser is null :"}),
-              logLines());
+    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(oXml.root(), nullptr));
+    EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, m_oReader.initialize("/none.xml", nullptr));
+    EXPECT_EQ(DC_RESULT_XML_ERROR, m_oReader.initialize("/", nullptr));
+    EXPECT_EQ("E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: \n"
+              "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\nE 3B0004EE [DCServer]pElm is null.\n"
+              "E 3B0004EE [DCServer]DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:\n"
+              "E 3B0004EC [DCServer]Server config File :/none.xml not exist.\n"
+              "E 3B0004EE [DCServer] pXmlParser is null :\n",
+              logText());
 }
 } // namespace

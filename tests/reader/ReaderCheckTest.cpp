@@ -5,62 +5,49 @@
 
 namespace
 {
-constexpr const char* FIXED_ON    = "INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 1);";
-constexpr const char* TELNET_FILE = "INSERT INTO check_file VALUES ('A', 'check.xml', 1);";
-
-struct StCheckCase
+TEST_F(CServerTest, ChecksComeFromTheFirstSourceThatApplies)
 {
-    const char* pszName;
-    std::string strSql;
-    bool        bFixedFile;
-    const char* pszInRecord; // ids of the record's check operations
-    const char* pszAlone;    // ids of getCheckOperFromXml
-};
-
-class CheckSourceTest : public CServerTest, public testing::WithParamInterface<StCheckCase>
-{
-protected:
-    void SetUp() override
+    const std::string TELNET = "INSERT INTO check_file VALUES ('A', 'check.xml', 1);";
+    const std::string FIXED  = "INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 1);";
+    const struct
     {
-        m_oRoot.writeConfig("A.xml", "<C><CheckOperations><Operation id='Own'/></CheckOperations></C>");
-        m_oRoot.write("check.xml", "<C><DeviceType><TaskType><PreCheck/><PostCheck/></TaskType></DeviceType></C>");
-    }
-};
-
-TEST_P(CheckSourceTest, IsTheFirstThatApplies)
-{
-    if (GetParam().bFixedFile)
-        m_oRoot.write("xml/access_snmp/fixedcheck/A.xml",
+        const char* pszName;
+        std::string strSql;
+        const char* pszFixedFile; // its name
+        const char* pszInRecord;  // ids of the record's check operations
+        const char* pszAlone;     // ids of getCheckOperFromXml
+    } CASES[] = {
+        {"fixed file switched off", "", "A", "Own", "Own"},
+        {"fixed file missing", FIXED, "X", "Own", "Own"},
+        {"fixed file", FIXED, "A", "Fixed", "Own"},
+        {"telnet file", TELNET, "X", "PreCheck,PostCheck", "PreCheck,PostCheck"},
+        {"telnet file before fixed file", FIXED + TELNET, "A", "PreCheck,PostCheck", "PreCheck,PostCheck"},
+    };
+    m_oRoot.writeConfig("A.xml", "<C><CheckOperations><Operation id='Own'/></CheckOperations></C>");
+    m_oRoot.write("check.xml", "<C><DeviceType><TaskType><PreCheck/><PostCheck/></TaskType></DeviceType></C>");
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        std::filesystem::remove_all(m_oRoot.path() + "/xml");
+        m_oRoot.write("xml/access_snmp/fixedcheck/" + std::string(stCase.pszFixedFile) + ".xml",
                       "<C><DeviceType><TaskType><Operation id='Fixed'/></TaskType></DeviceType></C>");
-    open(GetParam().strSql);
-    CDevTypeXMLResReader              oReader("A", "V1", false);
-    std::list<StAsnCheckOperationDef> lstAlone;
-    EXPECT_EQ(0u, CDevTypeXMLResReader("A", "V1", false).getCheckOperFromXml(&lstAlone));
-    EXPECT_EQ(GetParam().pszAlone, ids(lstAlone));
-
-    oReader.initializeCheck();
-    for (int nRecord = 0; nRecord < 2; ++nRecord) // every record of one reader, not the first alone
-    {
-        COwnedRecords oRead;
-        EXPECT_EQ(0u, oReader.readDevTypeVerXMLFile(oRead.lstInfo));
-        ASSERT_EQ(1u, oRead.lstInfo.size());
-        EXPECT_EQ(GetParam().pszInRecord, ids(oRead.lstInfo.front()->stOperationConfig.lstCheckOperation));
+        open(stCase.strSql);
+        std::list<StAsnCheckOperationDef> lstAlone;
+        EXPECT_EQ(0u, CDevTypeXMLResReader("A", "V1", false).getCheckOperFromXml(&lstAlone));
+        EXPECT_EQ(stCase.pszAlone, ids(lstAlone));
+        CDevTypeXMLResReader oReader("A", "V1", false);
+        oReader.initializeCheck();
+        for (int nRecord = 0; nRecord < 2; ++nRecord) // every record of one reader, not the first alone
+        {
+            COwnedRecords oRead;
+            EXPECT_EQ(0u, oReader.readDevTypeVerXMLFile(oRead.lstInfo));
+            EXPECT_EQ(stCase.pszInRecord, ids(oRead.lstInfo.front()->stOperationConfig.lstCheckOperation));
+        }
     }
-    EXPECT_THAT(log(), testing::IsEmpty());
+    EXPECT_EQ("", logText());
 }
-INSTANTIATE_TEST_SUITE_P(Source, CheckSourceTest,
-                         testing::ValuesIn(std::vector<StCheckCase>{
-                             {"OwnSection", "", false, "Own", "Own"},
-                             {"FixedFileSwitchedOff", "", true, "Own", "Own"},
-                             {"FixedFileMissing", FIXED_ON, false, "Own", "Own"},
-                             {"FixedFile", FIXED_ON, true, "Fixed", "Own"},
-                             {"TelnetFile", TELNET_FILE, false, "PreCheck,PostCheck", "PreCheck,PostCheck"},
-                             {"TelnetFileBeforeFixedFile", std::string(FIXED_ON) + TELNET_FILE, true,
-                              "PreCheck,PostCheck", "PreCheck,PostCheck"},
-                         }),
-                         rowName<StCheckCase>);
 
-TEST_F(CServerTest, AdapterFailureBeforeTheCheckFileIsLogged)
+TEST_F(CServerTest, AdapterFailuresBeforeTheCheckFileAreLogged)
 {
     m_oRoot.writeConfig("A.xml", "<C><CheckOperations><Operation id='Own'/></CheckOperations></C>");
     open();
@@ -70,19 +57,13 @@ TEST_F(CServerTest, AdapterFailureBeforeTheCheckFileIsLogged)
     EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, CDevTypeXMLResReader("A", "V1", false).initializeCheck());
     EXPECT_EQ(0u, CDevTypeXMLResReader("A", "V1", false).getCheckOperFromXml(&lstCheck));
     EXPECT_EQ("Own", ids(lstCheck));
-    const std::string strLine = "E 00000007 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                                "getCheckFileAndType(strDevType, strFilePath, m_enReportType): DeviceType = A";
-    EXPECT_EQ((Lines{strLine, strLine}), log());
-}
-
-TEST_F(CServerTest, ChecksOfAnUnknownTypeAnswerTheAdaptersCode)
-{
-    open();
-    std::list<StAsnCheckOperationDef> lstCheck;
     EXPECT_EQ(0x3B0F0001u, CDevTypeXMLResReader("Z", "V1", false).getCheckOperFromXml(&lstCheck));
-    EXPECT_EQ((Lines{"E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                     "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)",
-                     "E 3B0F0001 [DCServer]CDevTypeXMLResReader::initialize failed"}),
-              log());
+    const std::string strCall = " Call Function return Error:CDeviceAdapterInterface::getInstance()->";
+    const std::string strCheck =
+        "E 00000007" + strCall + "getCheckFileAndType(strDevType, strFilePath, m_enReportType): DeviceType = A\n";
+    EXPECT_EQ(strCheck + strCheck + "E 3B0F0001" + strCall +
+                  "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)\n"
+                  "E 3B0F0001 [DCServer]CDevTypeXMLResReader::initialize failed\n",
+              logText());
 }
 } // namespace

@@ -5,175 +5,71 @@
 
 namespace
 {
-struct StChoiceCase
-{
-    const char*    pszName;
-    std::string    strSql;  // on top of the registry entry and "own.xml"
-    Lines          lstFile; // in the configuration folder
-    const char*    pszSoftVersion;
-    const char*    pszPatchVersion;
-    bool           bUseCommon;
-    std::uint32_t  ulResult;
-    EnConfigSource enSource;
-    const char*    pszFile;
-    Lines          lstLog;
-};
-
-class ConfigFileChoiceTest : public CServerTest, public testing::WithParamInterface<StChoiceCase>
-{
-};
-
-TEST_P(ConfigFileChoiceTest, FollowsTheRules)
-{
-    const StChoiceCase& stCase = GetParam();
-    for (const std::string& strFile : stCase.lstFile)
-        m_oRoot.writeConfig(strFile, "<C/>");
-    m_oRoot.open("INSERT INTO device_type (name, version) VALUES ('X 1', 'V');"
-                 "INSERT INTO config_file VALUES ('X 1', '" +
-                 configPath("own.xml") + "'), ('Y_telnet', '" + configPath("other.xml") + "');" + stCase.strSql);
-    CDevTypeXMLResReader oReader("X 1", "V", false);
-    EXPECT_EQ(stCase.ulResult, oReader.initialize(stCase.pszSoftVersion, stCase.pszPatchVersion, stCase.bUseCommon));
-    EXPECT_EQ(stCase.enSource, oReader.origin().enSource);
-    if (stCase.pszFile != nullptr)
-    {
-        EXPECT_EQ(m_oRoot.configFolder() + stCase.pszFile, oReader.origin().strFile);
-    }
-    EXPECT_EQ(stCase.lstLog, log());
-}
-
-constexpr const char* ON_COMMON = "UPDATE device_type SET config_file_type = 1;";
-constexpr const char* TWIN =
-    "INSERT INTO config_file VALUES ('X 1_telnet', 'common/dc/conf/dc/devtype_xmlconf/twin.xml');";
+const std::string FOLDER    = "common/dc/conf/dc/devtype_xmlconf/";
+const std::string ON_COMMON = "UPDATE device_type SET config_file_type = 1;";
+const std::string TWIN      = "INSERT INTO config_file VALUES ('X 1_telnet', '" + FOLDER + "twin.xml');";
+const std::string COMMON    = "Common_ServerConfiguration.xml";
+const std::string VERSION   = "X_1_S+_P_ServerConfiguration.xml";
+const std::string PATCH     = "X_1_P_ServerConfiguration.xml";
 
 std::string missing(const std::string& strFile)
 {
-    return "E 3B0004EC [DCServer]Server config File :ROOT/common/dc/conf/dc/devtype_xmlconf/" + strFile + " not exist.";
+    return "E 3B0004EC [DCServer]Server config File :ROOT/" + FOLDER + strFile + " not exist.\n";
 }
-std::string failedCall(const std::string& strCall)
+std::string failed(const std::string& strCall)
 {
-    return "E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->" + strCall;
+    return "E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->" + strCall + "\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Found, ConfigFileChoiceTest,
-    testing::ValuesIn(std::vector<StChoiceCase>{
-        {"OwnFile", "", {"own.xml"}, "", "", true, 0, EnConfigSource::OwnFile, "own.xml", {}},
-        {"OwnFileThoughCommonIsThere",
-         "",
-         {"own.xml", "Common_ServerConfiguration.xml"},
-         "",
-         "",
-         true,
-         0,
-         EnConfigSource::OwnFile,
-         "own.xml",
-         {}},
-        {"CommonFile",
-         ON_COMMON,
-         {"own.xml", "Common_ServerConfiguration.xml"},
-         "",
-         "",
-         true,
-         0,
-         EnConfigSource::CommonFile,
-         "Common_ServerConfiguration.xml",
-         {}},
-        {"CommonFileBeforeVersions",
-         ON_COMMON,
-         {"Common_ServerConfiguration.xml", "X_1_S_P_ServerConfiguration.xml"},
-         "S",
-         "P",
-         true,
-         0,
-         EnConfigSource::CommonFile,
-         "Common_ServerConfiguration.xml",
-         {}},
-        {"CommonFileNotAskedFor", ON_COMMON, {"own.xml"}, "", "", false, 0, EnConfigSource::OwnFile, "own.xml", {}},
-        {"FileOfAVersion",
-         "",
-         {"X_1_S 1+_P_ServerConfiguration.xml"},
-         "S 1+",
-         "P",
-         false,
-         0,
-         EnConfigSource::OwnFile,
-         "X_1_S 1+_P_ServerConfiguration.xml",
-         {}},
-        {"FileOfAPatchAlone",
-         "",
-         {"X_1_P_ServerConfiguration.xml"},
-         "",
-         "P",
-         false,
-         0,
-         EnConfigSource::OwnFile,
-         "X_1_P_ServerConfiguration.xml",
-         {}},
-        {"TelnetTwin",
-         TWIN,
-         {"twin.xml"},
-         "",
-         "",
-         true,
-         0,
-         EnConfigSource::TelnetTwin,
-         "twin.xml",
-         {missing("own.xml")}},
-        {"TelnetTwinOfACommonType",
-         std::string(ON_COMMON) + TWIN,
-         {"own.xml", "twin.xml"},
-         "",
-         "",
-         true,
-         0,
-         EnConfigSource::TelnetTwin,
-         "twin.xml",
-         {missing("Common_ServerConfiguration.xml")}},
-    }),
-    rowName<StChoiceCase>);
-
-INSTANTIATE_TEST_SUITE_P(NotFound, ConfigFileChoiceTest,
-                         testing::ValuesIn(std::vector<StChoiceCase>{
-                             {"NeitherFile",
-                              TWIN,
-                              {},
-                              "",
-                              "",
-                              true,
-                              DC_RESULT_FILE_NOT_EXIST,
-                              EnConfigSource::None,
-                              nullptr,
-                              {missing("own.xml"), missing("twin.xml")}},
-                             {"TwinUnknownToTheAdapter",
-                              "",
-                              {},
-                              "",
-                              "",
-                              true,
-                              0x3B0F0001,
-                              EnConfigSource::None,
-                              nullptr,
-                              {missing("own.xml"), failedCall("getServerConfigFile(strDevTypeTemp, strFilePath)")}},
-                             {"FileUnknownToTheAdapter",
-                              "DELETE FROM config_file;",
-                              {"own.xml"},
-                              "",
-                              "",
-                              true,
-                              0x3B0F0001,
-                              EnConfigSource::None,
-                              nullptr,
-                              {failedCall("getServerConfigFile(m_strDevType, strFilePath)")}},
-                             {"TypeUnknownToTheAdapter",
-                              "DELETE FROM device_type;",
-                              {"own.xml"},
-                              "",
-                              "",
-                              true,
-                              0x3B0F0001,
-                              EnConfigSource::None,
-                              nullptr,
-                              {failedCall("searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)")}},
-                         }),
-                         rowName<StChoiceCase>);
+TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
+{
+    using From = EnConfigSource;
+    const struct
+    {
+        const char*   pszName;
+        std::string   strSql;   // on top of the registry entry and "own.xml"
+        std::string   strFiles; // in the configuration folder
+        const char*   pszVersion;
+        const char*   pszPatch;
+        bool          bUseCommon;
+        std::uint32_t ulResult;
+        From          enSource;
+        std::string   strFile;
+        std::string   strLog;
+    } CASES[] = {
+        {"own", "", "own.xml Common_ServerConfiguration.xml", "", "", true, 0, From::OwnFile, "own.xml", ""},
+        {"common", ON_COMMON, "own.xml Common_ServerConfiguration.xml", "", "", true, 0, From::CommonFile, COMMON, ""},
+        {"before versions", ON_COMMON, COMMON + " " + VERSION, "S+", "P", true, 0, From::CommonFile, COMMON, ""},
+        {"common not asked for", ON_COMMON, "own.xml", "", "", false, 0, From::OwnFile, "own.xml", ""},
+        {"of a version", "", VERSION, "S+", "P", false, 0, From::OwnFile, VERSION, ""},
+        {"of a patch alone", "", PATCH, "", "P", false, 0, From::OwnFile, PATCH, ""},
+        {"twin", TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml", missing("own.xml")},
+        {"of a common type", ON_COMMON + TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml",
+         missing(COMMON)},
+        {"neither", TWIN, "", "", "", true, DC_RESULT_FILE_NOT_EXIST, From::None, "",
+         missing("own.xml") + missing("twin.xml")},
+        {"no twin", "", "", "", "", true, 0x3B0F0001, From::None, "",
+         missing("own.xml") + failed("getServerConfigFile(strDevTypeTemp, strFilePath)")},
+        {"no file", "DELETE FROM config_file;", "", "", "", true, 0x3B0F0001, From::None, "",
+         failed("getServerConfigFile(m_strDevType, strFilePath)")},
+        {"no type", "DELETE FROM device_type;", "", "", "", true, 0x3B0F0001, From::None, "",
+         failed("searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)")},
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        clearLog();
+        std::filesystem::remove_all(m_oRoot.configFolder());
+        for (const std::string& strFile : words(stCase.strFiles))
+            m_oRoot.writeConfig(strFile, "<C/>");
+        m_oRoot.open("INSERT INTO device_type (name, version) VALUES ('X 1', 'V');"
+                     "INSERT INTO config_file VALUES ('X 1', '" +
+                     FOLDER + "own.xml');" + stCase.strSql);
+        CDevTypeXMLResReader oReader("X 1", "V", false);
+        EXPECT_EQ(stCase.ulResult, oReader.initialize(stCase.pszVersion, stCase.pszPatch, stCase.bUseCommon));
+        EXPECT_EQ(stCase.enSource, oReader.origin().enSource);
+        EXPECT_THAT(oReader.origin().strFile, testing::EndsWith(stCase.strFile));
+        EXPECT_EQ(stCase.strLog, logText());
+    }
+}
 } // namespace

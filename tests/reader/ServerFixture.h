@@ -8,6 +8,9 @@
 
 #include <fmt/format.h>
 
+#include <iterator>
+#include <sstream>
+
 using Lines = std::vector<std::string>;
 
 class CServerTest : public testing::Test
@@ -26,7 +29,10 @@ protected:
 
     static std::string configPath(const std::string& strName) { return "common/dc/conf/dc/devtype_xmlconf/" + strName; }
 
-    std::string moduleFolder() const { return m_oRoot.path() + "/etc/oss_cfg/dc/ne_script/importscript"; }
+    void makeModuleFolder() const
+    {
+        std::filesystem::create_directories(m_oRoot.path() + "/etc/oss_cfg/dc/ne_script/importscript");
+    }
 
     Lines log() const
     {
@@ -37,6 +43,15 @@ protected:
                 strLine.replace(nAt, m_oRoot.path().size(), "ROOT");
         }
         return lstLine;
+    }
+
+    // The same in one text, every line with its end.
+    std::string logText() const
+    {
+        std::string strText;
+        for (const std::string& strLine : log())
+            strText += strLine + "\n";
+        return strText;
     }
 
     CTempServerRoot m_oRoot;
@@ -57,6 +72,13 @@ public:
 
     std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
 };
+
+// The words of "a b c".
+inline Lines words(const std::string& strText)
+{
+    std::istringstream oText(strText);
+    return {std::istream_iterator<std::string>(oText), {}};
+}
 
 // "Save,Backup" of a list of records with ids.
 template <typename Record>
