@@ -4,6 +4,8 @@
 #include "TestSupport.h"
 #include "records/Vocabulary.h"
 
+#include <fmt/format.h>
+
 using namespace DCAsn1ClientToServer;
 
 namespace
@@ -16,21 +18,11 @@ TEST(WordTablesTest, TaskTypesHaveTwoNumbers)
         std::int32_t nTaskType;   // -1: no such name
         std::int32_t nConfigType; // of the task configuration
     } CASES[] = {
-        {"SoftwareUpgrade", 0, 0},
-        {"SoftwareDowngrade", 1, 1},
-        {"PatchUpdate", 2, 2},
-        {"SimulationPackageUpgrade", 3, 3},
-        {"PackageUpgrade", 4, 4},
-        {"PackageDowngrade", 9, 13},
-        {"PackageDiffusion", 5, 5},
-        {"PackageDiffusionDowngrade", 8, 12},
-        {"OLTAgentUpgrade", 7, 7},
-        {"OpticalModuleUpgrade", 14, 15},
-        {"NuboMeterUpgrade", 16, 16},
-        {"ConfTransferUpgradeTask", 17, 17},
-        {"softwareupgrade", -1, -1},
-        {"PackageUpgrade ", -1, -1},
-        {"", -1, -1},
+        {"SoftwareUpgrade", 0, 0},        {"SoftwareDowngrade", 1, 1},          {"PatchUpdate", 2, 2},
+        {"PackageUpgrade", 4, 4},         {"SimulationPackageUpgrade", 3, 3},   {"PackageDowngrade", 9, 13},
+        {"PackageDiffusion", 5, 5},       {"PackageDiffusionDowngrade", 8, 12}, {"OLTAgentUpgrade", 7, 7},
+        {"OpticalModuleUpgrade", 14, 15}, {"NuboMeterUpgrade", 16, 16},         {"ConfTransferUpgradeTask", 17, 17},
+        {"softwareupgrade", -1, -1},      {"PackageUpgrade ", -1, -1},          {"", -1, -1},
     };
     for (const auto& stCase : CASES)
     {
@@ -67,24 +59,14 @@ TEST(WordTablesTest, WordsCompareExactly)
 
 TEST(WordTablesTest, FixedChecksAreOnAtExactlyOne)
 {
-    const struct
+    CTempServerRoot oRoot;
+    for (const char* pszRow :
+         {"", "'DC', 'FIXED_CHECK_ITEM', 1", "'DC', 'FIXED_CHECK_ITEM', 0", "'DC', 'FIXED_CHECK_ITEM', 2",
+          "'DC', 'FIXED_CHECK_ITEM', -1", "'XX', 'FIXED_CHECK_ITEM', 1"})
     {
-        const char* pszItem;
-        bool        bEnabled;
-    } CASES[] = {
-        {"", false},
-        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 1);", true},
-        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 0);", false},
-        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 2);", false},
-        {"INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', -1);", false},
-        {"INSERT INTO config_item VALUES ('XX', 'FIXED_CHECK_ITEM', 1);", false},
-    };
-    for (const auto& stCase : CASES)
-    {
-        SCOPED_TRACE(stCase.pszItem);
-        CTempServerRoot oRoot;
-        oRoot.open(stCase.pszItem);
-        EXPECT_EQ(stCase.bEnabled, isFixedCheckEnabled());
+        SCOPED_TRACE(pszRow);
+        oRoot.open(*pszRow == '\0' ? "" : fmt::format("INSERT INTO config_item VALUES ({});", pszRow));
+        EXPECT_EQ(pszRow == std::string("'DC', 'FIXED_CHECK_ITEM', 1"), isFixedCheckEnabled());
     }
 }
 } // namespace
