@@ -78,39 +78,28 @@ TEST_F(DatabaseThreadTest, MixedQuestionsWhileTheFirstLoadRunsAndAfter)
          configPath("A.xml") + "'), ('D', '" + configPath("D.xml") + "');");
     holdLoadFor(8);
     std::atomic<int> nWrong{0};
-    inThreads(8,
-              [&](int nAt)
-              {
-                  ++m_nArrived;
-                  CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-                  for (int nTime = 0; nTime < 20; ++nTime)
-                  {
-                      std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
-                      bool                               bFound = false;
-                      std::string                        strName;
-                      switch ((nAt + nTime) % 5)
-                      {
-                      case 0: // read anew, its old records die
-                          nWrong += oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, true) == 0 ? 0 : 1;
-                          break;
-                      case 1:
-                          oDatabase.isDeviceOpSupported("C", "V", "Save", bFound);
-                          nWrong += bFound ? 0 : 1;
-                          break;
-                      case 2: // never there, read on demand each time
-                          nWrong += oDatabase.isDeviceOpSupported("Z", "V", "Save", bFound) == 0 ? 1 : 0;
-                          break;
-                      case 3:
-                          nWrong += oDatabase.getContentTypeId(1, 1, strName) == 0 ? 0 : 1;
-                          break;
-                      default:
-                          nWrong +=
-                              oDatabase.getAllBackupContentTypeNameByDevTypeName("D", strName, EnDeviceTypeAccess) == 0
-                                  ? 0
-                                  : 1;
-                      }
-                  }
-              });
+    inThreads(
+        8,
+        [&](int nAt)
+        {
+            ++m_nArrived;
+            CXMLConfigDatabase&                oDatabase = *CXMLConfigDatabase::getInstance();
+            std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
+            bool                               bFound = false;
+            std::string                        strName;
+            const std::function<bool()>        QUESTIONS[] = {
+                       // Read anew, its old records die.
+                [&] { return oDatabase.getDevTypeXMLConfig("C", "V", lstInfo, true) == 0; },
+                [&] { return oDatabase.isDeviceOpSupported("C", "V", "Save", bFound) == 0 && bFound; },
+                // Never there, read on demand each time.
+                [&] { return oDatabase.isDeviceOpSupported("Z", "V", "Save", bFound) != 0; },
+                [&] { return oDatabase.getContentTypeId(1, 1, strName) == 0; },
+                [&]
+                { return oDatabase.getAllBackupContentTypeNameByDevTypeName("D", strName, EnDeviceTypeAccess) == 0; },
+            };
+            for (int nTime = 0; nTime < 20; ++nTime)
+                nWrong += QUESTIONS[(nAt + nTime) % 5]() ? 0 : 1;
+        });
     EXPECT_EQ(0, nWrong);
 }
 

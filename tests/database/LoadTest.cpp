@@ -97,25 +97,6 @@ TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
     }
 }
 
-TEST_F(CServerTest, ReportSaysWhereEveryTypeCameFromInLoadOrder)
-{
-    m_oRoot.writeConfig("A.xml", "<C/>");
-    m_oRoot.writeConfig("twin.xml", "<C/>");
-    m_oRoot.writeConfig("torn.xml", "<C>");
-    m_oRoot.writeConfig("Common_ServerConfiguration.xml", "<C/>");
-    open("DELETE FROM device_type; INSERT INTO device_type (name, version, config_file_type) VALUES ('B', '9', 0), "
-         "('A', 'V9', 0), ('A', 'V1', 1), ('A', 'V5_telnet', 0), ('D', '1', 0), ('E', '1', 0);"
-         "INSERT INTO config_file VALUES ('A_telnet', 'none.xml'), ('A_telnet_telnet', '" +
-         configPath("twin.xml") + "'), ('D', '" + configPath("torn.xml") + "');");
-    Lines lstRead;
-    for (const StDevTypeLoad& stLoad : CXMLConfigDatabase::getInstance()->getLoadReport().lstDevType)
-        lstRead.push_back(fmt::format("{} {} {} {:X} {}", stLoad.strKey, stLoad.strDevTypeVer,
-                                      static_cast<int>(stLoad.stOrigin.enSource), stLoad.ulResult,
-                                      stLoad.stOrigin.strProblem.substr(0, 6)));
-    EXPECT_THAT(lstRead, testing::ElementsAre("A V9 1 0 ", "A V1 2 0 ", "A_telnet V5_telnet 3 0 ",
-                                              "B 9 0 3B0F0001 the fi", "D 1 1 3B0004EE line 1", "E 1 0 3B0F0001 "));
-}
-
 TEST_F(CServerTest, FileNames)
 {
     open();
