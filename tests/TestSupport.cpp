@@ -11,12 +11,11 @@
 #include <mutex>
 #include <stdlib.h>
 
-using standalone::StLogLine;
-
 namespace
 {
-std::mutex             g_oLogMutex;
-std::vector<StLogLine> g_lstLog;
+std::mutex               g_oLogMutex;
+std::vector<std::string> g_lstLine;
+std::vector<std::string> g_lstPlacedLine;
 
 // Starts every test from nothing.
 class CFreshStart : public testing::EmptyTestEventListener
@@ -30,10 +29,13 @@ class CFreshStart : public testing::EmptyTestEventListener
     }
 };
 
-std::string render(const StLogLine& stLine, const std::string& strPlace)
+void keepLine(const standalone::StLogLine& stLine)
 {
-    return stLine.bError ? fmt::format("E {:08X} {}{}", stLine.ulCode, strPlace, stLine.strText)
-                         : fmt::format("I {}{}", strPlace, stLine.strText);
+    std::lock_guard<std::mutex> oGuard(g_oLogMutex);
+    const std::string           strKind = stLine.bError ? fmt::format("E {:08X}", stLine.ulCode) : "I";
+    g_lstLine.push_back(fmt::format("{} {}", strKind, stLine.strText));
+    g_lstPlacedLine.push_back(
+        fmt::format("{} {}::{} {}", strKind, stLine.stWhere.pszFile, stLine.stWhere.pszFunction, stLine.strText));
 }
 } // namespace
 
@@ -43,39 +45,23 @@ CParsedXml::CParsedXml(std::string_view strXml) : m_pParser(CXmlParser::create()
     EXPECT_EQ("", m_pParser->problem());
 }
 
-const xercesc::DOMElement* CParsedXml::root()
-{
-    return m_pParser->getDocument()->getDocumentElement();
-}
-
-const xercesc::DOMElement* CParsedXml::element(const char16_t* pszName)
-{
-    const ElementList& lstElement = m_pParser->elements(pszName);
-    return lstElement.empty() ? nullptr : lstElement.front();
-}
-
 std::vector<std::string> logLines()
 {
     std::lock_guard<std::mutex> oGuard(g_oLogMutex);
-    std::vector<std::string>    lstLine;
-    for (const StLogLine& stLine : g_lstLog)
-        lstLine.push_back(render(stLine, ""));
-    return lstLine;
+    return g_lstLine;
 }
 
 std::vector<std::string> logLinesWithPlace()
 {
     std::lock_guard<std::mutex> oGuard(g_oLogMutex);
-    std::vector<std::string>    lstLine;
-    for (const StLogLine& stLine : g_lstLog)
-        lstLine.push_back(render(stLine, fmt::format("{}::{} ", stLine.stWhere.pszFile, stLine.stWhere.pszFunction)));
-    return lstLine;
+    return g_lstPlacedLine;
 }
 
 void clearLog()
 {
     std::lock_guard<std::mutex> oGuard(g_oLogMutex);
-    g_lstLog.clear();
+    g_lstLine.clear();
+    g_lstPlacedLine.clear();
 }
 
 CTempServerRoot::CTempServerRoot()
@@ -121,12 +107,7 @@ void CTempServerRoot::open(std::string_view strInventory)
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    standalone::setLogListener(
-        [](const StLogLine& stLine)
-        {
-            std::lock_guard<std::mutex> oGuard(g_oLogMutex);
-            g_lstLog.push_back(stLine);
-        });
+    standalone::setLogListener(keepLine);
     testing::UnitTest::GetInstance()->listeners().Append(new CFreshStart); // owned by the list
     return RUN_ALL_TESTS();
 }

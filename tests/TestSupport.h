@@ -24,24 +24,17 @@ public:
     explicit CParsedXml(std::string_view strXml);
 
     xercesc::XercesDOMParser*  parser() { return m_pParser.get(); }
-    const xercesc::DOMElement* root();
-
-    // The first element of the name.
-    const xercesc::DOMElement* element(const char16_t* pszName);
+    const xercesc::DOMElement* root() { return m_pParser->getDocument()->getDocumentElement(); }
 
 private:
     std::unique_ptr<CXmlParser> m_pParser;
 };
 
 // A parser without a document.
-class CUnparsedXml
+struct CUnparsedXml
 {
-public:
-    CUnparsedXml() : m_pParser(CXmlParser::create()) {}
-    xercesc::XercesDOMParser* parser() { return m_pParser.get(); }
-
-private:
-    std::unique_ptr<CXmlParser> m_pParser;
+    xercesc::XercesDOMParser*         parser() { return m_pParser.get(); }
+    const std::unique_ptr<CXmlParser> m_pParser = CXmlParser::create();
 };
 
 // The lines written since the test began (or since clearLog): "E 3B0004EE text"

@@ -1,8 +1,6 @@
 // The alarm explanation dictionary: what one record becomes, and what is logged.
 #include "alarm/AlarmSupport.h"
 
-#include <numeric>
-
 namespace
 {
 using testing::ElementsAre;
@@ -16,21 +14,19 @@ TEST(InitAlarmInfoTest, StoresARecordUnderItsNumber)
         const char*   pszAlarmName;
         const char*   pszProblem; // "": none
     } CASES[] = {
-        // The number rule.
         {"<param name='AlarmID'>\n\t 101 \n</param>", 101, "", ""},
         {"<param name='AlarmID'>18446744073709551615</param>", 18446744073709551615u, "", ""},
         {"<param name='AlarmID'>18446744073709551616</param>", 0, "",
-         "record 1: \"18446744073709551616\" in \"AlarmID\" is too large and is passed over"},
-        {"<param name='AlarmID'>12x4</param>", 12, "", "record 1: \"12x4\" in \"AlarmID\" is read as 12"},
-        {"<param name='AlarmID'>-5</param>", 0, "", "record 1: \"-5\" in \"AlarmID\" is no number and is passed over"},
-        {"<param name='AlarmID'/>", 0, "", "record 1: \"\" in \"AlarmID\" is no number and is passed over"},
-        // The params.
-        {"<param name='AlarmName'>A</param>", 0, "A", "record 1: no \"AlarmID\", so the record is stored under 0"},
-        {"<param name='AlarmID'>1</param><param name='AlarmID'>2</param>", 2, "", ""},
-        {"<x><param name='AlarmID'>1<!-- 2 -->3</param><param name='AlarmName'><b>Fan</b> off</param></x>", 13,
-         "Fan off", ""},
+         "record 1: \"18446744073709551616\" in \"AlarmID\" is too large and is passed over;"},
+        {"<param name='AlarmID'>12x4</param>", 12, "", "record 1: \"12x4\" in \"AlarmID\" is read as 12;"},
+        {"<param name='AlarmID'/>", 0, "", "record 1: \"\" in \"AlarmID\" is no number and is passed over;"},
+        {"<param name='AlarmName'>A</param>", 0, "A", "record 1: no \"AlarmID\", so the record is stored under 0;"},
+        {"<x><param name='AlarmID'>9</param><param name='AlarmID'>1<!-- 2 -->3</param><param "
+         "name='AlarmName'><b>Fan</b> "
+         "off</param></x>",
+         13, "Fan off", ""},
         {"<param name='AlarmID'>1</param><param name='alarmname'>A</param><param name='alarmname'/>", 1, "",
-         "record 1: a param named \"alarmname\" is not known and is passed over wherever it stands"},
+         "record 1: a param named \"alarmname\" is not known and is passed over wherever it stands;"},
     };
     for (const auto& stCase : CASES)
     {
@@ -40,7 +36,7 @@ TEST(InitAlarmInfoTest, StoresARecordUnderItsNumber)
         ASSERT_THAT(oInfo.alarms(), ElementsAre(testing::Key(stCase.ulAlarmId)));
         EXPECT_EQ(stCase.ulAlarmId, oInfo.alarms().begin()->second.ulAlarmId);
         EXPECT_EQ(stCase.pszAlarmName, oInfo.getAlarmNameByAlarmId(stCase.ulAlarmId).strAlarmName);
-        EXPECT_EQ(stCase.pszProblem, std::accumulate(oInfo.problems().begin(), oInfo.problems().end(), std::string()));
+        EXPECT_EQ(stCase.pszProblem, joined(oInfo.problems()));
     }
 }
 

@@ -39,59 +39,47 @@ const std::string WHOLE_FILE  = zipcheck(type("zip", "<uncompressed_suffix value
 const std::string WHOLE_RULES = "zip:.txt;.xml|10|20|30|40|.zip \u00FC"
                                 "ber:||||| ";
 
-struct StFileCase
+TEST(ParseXMLFileTest, ReadsUpToTheFirstMistake)
 {
-    const char* pszName;
-    std::string strContent;
-    const char* pszRules;
-    const char* pszLog; // function and text; empty when the read succeeds
-    const char* pszProblem;
-};
-class FileCheckTest : public testing::TestWithParam<StFileCase>
-{
-};
-
-TEST_P(FileCheckTest, ReadsUpToTheFirstMistake)
-{
-    CTempServerRoot          oRoot;
-    ParseXMLFile::TypeMap    mapType;
-    std::vector<std::string> lstProblem;
-    const bool               bFails = *GetParam().pszLog != '\0';
-    EXPECT_EQ(bFails ? DC_RESULT_XML_ERROR : DC_RESULT_OK,
-              ParseXMLFile::GetXMLInfo(oRoot.write("file_check.xml", GetParam().strContent), mapType, &lstProblem));
-    EXPECT_EQ(GetParam().pszRules, rules(mapType));
-    EXPECT_EQ(bFails ? std::vector<std::string>{"E 3B0004EE ParseXMLFile::" + std::string(GetParam().pszLog)}
-                     : std::vector<std::string>{},
-              logLinesWithPlace());
-    EXPECT_THAT(testing::PrintToString(lstProblem), testing::HasSubstr(GetParam().pszProblem));
-}
-INSTANTIATE_TEST_SUITE_P(
-    Rules, FileCheckTest,
-    testing::ValuesIn(std::vector<StFileCase>{
-        {"Whole", WHOLE_FILE, WHOLE_RULES.c_str(), "", "{}"},
-        {"FirstOfANameCounts", zipcheck(type("a", "<x><max_size value='1'/></x><max_size/>")), "a:|1|||| ", "", "{}"},
-        {"FirstRootCounts", "<r>" + zipcheck(type("a")) + zipcheck(type("")) + "</r>", "a:||||| ", "", "{}"},
-        {"FirstOfAValueIsKept", zipcheck(type("a") + type("a", "<max_size value='1'/>")), "a:||||| ", "", "\\\"a\\\""},
-    }),
-    rowName<StFileCase>);
-INSTANTIATE_TEST_SUITE_P(
-    Failures, FileCheckTest,
-    testing::ValuesIn(std::vector<StFileCase>{
-        {"TornOff", "<zipcheck>" + type("a"), "", "GoNextParam [DCServer]The file_check.xml file is invalid.",
-         "line 1"},
-        {"NoRoot", "<r/>", "", "GoNextParam [DCServer]Element <zipcheck> is not exist in the file_check.xml", "{}"},
-        {"NoTypes", "<r><zipcheck/>" + type("a") + "</r>", "",
+    const struct
+    {
+        std::string strContent;
+        std::string strRules;
+        std::string strLog; // function and text; empty when the read succeeds
+        const char* pszProblem;
+    } CASES[] = {
+        {WHOLE_FILE, WHOLE_RULES, "", "{}"},
+        // The first of a name, of a root and of a value counts.
+        {zipcheck(type("a", "<x><max_size value='1'/></x><max_size/>")), "a:|1|||| ", "", "{}"},
+        {"<r>" + zipcheck(type("a")) + zipcheck(type("")) + "</r>", "a:||||| ", "", "{}"},
+        {zipcheck(type("a") + type("a", "<max_size value='1'/>")), "a:||||| ", "", "\\\"a\\\""},
+        // Failures.
+        {"<zipcheck>" + type("a"), "", "GoNextParam [DCServer]The file_check.xml file is invalid.", "line 1"},
+        {"<r/>", "", "GoNextParam [DCServer]Element <zipcheck> is not exist in the file_check.xml", "{}"},
+        {"<r><zipcheck/>" + type("a") + "</r>", "",
          "GetXMLInfo [DCServer]Element <uncompressed_type> is not exist in the file_check.xml", "{}"},
-        {"EmptyType", zipcheck(type("a") + type("") + type("c")), "a:||||| ",
+        {zipcheck(type("a") + type("") + type("c")), "a:||||| ",
          "ReadUncompressedType [DCServer]<uncompressed_type> value is not valid in the file_check.xml ", "{}"},
-        {"TypeWithoutValue", zipcheck("<uncompressed_type/>"), "",
-         "ReadUncompressedType [DCServer]<uncompressed_type> value is not valid in the file_check.xml ", "{}"},
-        {"EmptyParameter", zipcheck(type("a") + type("b", "<max_size value=''/>") + type("c")), "a:||||| ",
-         "GetXMLParam [DCServer]<max_size> value is not valid in the file_check.xml file ", "{}"},
-        {"FirstParameterInReadingOrder", zipcheck(type("b", "<file_suffix/><max_count/>")), "",
+        {zipcheck(type("a") + type("b", "<file_suffix/><max_count value=''/>") + type("c")), "a:||||| ",
          "GetXMLParam [DCServer]<max_count> value is not valid in the file_check.xml file ", "{}"},
-    }),
-    rowName<StFileCase>);
+    };
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.strContent);
+        CTempServerRoot          oRoot;
+        ParseXMLFile::TypeMap    mapType;
+        std::vector<std::string> lstProblem;
+        std::vector<std::string> lstLog;
+        if (!stCase.strLog.empty())
+            lstLog = {"E 3B0004EE ParseXMLFile::" + stCase.strLog};
+        EXPECT_EQ(lstLog.empty() ? DC_RESULT_OK : DC_RESULT_XML_ERROR,
+                  ParseXMLFile::GetXMLInfo(oRoot.write("file_check.xml", stCase.strContent), mapType, &lstProblem));
+        EXPECT_EQ(stCase.strRules, rules(mapType));
+        EXPECT_EQ(lstLog, logLinesWithPlace());
+        EXPECT_THAT(testing::PrintToString(lstProblem), testing::HasSubstr(stCase.pszProblem));
+        clearLog();
+    }
+}
 
 TEST(ParseXMLFileTest, NullAndUnknownInput)
 {

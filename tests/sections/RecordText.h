@@ -10,73 +10,100 @@
 
 #include <functional>
 
-using Lines = std::vector<std::string>;
-
 struct CRecordText
 {
+    using Text = std::string;
+
+    // The records of a list, ", " between them.
     template <typename Record>
-    static Lines lines(const std::list<Record>& lstRecord)
+    static Text list(const std::list<Record>& lstRecord)
     {
-        Lines lstLine;
-        for (const Record& stRecord : lstRecord)
-            lstLine.push_back(of(stRecord));
-        return lstLine;
+        std::vector<Text> lstText;
+        for (const Record& r : lstRecord)
+            lstText.push_back(of(r));
+        return fmt::format("{}", fmt::join(lstText, ", "));
     }
 
 private:
     template <typename... Fields>
-    static std::string joined(const Fields&... fields)
+    static Text joined(const Fields&... fields)
     {
-        return fmt::format("{}", fmt::join(Lines{of(fields)...}, "|"));
+        return fmt::format("{}", fmt::join(std::vector<Text>{of(fields)...}, "|"));
     }
     template <typename Record>
-    static std::string of(const std::list<Record>& lstRecord)
+    static Text of(const std::list<Record>& lstRecord)
     {
-        return fmt::format("[{}]", fmt::join(lines(lstRecord), ", "));
+        return "[" + list(lstRecord) + "]";
     }
     template <typename Enum>
-    static std::string of(const AsnEnum<Enum>& enValue)
+    static Text of(const AsnEnum<Enum>& enValue)
     {
         return std::to_string(enValue.number());
     }
-    static std::string of(const std::string& strText) { return strText; }
-    static std::string of(std::uint32_t ulNumber) { return std::to_string(ulNumber); }
-    static std::string of(std::int32_t nNumber) { return std::to_string(nNumber); }
-    static std::string of(bool bFlag) { return bFlag ? "1" : "0"; }
+    static Text of(const Text& strText) { return strText; }
+    static Text of(std::uint32_t ulNumber) { return std::to_string(ulNumber); }
+    static Text of(std::int32_t nNumber) { return std::to_string(nNumber); }
+    static Text of(bool bFlag) { return bFlag ? "1" : "0"; }
 
-    // One record a line.
-    // clang-format off
-    static std::string of(const StAsnOptionInfo& st) { return joined(st.strId, st.ulValue, st.strTarget); }
-    static std::string of(const StAsnOperParamDef& st) { return joined(st.strId, st.strValue, st.bIsRequired, st.strSelected, st.lstOption); }
-    static std::string of(const StAsnOperation& st) { return joined(st.strId, st.bIsCancelable, st.enOperationLevel, st.lstParam, st.bExtFlag, st.bIsSupported); }
-    static std::string of(const StAsnCheckType& st) { return joined(st.strId, st.strDescription, st.strCmdKey, st.strSubItemFrom, st.nCompareType, st.strCompareParam, st.bSelected, st.bIsCompare, st.ulIndex, st.lstSubItem, st.strExtInfo); }
-    static std::string of(const StAsnCheckOperationDef& st) { return joined(st.strId, st.enOperationLevel, st.nTaskType, st.lstCheckType, st.bIsCancelable); }
-    static std::string of(const StAsnCustomOperationDef& st) { return joined(st.strId, st.strResourceClass, st.strShortcutKey, st.enOperationLevel, st.enAvailableIn); }
-    static std::string of(const StAsnOtherOperationDef& st) { return joined(st.strId, st.bIsSupported, st.lstParam); }
-    static std::string of(const StAsnUpgradeSubOperationDef& st) { return joined(st.strId, st.enOperationLevel, st.lstParameter); }
-    static std::string of(const StAsnUpgradeOperationDef& st) { return joined(st.strId, st.enOperationLevel, st.lstSubOperation); }
-    static std::string of(const StAsnMenuOpDef& st) { return joined(st.enType, st.strId); }
-    static std::string of(const StAsnPatchItem& st) { return joined(st.strId, st.enType); }
-    static std::string of(const StAsnPatchStateDef& st) { return joined(st.strName, st.lstPatchItem); }
-    static std::string of(const StAsnPatchDef& st) { return joined(st.enPatchType, st.lstPatchState); }
-    static std::string of(const StAsnPatchTypeMenuDef& st) { return joined(st.enPatchType, st.lstMenuOp); }
-    static std::string of(const StAsnTaskOperationDef& st) { return joined(st.enType, st.strId, st.strDependsOn, st.strOperDescription, st.strIsSelect, st.strIsPauseBeforeOP); }
-    static std::string of(const StAsnTaskConfigOperation& st) { return joined(st.strId, st.strValue, st.bIsRequired, st.strSelected, st.lstOption, st.lstTaskOperationDef, st.lstOtherOperationDef); }
-    static std::string of(const StAsnTaskConfigInfoOperation& st) { return joined(st.enTaskType, st.strGUITemplete, st.lstTaskConfigOperation); }
-    // clang-format on
+    // The five fields that two records share.
+    template <typename Param>
+    static Text param(const Param& r)
+    {
+        return joined(r.strId, r.strValue, r.bIsRequired, r.strSelected, r.lstOption);
+    }
+    static Text of(const StAsnOptionInfo& r) { return joined(r.strId, r.ulValue, r.strTarget); }
+    static Text of(const StAsnOperParamDef& r) { return param(r); }
+    static Text of(const StAsnOperation& r)
+    {
+        return joined(r.strId, r.bIsCancelable, r.enOperationLevel, r.lstParam, r.bExtFlag, r.bIsSupported);
+    }
+    static Text of(const StAsnCheckType& r)
+    {
+        return joined(r.strId, r.strDescription, r.strCmdKey, r.strSubItemFrom, r.nCompareType, r.strCompareParam,
+                      r.bSelected, r.bIsCompare, r.ulIndex, r.lstSubItem, r.strExtInfo);
+    }
+    static Text of(const StAsnCheckOperationDef& r)
+    {
+        return joined(r.strId, r.enOperationLevel, r.nTaskType, r.lstCheckType, r.bIsCancelable);
+    }
+    static Text of(const StAsnCustomOperationDef& r)
+    {
+        return joined(r.strId, r.strResourceClass, r.strShortcutKey, r.enOperationLevel, r.enAvailableIn);
+    }
+    static Text of(const StAsnOtherOperationDef& r) { return joined(r.strId, r.bIsSupported, r.lstParam); }
+    static Text of(const StAsnUpgradeSubOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstParameter); }
+    static Text of(const StAsnUpgradeOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstSubOperation); }
+    static Text of(const StAsnMenuOpDef& r) { return joined(r.enType, r.strId); }
+    static Text of(const StAsnPatchItem& r) { return joined(r.strId, r.enType); }
+    static Text of(const StAsnPatchStateDef& r) { return joined(r.strName, r.lstPatchItem); }
+    static Text of(const StAsnPatchDef& r) { return joined(r.enPatchType, r.lstPatchState); }
+    static Text of(const StAsnPatchTypeMenuDef& r) { return joined(r.enPatchType, r.lstMenuOp); }
+    static Text of(const StAsnTaskOperationDef& r)
+    {
+        return joined(r.enType, r.strId, r.strDependsOn, r.strOperDescription, r.strIsSelect, r.strIsPauseBeforeOP);
+    }
+    static Text of(const StAsnTaskConfigOperation& r)
+    {
+        return param(r) + "|" + joined(r.lstTaskOperationDef, r.lstOtherOperationDef);
+    }
+    static Text of(const StAsnTaskConfigInfoOperation& r)
+    {
+        return joined(r.enTaskType, r.strGUITemplete, r.lstTaskConfigOperation);
+    }
 };
 
-// A section entry as a table names it: reads the document, answers the records.
-using SectionReader = std::function<Lines(xercesc::XercesDOMParser*)>;
+// A section as a table names it: reads a snippet, answers the records.
+using SectionReader = std::function<std::string(const std::string& strXml)>;
 
 template <typename Parser, typename Record>
 SectionReader section(std::uint32_t (Parser::*pfnSet)(xercesc::XercesDOMParser*, std::list<Record>*))
 {
-    return [pfnSet](xercesc::XercesDOMParser* pDOMParser)
+    return [pfnSet](const std::string& strXml)
     {
+        CParsedXml        oXml(strXml);
         std::list<Record> lstRecord;
-        EXPECT_EQ(0u, (Parser().*pfnSet)(pDOMParser, &lstRecord));
-        return CRecordText::lines(lstRecord);
+        EXPECT_EQ(0u, (Parser().*pfnSet)(oXml.parser(), &lstRecord));
+        return CRecordText::list(lstRecord);
     };
 }
 

@@ -21,216 +21,158 @@ namespace
 using xercesc::DOMElement;
 using xercesc::XercesDOMParser;
 
-constexpr const char* NO_LOOKUP = "DOMElement::getElementsByTagName failed :";
-constexpr const char* NO_DOC    = "XercesDOMParser::getDocument failed :";
-
-// An operation under test, with a list of its own or without one.
-template <typename Source>
-using Call = std::function<std::uint32_t(Source*, bool bList)>;
-
-template <typename Parser, typename Record, typename Source>
-Call<Source> call(std::uint32_t (Parser::*pfn)(Source*, std::list<Record>*))
+// Becomes whatever argument an operation asks for.
+struct StArguments
 {
-    return [pfn](Source* pSource, bool bList)
+    XercesDOMParser*  pDOMParser;
+    const DOMElement* pElement;
+    bool              bList;
+
+    operator XercesDOMParser*() const { return pDOMParser; }
+    operator const DOMElement*() const { return pElement; }
+    operator const char16_t*() const { return u"Parameter"; }
+    operator std::int32_t() const { return 2; }
+    operator EnCheckReportType() const { return EnCheckReportNone; }
+    operator std::string&() const { return out<std::string>(); }
+    template <typename Record>
+    operator std::list<Record>&() const
     {
-        std::list<Record> lstOut;
-        return (Parser().*pfn)(pSource, bList ? &lstOut : nullptr);
-    };
-}
-template <typename Parser, typename Out>
-Call<const DOMElement> call(std::uint32_t (Parser::*pfn)(const DOMElement*, Out&))
-{
-    return [pfn](const DOMElement* pElement, bool /*bList*/)
+        return out<std::list<Record>>();
+    }
+    template <typename Record>
+    operator std::list<Record>*() const
     {
-        Out oOut;
-        return (Parser().*pfn)(pElement, oOut);
-    };
-}
-
-// Checks code and log of one failing call. An empty text expects neither.
-void expectFailure(std::uint32_t ulResult, std::uint32_t ulExpected, const std::string& strPlace, const char* pszText)
-{
-    const bool bLogs = pszText != nullptr;
-    EXPECT_EQ(ulExpected, ulResult);
-    EXPECT_EQ(bLogs ? Lines{fmt::format("E {:08X} {} [DCServer]{}", ulExpected != 0 ? ulExpected : DC_RESULT_XML_ERROR,
-                                        strPlace, pszText)}
-                    : Lines{},
-              logLinesWithPlace());
-    clearLog();
-}
-
-struct StEntryCase
-{
-    const char*           pszName; // Class::operation, as in the log
-    Call<XercesDOMParser> fnCall;
-    const char*           pszNoParser;
-    const char*           pszNoList; // null: answered by the readers below
-    const char*           pszNoDocument;
-    std::uint32_t         ulNoArgument = DC_RESULT_XML_ERROR;
+        return bList ? &out<std::list<Record>>() : nullptr;
+    }
+    template <typename Out>
+    static Out& out()
+    {
+        static Out oOut;
+        return oOut;
+    }
 };
 
-const StEntryCase ENTRIES[] = {
-    {"CDevOpXMLConfig::setDevOperXMLConfig", call(&CDevOpXMLConfig::setDevOperXMLConfig),
+using Call = std::function<std::uint32_t(const StArguments&)>;
+
+template <typename Parser, typename... Args>
+Call call(std::uint32_t (Parser::*pfn)(Args...))
+{
+    return [pfn](const StArguments& st) { return (Parser().*pfn)(static_cast<Args>(st)...); };
+}
+#define CALL(type, operation) #type "::" #operation, call(&type::operation)
+
+struct StFailureCase
+{
+    const char*   pszName; // Class::operation, as in the log
+    Call          fnCall;
+    const char*   pszNoSource;  // the parser or the element is null
+    const char*   pszNoList;    // null: takes a reference, or leaves it to the readers
+    const char*   pszNoContent; // the parser has no document, or the element cannot be looked through
+    std::uint32_t ulNoArgument = DC_RESULT_XML_ERROR;
+    std::uint32_t ulNoContent  = DC_RESULT_XML_ERROR;
+};
+
+constexpr const char* LOOKUP = "DOMElement::getElementsByTagName failed :";
+constexpr const char* NO_DOC = "XercesDOMParser::getDocument failed :";
+
+const StFailureCase CASES[] = {
+    {CALL(CDevOpXMLConfig, setDevOperXMLConfig),
      "DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: ", nullptr, NO_DOC},
-    {"CDevOpXMLConfig::setTaskOperationXMLConfig", call(&CDevOpXMLConfig::setTaskOperationXMLConfig),
+    {CALL(CDevOpXMLConfig, setTaskOperationXMLConfig),
      "CDevOpXMLConfig::setTaskOperationXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
-    {"CDevOpXMLConfig::setPatchOperXMLConfig", call(&CDevOpXMLConfig::setPatchOperXMLConfig),
+    {CALL(CDevOpXMLConfig, setPatchOperXMLConfig),
      "CDevOpXMLConfig::setPatchOperXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
-    {"CCheckOpXMLConfig::setCheckOpConfiguration", call(&CCheckOpXMLConfig::setCheckOpConfiguration),
-     "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
-    {"CCheckOpXMLConfig::setFixedCheckOpConfiguration", call(&CCheckOpXMLConfig::setFixedCheckOpConfiguration),
-     "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
-    {"CCheckOpXMLConfig::setCheckOpConfigurationTelnet",
-     [](XercesDOMParser* pDOMParser, bool bList)
-     {
-         std::list<StAsnCheckOperationDef> lstOut;
-         return CCheckOpXMLConfig().setCheckOpConfigurationTelnet(pDOMParser, bList ? &lstOut : nullptr,
-                                                                  EnCheckReportNone);
-     },
-     "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
-    {"CCustomOpXMLConfig::setCustomOperXMLConfig", call(&CCustomOpXMLConfig::setCustomOperXMLConfig),
-     "pDOMParser is NULL.", nullptr, NO_DOC},
-    {"COtherOpXMLConfig::setOtherOperXMLConfig", call(&COtherOpXMLConfig::setOtherOperXMLConfig),
-     "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnOtherOperationLst", NO_DOC,
-     DC_RESULT_INVALID_PARA},
-    {"CUpgradeOpXMLConfig::setUpgradeOperXMLConfig", call(&CUpgradeOpXMLConfig::setUpgradeOperXMLConfig),
-     "pDOMParser is null.", NO_LOOKUP, NO_DOC},
-    {"CDevViewPopupMenuConfig::setDevViewPopupMenuConfig", call(&CDevViewPopupMenuConfig::setDevViewPopupMenuConfig),
-     NO_DOC, nullptr, NO_DOC},
-    {"CDevViewPopupMenuConfig::setDevViewTabConfig", call(&CDevViewPopupMenuConfig::setDevViewTabConfig), NO_DOC,
-     nullptr, NO_DOC},
-    {"CIsolationViewPopupMenuConfig::setIsolationViewPopupMenuConfig",
-     call(&CIsolationViewPopupMenuConfig::setIsolationViewPopupMenuConfig), "pDOMParser is null.", nullptr,
+    {CALL(CCheckOpXMLConfig, setCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
      "XercesDOMParser::getDocument failed."},
-    {"CPatchXMLConfig::setPatchStateConfiguraion", call(&CPatchXMLConfig::setPatchStateConfiguraion),
-     "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnPatchStateConfigLst", NO_DOC},
-    {"CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig",
-     call(&CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig), "Invalid para. NULL pointer.pDOMParser",
+    {CALL(CCheckOpXMLConfig, setFixedCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
+     "XercesDOMParser::getDocument failed."},
+    {CALL(CCheckOpXMLConfig, setCheckOpConfigurationTelnet), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
+     "XercesDOMParser::getDocument failed."},
+    {CALL(CCustomOpXMLConfig, setCustomOperXMLConfig), "pDOMParser is NULL.", nullptr, NO_DOC},
+    {CALL(COtherOpXMLConfig, setOtherOperXMLConfig), "Invalid para. NULL pointer.pDOMParser",
+     "Invalid para. NULL pointer. pAsnOtherOperationLst", NO_DOC, DC_RESULT_INVALID_PARA},
+    {CALL(CUpgradeOpXMLConfig, setUpgradeOperXMLConfig), "pDOMParser is null.", LOOKUP, NO_DOC},
+    {CALL(CDevViewPopupMenuConfig, setDevViewPopupMenuConfig), NO_DOC, nullptr, NO_DOC},
+    {CALL(CDevViewPopupMenuConfig, setDevViewTabConfig), NO_DOC, nullptr, NO_DOC},
+    {CALL(CIsolationViewPopupMenuConfig, setIsolationViewPopupMenuConfig), "pDOMParser is null.", nullptr,
+     "XercesDOMParser::getDocument failed."},
+    {CALL(CPatchXMLConfig, setPatchStateConfiguraion), "Invalid para. NULL pointer.pDOMParser",
+     "Invalid para. NULL pointer. pAsnPatchStateConfigLst", NO_DOC},
+    {CALL(CPatchViewPopupMenuConfig, setPatchViewPopupMenuConfig), "Invalid para. NULL pointer.pDOMParser",
      "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", NO_DOC},
-    {"CTaskXMLConfig::setTaskConfiguration", call(&CTaskXMLConfig::setTaskConfiguration), NO_DOC, NO_LOOKUP, NO_DOC},
+    {CALL(CTaskXMLConfig, setTaskConfiguration), NO_DOC, LOOKUP, NO_DOC},
+    // The readers of one element.
+    {CALL(CDevOpXMLConfig, fillDevOperInfo), "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
+     "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
+     "DOMElement::getElementsByTagName failed"},
+    {CALL(CDevOpXMLConfig, fillTaskOperInfo),
+     "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
+     "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
+     "DOMElement::getElementsByTagName failed."},
+    {CALL(CDevOpXMLConfig, fillPatchOperInfo),
+     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
+     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
+     "DOMElement::getElementsByTagName failed."},
+    {CALL(CDevOpXMLConfig, fillOperParaInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CDevOpXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CDevOpXMLConfig, fillTaskConfigInfoOperation), LOOKUP, nullptr, LOOKUP},
+    {CALL(CCheckOpXMLConfig, fillCheckOperInfo), "pOperElm is null.", "oAsnCheckOperationLst is null.",
+     "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillCheckType), "pOperElm is null.", " pParaLst is null.", " pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillCheckTypeTelnet), "pElmCheckType is null.", "pCheckItemLst is null.",
+     "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillFixedCheckType), "pElmCheckType is null.", "oAsnCheckOperationLst is null.",
+     "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillFixedCheckItem), "pElmCheckOperation is null.", "pCheckItemLst is null.",
+     "pParaLst is null."},
+    {CALL(CCustomOpXMLConfig, fillCustomOper), LOOKUP, LOOKUP, LOOKUP},
+    {CALL(CCustomOpXMLConfig, fillResourceClass), LOOKUP, nullptr, LOOKUP},
+    {CALL(CUpgradeOpXMLConfig, fillUpgradeOperInfo), LOOKUP, LOOKUP, LOOKUP},
+    {CALL(CUpgradeOpXMLConfig, fillSubOperType), LOOKUP, nullptr, LOOKUP},
+    {CALL(CUpgradeOpXMLConfig, fillSubParaType), LOOKUP, nullptr, LOOKUP},
+    {CALL(CUpgradeOpXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CDevViewPopupMenuConfig, fillDevViewPopUpMenu),
+     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
+     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
+     "DOMElement::getElementsByTagName failed."},
+    {CALL(CIsolationViewPopupMenuConfig, fillIsolationViewPopUpMenu),
+     "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
+     "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
+     "DOMElement::getElementsByTagName failed."},
+    {CALL(CPatchXMLConfig, fillPatchType), LOOKUP, "Invalid para. NULL pointer. pAsnPatchStateConfigLst",
+     "Invalid para. NULL pointer. pParaLst1"},
+    {CALL(CPatchXMLConfig, fillPatchState), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
+    {CALL(CPatchXMLConfig, fillPatchItem), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
+    {CALL(CPatchViewPopupMenuConfig, fillPatchTypeInfo), "Invalid para. NULL pointer. pOperElm.",
+     "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", "Invalid para. NULL pointer. pParaLst"},
+    {CALL(CPatchViewPopupMenuConfig, fillMenuOperLst), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
+    {CALL(CTaskXMLConfig, fillTaskOperInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CTaskXMLConfig, fillTaskFeatureConfigInfo), "DOMElement::getElementsByTagName failed:", nullptr,
+     "DOMElement::getElementsByTagName failed:"},
 };
 
-TEST(SectionFailureTest, EntriesNameWhatIsMissing)
+TEST(SectionFailureTest, NamesWhatIsMissing)
 {
     CUnparsedXml oUnparsed;
     CParsedXml   oParsed("");
-    for (const StEntryCase& stCase : ENTRIES)
+    CForeignXml  oForeign(nested("X", 17));
+    for (const StFailureCase& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);
-        expectFailure(stCase.fnCall(nullptr, true), stCase.ulNoArgument, stCase.pszName, stCase.pszNoParser);
-        expectFailure(stCase.fnCall(oUnparsed.parser(), true), DC_RESULT_XML_ERROR, stCase.pszName,
-                      stCase.pszNoDocument);
-        expectFailure(stCase.fnCall(oParsed.parser(), false), stCase.pszNoList == nullptr ? 0 : stCase.ulNoArgument,
-                      stCase.pszName, stCase.pszNoList);
-    }
-}
-
-struct StFillCase
-{
-    const char*            pszName;
-    Call<const DOMElement> fnCall;
-    const char*            pszNoElement;
-    const char*            pszNoList; // null: takes a reference
-    const char*            pszNoLookup;
-    std::uint32_t          ulNoLookup = DC_RESULT_XML_ERROR;
-};
-
-// A call of an operation that takes one argument more.
-template <typename Record, typename Between>
-Call<const DOMElement> callWith(std::uint32_t (CCheckOpXMLConfig::*pfn)(const DOMElement*, Between, std::list<Record>*),
-                                Between between)
-{
-    return [pfn, between](const DOMElement* pElement, bool bList)
-    {
-        std::list<Record> lstOut;
-        return (CCheckOpXMLConfig().*pfn)(pElement, between, bList ? &lstOut : nullptr);
-    };
-}
-template <typename Record>
-Call<const DOMElement> callNamed(std::uint32_t (CUpgradeOpXMLConfig::*pfn)(const DOMElement*, const char16_t*,
-                                                                           std::list<Record>&))
-{
-    return [pfn](const DOMElement* pElement, bool /*bList*/)
-    {
-        std::list<Record> lstOut;
-        return (CUpgradeOpXMLConfig().*pfn)(pElement, u"X", lstOut);
-    };
-}
-
-const char16_t* const PARAMETER = u"Parameter";
-const StFillCase      FILLS[]   = {
-           {"CDevOpXMLConfig::fillDevOperInfo", call(&CDevOpXMLConfig::fillDevOperInfo),
-            "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
-            "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
-            "DOMElement::getElementsByTagName failed"},
-           {"CDevOpXMLConfig::fillTaskOperInfo", call(&CDevOpXMLConfig::fillTaskOperInfo),
-            "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
-            "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
-            "DOMElement::getElementsByTagName failed."},
-           {"CDevOpXMLConfig::fillPatchOperInfo", call(&CDevOpXMLConfig::fillPatchOperInfo),
-            "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
-            "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
-            "DOMElement::getElementsByTagName failed."},
-           {"CDevOpXMLConfig::fillOperParaInfo", call(&CDevOpXMLConfig::fillOperParaInfo), NO_LOOKUP, nullptr, NO_LOOKUP},
-           {"CDevOpXMLConfig::fillOperOptionInfo", call(&CDevOpXMLConfig::fillOperOptionInfo), NO_LOOKUP, nullptr, NO_LOOKUP},
-           {"CDevOpXMLConfig::fillTaskConfigInfoOperation", call(&CDevOpXMLConfig::fillTaskConfigInfoOperation), NO_LOOKUP,
-            nullptr, NO_LOOKUP},
-           {"CCheckOpXMLConfig::fillCheckOperInfo", call(&CCheckOpXMLConfig::fillCheckOperInfo), "pOperElm is null.",
-            "oAsnCheckOperationLst is null.", "pParaLst is null."},
-           {"CCheckOpXMLConfig::fillCheckType", callWith(&CCheckOpXMLConfig::fillCheckType, PARAMETER), "pOperElm is null.",
-            " pParaLst is null.", " pParaLst is null."},
-           {"CCheckOpXMLConfig::fillCheckTypeTelnet", callWith(&CCheckOpXMLConfig::fillCheckTypeTelnet, PARAMETER),
-            "pElmCheckType is null.", "pCheckItemLst is null.", "pParaLst is null."},
-           {"CCheckOpXMLConfig::fillFixedCheckType", callWith(&CCheckOpXMLConfig::fillFixedCheckType, 2),
-            "pElmCheckType is null.", "oAsnCheckOperationLst is null.", "pParaLst is null."},
-           {"CCheckOpXMLConfig::fillFixedCheckItem", call(&CCheckOpXMLConfig::fillFixedCheckItem),
-            "pElmCheckOperation is null.", "pCheckItemLst is null.", "pParaLst is null."},
-           {"CCustomOpXMLConfig::fillCustomOper", call(&CCustomOpXMLConfig::fillCustomOper), NO_LOOKUP, NO_LOOKUP, NO_LOOKUP},
-           {"CCustomOpXMLConfig::fillResourceClass", call(&CCustomOpXMLConfig::fillResourceClass), NO_LOOKUP, nullptr,
-            NO_LOOKUP},
-           {"CUpgradeOpXMLConfig::fillUpgradeOperInfo", call(&CUpgradeOpXMLConfig::fillUpgradeOperInfo), NO_LOOKUP, NO_LOOKUP,
-            NO_LOOKUP},
-           {"CUpgradeOpXMLConfig::fillSubOperType", callNamed(&CUpgradeOpXMLConfig::fillSubOperType), NO_LOOKUP, nullptr,
-            NO_LOOKUP},
-           {"CUpgradeOpXMLConfig::fillSubParaType", callNamed(&CUpgradeOpXMLConfig::fillSubParaType), NO_LOOKUP, nullptr,
-            NO_LOOKUP},
-           {"CUpgradeOpXMLConfig::fillOperOptionInfo", call(&CUpgradeOpXMLConfig::fillOperOptionInfo), NO_LOOKUP, nullptr,
-            NO_LOOKUP},
-           {"CDevViewPopupMenuConfig::fillDevViewPopUpMenu", call(&CDevViewPopupMenuConfig::fillDevViewPopUpMenu),
-            "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
-            "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
-            "DOMElement::getElementsByTagName failed."},
-           {"CIsolationViewPopupMenuConfig::fillIsolationViewPopUpMenu",
-            call(&CIsolationViewPopupMenuConfig::fillIsolationViewPopUpMenu),
-            "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
-            "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
-            "DOMElement::getElementsByTagName failed."},
-           {"CPatchXMLConfig::fillPatchType", call(&CPatchXMLConfig::fillPatchType), NO_LOOKUP,
-            "Invalid para. NULL pointer. pAsnPatchStateConfigLst", "Invalid para. NULL pointer. pParaLst1"},
-           {"CPatchXMLConfig::fillPatchState", call(&CPatchXMLConfig::fillPatchState), NO_LOOKUP, NO_LOOKUP, NO_LOOKUP, 0},
-           {"CPatchXMLConfig::fillPatchItem", call(&CPatchXMLConfig::fillPatchItem), NO_LOOKUP, NO_LOOKUP, NO_LOOKUP, 0},
-           {"CPatchViewPopupMenuConfig::fillPatchTypeInfo", call(&CPatchViewPopupMenuConfig::fillPatchTypeInfo),
-            "Invalid para. NULL pointer. pOperElm.", "Invalid para. NULL pointer. pAsnPatchViewMenuOpList",
-            "Invalid para. NULL pointer. pParaLst"},
-           {"CPatchViewPopupMenuConfig::fillMenuOperLst", call(&CPatchViewPopupMenuConfig::fillMenuOperLst), NO_LOOKUP,
-            NO_LOOKUP, NO_LOOKUP, 0},
-           {"CTaskXMLConfig::fillTaskOperInfo", call(&CTaskXMLConfig::fillTaskOperInfo), NO_LOOKUP, nullptr, NO_LOOKUP},
-           {"CTaskXMLConfig::fillTaskFeatureConfigInfo", call(&CTaskXMLConfig::fillTaskFeatureConfigInfo),
-            "DOMElement::getElementsByTagName failed:", nullptr, "DOMElement::getElementsByTagName failed:"},
-};
-
-TEST(SectionFailureTest, ReadersNameWhatIsMissing)
-{
-    CParsedXml  oParsed("");
-    CForeignXml oForeign(nested("X", 17));
-    for (const StFillCase& stCase : FILLS)
-    {
-        SCOPED_TRACE(stCase.pszName);
-        expectFailure(stCase.fnCall(nullptr, true), DC_RESULT_XML_ERROR, stCase.pszName, stCase.pszNoElement);
-        expectFailure(stCase.fnCall(oParsed.root(), false), stCase.pszNoList == nullptr ? 0 : DC_RESULT_XML_ERROR,
-                      stCase.pszName, stCase.pszNoList);
-        expectFailure(stCase.fnCall(oForeign.innermost(u"X"), true), stCase.ulNoLookup, stCase.pszName,
-                      stCase.pszNoLookup);
+        const auto fnExpect = [&](const StArguments& stArguments, std::uint32_t ulCode, const char* pszText)
+        {
+            EXPECT_EQ(ulCode, stCase.fnCall(stArguments));
+            std::vector<std::string> lstLine;
+            if (pszText != nullptr)
+                lstLine = {fmt::format("E {:08X} {} [DCServer]{}", ulCode != 0 ? ulCode : DC_RESULT_XML_ERROR,
+                                       stCase.pszName, pszText)};
+            EXPECT_EQ(lstLine, logLinesWithPlace());
+            clearLog();
+        };
+        fnExpect({nullptr, nullptr, true}, stCase.ulNoArgument, stCase.pszNoSource);
+        fnExpect({oParsed.parser(), oParsed.root(), false}, stCase.pszNoList == nullptr ? 0 : stCase.ulNoArgument,
+                 stCase.pszNoList);
+        fnExpect({oUnparsed.parser(), oForeign.innermost(u"X"), true}, stCase.ulNoContent, stCase.pszNoContent);
     }
 }
 
@@ -241,6 +183,6 @@ TEST(SectionFailureTest, CustomOperationsWithoutAListAreSaidPerSection)
     EXPECT_EQ(0u, CCustomOpXMLConfig().setCustomOperXMLConfig(oXml.parser(), nullptr));
     const std::string strLine =
         "E 3B0004EC CCustomOpXMLConfig::setCustomOperXMLConfig [DCServer]pAsnCustomOperationList is NULL.";
-    EXPECT_EQ((Lines{strLine, strLine}), logLinesWithPlace());
+    EXPECT_THAT(logLinesWithPlace(), testing::ElementsAre(strLine, strLine));
 }
 } // namespace

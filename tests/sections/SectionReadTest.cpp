@@ -14,243 +14,189 @@
 
 namespace
 {
-const SectionReader DEVICE     = section(&CDevOpXMLConfig::setDevOperXMLConfig);
-const SectionReader TASK       = section(&CDevOpXMLConfig::setTaskOperationXMLConfig);
-const SectionReader PATCH      = section(&CDevOpXMLConfig::setPatchOperXMLConfig);
-const SectionReader CHECK      = section(&CCheckOpXMLConfig::setCheckOpConfiguration);
-const SectionReader FIXED      = section(&CCheckOpXMLConfig::setFixedCheckOpConfiguration);
-const SectionReader CUSTOM     = section(&CCustomOpXMLConfig::setCustomOperXMLConfig);
-const SectionReader OTHER      = section(&COtherOpXMLConfig::setOtherOperXMLConfig);
-const SectionReader UPGRADE    = section(&CUpgradeOpXMLConfig::setUpgradeOperXMLConfig);
-const SectionReader MENU       = section(&CDevViewPopupMenuConfig::setDevViewPopupMenuConfig);
-const SectionReader TAB        = section(&CDevViewPopupMenuConfig::setDevViewTabConfig);
-const SectionReader ISOLATION  = section(&CIsolationViewPopupMenuConfig::setIsolationViewPopupMenuConfig);
-const SectionReader STATES     = section(&CPatchXMLConfig::setPatchStateConfiguraion);
-const SectionReader PATCH_MENU = section(&CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig);
-const SectionReader TASK_TYPE  = section(&CTaskXMLConfig::setTaskConfiguration);
-const SectionReader TELNET     = [](xercesc::XercesDOMParser* pDOMParser)
+// Reads what stands below one element of the section's name.
+template <typename Set>
+SectionReader within(const std::string& strTag, Set pfnSet)
 {
-    std::list<StAsnCheckOperationDef> lstCheck;
-    EXPECT_EQ(0u, CCheckOpXMLConfig().setCheckOpConfigurationTelnet(pDOMParser, &lstCheck, EnCheckReportText));
-    return CRecordText::lines(lstCheck);
+    const SectionReader fnRead = section(pfnSet);
+    return [=](const std::string& strXml) { return fnRead("<" + strTag + ">" + strXml + "</" + strTag + ">"); };
+}
+
+struct CTelnetCheck : CCheckOpXMLConfig
+{
+    std::uint32_t set(xercesc::XercesDOMParser* pDOMParser, std::list<StAsnCheckOperationDef>* pLstOut)
+    {
+        return setCheckOpConfigurationTelnet(pDOMParser, pLstOut, EnCheckReportText);
+    }
 };
+
+const SectionReader DEVICE     = within("DeviceOperation", &CDevOpXMLConfig::setDevOperXMLConfig);
+const SectionReader TASK       = within("TaskOperation", &CDevOpXMLConfig::setTaskOperationXMLConfig);
+const SectionReader PATCH      = within("PatchOperation", &CDevOpXMLConfig::setPatchOperXMLConfig);
+const SectionReader CHECK      = within("CheckOperations", &CCheckOpXMLConfig::setCheckOpConfiguration);
+const SectionReader FIXED      = within("DeviceType", &CCheckOpXMLConfig::setFixedCheckOpConfiguration);
+const SectionReader TELNET     = within("DeviceType", &CTelnetCheck::set);
+const SectionReader CUSTOM     = within("CustomOperations", &CCustomOpXMLConfig::setCustomOperXMLConfig);
+const SectionReader OTHER      = section(&COtherOpXMLConfig::setOtherOperXMLConfig);
+const SectionReader UPGRADE    = within("UpgradeOperation", &CUpgradeOpXMLConfig::setUpgradeOperXMLConfig);
+const SectionReader MENU       = section(&CDevViewPopupMenuConfig::setDevViewPopupMenuConfig);
+const SectionReader TAB        = within("DeviceViewTab", &CDevViewPopupMenuConfig::setDevViewTabConfig);
+const SectionReader ISOLATION  = section(&CIsolationViewPopupMenuConfig::setIsolationViewPopupMenuConfig);
+const SectionReader STATES     = within("PatchStateConfiguration", &CPatchXMLConfig::setPatchStateConfiguraion);
+const SectionReader PATCH_MENU = within("PatchViewPopupMenu", &CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig);
+const SectionReader TASK_TYPE  = section(&CTaskXMLConfig::setTaskConfiguration);
 
 struct StReadCase
 {
     const char*   pszName;
     SectionReader fnRead;
     const char*   pszXml;
-    Lines         lstRecord;
-};
-class SectionReadTest : public testing::TestWithParam<StReadCase>
-{
+    const char*   pszRecords;
 };
 
-TEST_P(SectionReadTest, MakesTheseRecords)
-{
-    CParsedXml oXml(GetParam().pszXml);
-    EXPECT_EQ(GetParam().lstRecord, GetParam().fnRead(oXml.parser()));
-    EXPECT_THAT(logLines(), testing::IsEmpty());
-}
-
-#define INSTANTIATE_READ(rule, ...)                                                                                    \
-    INSTANTIATE_TEST_SUITE_P(rule, SectionReadTest, testing::ValuesIn(std::vector<StReadCase>{__VA_ARGS__}),           \
-                             rowName<StReadCase>)
-
-// Every attribute reaches its field, and the element after a full one starts afresh.
-INSTANTIATE_READ(
-    EveryField,
-    {"Device",
-     DEVICE,
-     "<DeviceOperation><Operation id='Backup' operationLevel='Both' isCancelable='1'>"
-     "<Parameter id='Content' value='v' isRequired='1' selected='0'><Option id='cfg' value='3' target='t'/></Parameter>"
-     "</Operation><Operation><Parameter><Option/></Parameter></Operation></DeviceOperation>",
-     {"Backup|1|2|[Content|v|1|0|[cfg|3|t]]|0|0", "|0|0|[||0||[|0|]]|0|0"}},
-    {"PatchIsNeverCancelable",
-     PATCH,
-     "<PatchOperation><Operation id='LoadPatch' operationLevel='BoardLevel' isCancelable='1'/></PatchOperation>",
-     {"LoadPatch|0|1|[]|0|0"}},
-    {"Check",
-     CHECK,
-     "<CheckOperations><Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'>"
-     "<Parameter id='cpu' description='d' cmdKey='k' subItemFrom='s' selected='1' isCompare='1' compareType='-1' "
-     "compareParam='p'><SubItem id='sub' compareType='4'/></Parameter></Operation><Operation/></CheckOperations>",
-     {"PreCheck|1|-1|[cpu|d|k|s|-1|p|1|1|0|[sub||||4||0|0|0|[]|]|]|1", "|0|-1|[]|0"}},
-    {"TelnetFile",
-     TELNET,
-     "<DeviceType><TaskType id='PackageDowngrade'><PostCheck/>"
-     "<PreCheck operationLevel='Both' isCancelable='1'><Parameter id='cpu' description='d' cmdKey='k' subItemFrom='s' "
-     "isCompare='1' compareType='2' compareParam='p' checked='true' GUI='true'><SubItem id='sub'/></Parameter>"
-     "</PreCheck></TaskType></DeviceType>",
-     {"PreCheck|2|9|[cpu|d|k|s|2|p|1|1|0|[sub||||0||0|0|0|[]|]|]|1", "PostCheck|0|9|[]|0"}},
-    {"FixedFile",
-     FIXED,
-     "<DeviceType><TaskType id='PatchUpdate'><Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'>"
-     "<Parameter id='power' description='d' selected='1' cmdKey='not read'/><Parameter id='fan'/></Operation>"
-     "<Operation id='PostCheck'/></TaskType></DeviceType>",
-     {"PreCheck|1|2|[power|d|||0||1|0|0|[]|, fan||||0||0|0|1|[]|]|1", "PostCheck|0|2|[]|0"}},
-    {"Custom",
-     CUSTOM,
-     "<CustomOperations><Operation id='Wizard' shortcutkey='W' AvailableIn='Tab' operationLevel='Both'>"
-     "<ResouceClass filename='a.xml'/></Operation><Operation/></CustomOperations>",
-     {"Wizard|a.xml|W|2|1", "|||0|0"}},
-    {"Other",
-     OTHER,
+const StReadCase CASES[] = {
+    // Every attribute reaches its field, and the element after a full one starts afresh.
+    {"Device", DEVICE,
+     "<Operation id='Backup' operationLevel='Both' isCancelable='1'><Parameter id='p' value='v' isRequired='1' "
+     "selected='0'><Option id='cfg' value='3' target='t'/></Parameter></Operation><Operation><Parameter><Option/>"
+     "</Parameter></Operation>",
+     "Backup|1|2|[p|v|1|0|[cfg|3|t]]|0|0, |0|0|[||0||[|0|]]|0|0"},
+    {"PatchIsNeverCancelable", PATCH, "<Operation id='Load' operationLevel='BoardLevel' isCancelable='1'/>",
+     "Load|0|1|[]|0|0"},
+    {"Check", CHECK,
+     "<Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'><Parameter id='cpu' description='d' "
+     "cmdKey='k' subItemFrom='s' selected='1' isCompare='1' compareType='-1' compareParam='p'><SubItem id='sub' "
+     "compareType='4'/></Parameter></Operation><Operation/>",
+     "PreCheck|1|-1|[cpu|d|k|s|-1|p|1|1|0|[sub||||4||0|0|0|[]|]|]|1, |0|-1|[]|0"},
+    {"TelnetFile", TELNET,
+     "<TaskType id='PackageDowngrade'><PostCheck/><PreCheck operationLevel='Both' isCancelable='1'><Parameter "
+     "id='cpu' description='d' cmdKey='k' subItemFrom='s' isCompare='1' compareType='2' compareParam='p' "
+     "checked='true' GUI='true'><SubItem id='sub'/></Parameter></PreCheck></TaskType>",
+     "PreCheck|2|9|[cpu|d|k|s|2|p|1|1|0|[sub||||0||0|0|0|[]|]|]|1, PostCheck|0|9|[]|0"},
+    {"FixedFile", FIXED,
+     "<TaskType id='PatchUpdate'><Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'><Parameter "
+     "id='power' description='d' selected='1' cmdKey='not read'/><Parameter id='fan'/></Operation><Operation "
+     "id='PostCheck'/></TaskType>",
+     "PreCheck|1|2|[power|d|||0||1|0|0|[]|, fan||||0||0|0|1|[]|]|1, PostCheck|0|2|[]|0"},
+    {"Custom", CUSTOM,
+     "<Operation id='Wizard' shortcutkey='W' AvailableIn='Tab' operationLevel='Both'><ResouceClass filename='a'/>"
+     "</Operation><Operation/>",
+     "Wizard|a|W|2|1, |||0|0"},
+    {"Other", OTHER,
      "<OtherOperation id='Ftp' isSupported='1'><Parameter id='p' value='v' isRequired='1' selected='not read'>"
      "<Option id='o' value='7' target='not read'/></Parameter></OtherOperation><OtherOperation/>",
-     {"Ftp|1|[p|v|1||[o|7|]]", "|0|[]"}},
-    {"Upgrade",
-     UPGRADE,
-     "<UpgradeOperation><Operation id='Up' operationLevel='Both'><SubOperation id='s' operationLevel='BoardLevel' "
-     "operDescription='d'><Parameter id='p' isRequired='1' value='not read' selected='not read'>"
-     "<Option id='o' value='7' target='not read'/></Parameter></SubOperation><SubOperation/></Operation><Operation/>"
-     "</UpgradeOperation>",
-     {"Up|2|[s|1|[p||1||[o|7|]], |0|[]]", "|0|[]"}},
-    {"PatchStates",
-     STATES,
-     "<PatchStateConfiguration><Patch type='ColdPatch'><State name='Running'><Item type='PatchOperation' id='A'/>"
-     "</State><State/></Patch><Patch/></PatchStateConfiguration>",
-     {"1|[Running|[A|2], |[]]", "0|[]"}},
-    {"PatchMenu",
-     PATCH_MENU,
-     "<PatchViewPopupMenu><Patch type='ColdPatch'><Item type='TaskOperation' id='A'/></Patch><Patch/>"
-     "</PatchViewPopupMenu>",
-     {"1|[1|A]", "0|[]"}},
-    {"TaskTypeWithoutParameters",
-     TASK_TYPE,
+     "Ftp|1|[p|v|1||[o|7|]], |0|[]"},
+    {"Upgrade", UPGRADE,
+     "<Operation id='Up' operationLevel='Both'><SubOperation id='s' operationLevel='BoardLevel'><Parameter id='p' "
+     "isRequired='1' value='not read' selected='not read'><Option id='o' value='7' target='not read'/></Parameter>"
+     "</SubOperation><SubOperation/></Operation><Operation/>",
+     "Up|2|[s|1|[p||1||[o|7|]], |0|[]], |0|[]"},
+    {"PatchStates", STATES,
+     "<Patch type='ColdPatch'><State name='Running'><Item type='PatchOperation' "
+     "id='A'/></State><State/></Patch><Patch/>",
+     "1|[Running|[A|2], |[]], 0|[]"},
+    {"PatchMenu", PATCH_MENU, "<Patch type='ColdPatch'><Item type='TaskOperation' id='A'/></Patch><Patch/>",
+     "1|[1|A], 0|[]"},
+    {"TaskTypeWithoutParameters", TASK_TYPE,
      "<TaskType id='PatchUpdate' GUITemplete='g'><Operation><TaskConfigOper type='PatchOperation' id='i' dependsOn='d' "
      "operDescription='o' isSelect='TRUE' isPauseBeforeOP='no'/><TaskConfigOper/></Operation><TaskFeatureConfiguration>"
      "<Configuration id='f' isSupported='1'/><Configuration/></TaskFeatureConfiguration></TaskType>",
-     {"2|g|[||0||[]|[2|i|d|o|TRUE|no, 6|||||]|[f|1|[], |0|[]]]"}},
-    {"TaskTypeWithParameters",
-     TASK_TYPE,
+     "2|g|[||0||[]|[2|i|d|o|TRUE|no, 6|||||]|[f|1|[], |0|[]]]"},
+    {"TaskTypeWithParameters", TASK_TYPE,
      "<TaskType id='SoftwareUpgrade'><Parameter id='p' value='v' isRequired='1' selected='not read'>"
      "<Option id='o' value='1' target='t'/><TaskConfigOper id='s'/><TaskFeatureConfiguration><Configuration id='f'/>"
      "</TaskFeatureConfiguration></Parameter><Parameter/></TaskType>",
-     {"0||[p|v|1||[o|1|t]|[6|s||||]|[], ||0||[]|[]|[]]"}},
-    {"TaskTypeWithBareSteps",
-     TASK_TYPE,
-     "<TaskType id='SoftwareUpgrade'><TaskConfigOper id='s'/></TaskType>",
-     {"0||[||0||[]|[6|s||||]|[]]"}});
+     "0||[p|v|1||[o|1|t]|[6|s||||]|[], ||0||[]|[]|[]]"},
 
-// Words are compared whole and with their case; what an unknown one gives differs.
-INSTANTIATE_READ(
-    Words,
-    {"Levels",
-     TASK,
-     "<TaskOperation><Operation operationLevel='DeviceLevel'/><Operation operationLevel='BoardLevel'/>"
-     "<Operation operationLevel='Both'/><Operation operationLevel='both'/><Operation operationLevel='Both '/>"
-     "</TaskOperation>",
-     {"|0|0|[]|0|0", "|0|1|[]|0|0", "|0|2|[]|0|0", "|0|0|[]|0|0", "|0|0|[]|0|0"}},
-    {"AvailableIn",
-     CUSTOM,
-     "<CustomOperations><Operation AvailableIn='PopupMenu'/><Operation AvailableIn='Tab'/>"
-     "<Operation AvailableIn='createTaskDialog'/><Operation AvailableIn='modifyTaskDialog'/>"
-     "<Operation AvailableIn='viewTaskDialog'/><Operation AvailableIn='tab'/></CustomOperations>",
-     {"|||0|0", "|||0|1", "|||0|2", "|||0|3", "|||0|4", "|||0|0"}},
-    {"PatchTypes",
-     PATCH_MENU,
-     "<PatchViewPopupMenu><Patch type='HotPatch'/><Patch type='ColdPatch'/><Patch type='coldpatch'/>"
-     "</PatchViewPopupMenu>",
-     {"0|[]", "1|[]", "0|[]"}},
-    {"DeviceViewKinds",
-     TAB,
-     "<DeviceViewTab><Item type='DeviceOperation'/><Item type='TaskOperation'/><Item type='PatchOperation'/>"
-     "<Item type='CheckOperation'/><Item type='CustomOperation'/><Item type='OtherOperation'/>"
-     "<Item type='BoardOperation'/><Item type='deviceOperation'/><Item/></DeviceViewTab>",
-     {"0|", "1|", "2|", "3|", "4|", "5|", "6|", "6|", "6|"}},
-    {"IsolationKinds",
-     ISOLATION,
+    // Words are compared whole and with their case; what an unknown one gives differs.
+    {"Levels", TASK,
+     "<Operation operationLevel='DeviceLevel'/><Operation operationLevel='BoardLevel'/><Operation "
+     "operationLevel='both'/><Operation operationLevel='Both '/>",
+     "|0|0|[]|0|0, |0|1|[]|0|0, |0|0|[]|0|0, |0|0|[]|0|0"},
+    {"AvailableIn", CUSTOM,
+     "<Operation AvailableIn='PopupMenu'/><Operation AvailableIn='createTaskDialog'/><Operation "
+     "AvailableIn='modifyTaskDialog'/><Operation AvailableIn='viewTaskDialog'/><Operation AvailableIn='tab'/>",
+     "|||0|0, |||0|2, |||0|3, |||0|4, |||0|0"},
+    {"PatchTypes", PATCH_MENU, "<Patch type='HotPatch'/><Patch type='coldpatch'/>", "0|[], 0|[]"},
+    {"DeviceViewKinds", TAB,
+     "<Item type='DeviceOperation'/><Item type='TaskOperation'/><Item type='PatchOperation'/><Item "
+     "type='CheckOperation'/><Item type='CustomOperation'/><Item type='OtherOperation'/><Item type='BoardOperation'/>"
+     "<Item type='deviceOperation'/>",
+     "0|, 1|, 2|, 3|, 4|, 5|, 6|, 6|"},
+    {"IsolationKinds", ISOLATION,
      "<DeviceViewPopupMenu><Item type='DeviceOperation'/><Item type='TaskOperation'/><Item type='BoardOperation'/>"
      "<Item type='OtherOperation' id='GetWeakBd'/></DeviceViewPopupMenu>",
-     {"0|", "1|", "7|", "6|GetWeakBd"}},
-    {"PatchItemKinds",
-     STATES,
-     "<PatchStateConfiguration><Patch><State><Item type='OtherOperation' id='GetWeakBd'/>"
-     "<Item type='BoardOperation'/></State></Patch></PatchStateConfiguration>",
-     {"0|[|[GetWeakBd|5, |6]]"}},
-    {"TaskTypesOfTheTaskConfiguration",
-     TASK_TYPE,
-     "<TaskType id='PackageDowngrade'/><TaskType id='packagedowngrade'/><TaskType/>"
-     "<TaskType id='PackageDiffusionDowngrade'/><TaskType id='OpticalModuleUpgrade'/><TaskType id='NuboMeterUpgrade'/>",
-     {"13||[||0||[]|[]|[]]", "12||[||0||[]|[]|[]]", "15||[||0||[]|[]|[]]", "16||[||0||[]|[]|[]]"}},
-    {"TaskTypesOfACheckFile",
-     FIXED,
-     "<DeviceType><TaskType id='PackageDiffusionDowngrade'><Operation/></TaskType><TaskType id='OpticalModuleUpgrade'>"
-     "<Operation/></TaskType><TaskType id='opticalmoduleupgrade'><Operation/></TaskType></DeviceType>",
-     {"|0|8|[]|0", "|0|14|[]|0", "|0|-1|[]|0"}});
+     "0|, 1|, 7|, 6|GetWeakBd"},
+    {"PatchItemKinds", STATES,
+     "<Patch><State><Item type='OtherOperation' id='GetWeakBd'/><Item type='BoardOperation'/></State></Patch>",
+     "0|[|[GetWeakBd|5, |6]]"},
+    {"TaskTypesOfTheTaskConfiguration", TASK_TYPE,
+     "<TaskType id='PackageDowngrade'/><TaskType id='packagedowngrade'/><TaskType id='PackageDiffusionDowngrade'/>"
+     "<TaskType id='OpticalModuleUpgrade'/><TaskType id='NuboMeterUpgrade'/>",
+     "13||[||0||[]|[]|[]], 12||[||0||[]|[]|[]], 15||[||0||[]|[]|[]], 16||[||0||[]|[]|[]]"},
+    {"TaskTypesOfACheckFile", FIXED,
+     "<TaskType id='PackageDiffusionDowngrade'><Operation/></TaskType><TaskType id='OpticalModuleUpgrade'>"
+     "<Operation/></TaskType><TaskType id='opticalmoduleupgrade'><Operation/></TaskType>",
+     "|0|8|[]|0, |0|14|[]|0, |0|-1|[]|0"},
 
-// Base 10, kept to 32 bits, and a flag is a number that is not 0.
-INSTANTIATE_READ(
-    Numbers,
-    {"Flags",
-     OTHER,
-     "<OtherOperation isSupported='2'/><OtherOperation isSupported='true'/><OtherOperation "
-     "isSupported=' -1x'/><OtherOperation isSupported='0x1'/><OtherOperation isSupported='4294967296'/>",
-     {"|1|[]", "|0|[]", "|1|[]", "|0|[]", "|0|[]"}},
-    {"OptionValues",
-     OTHER,
-     "<OtherOperation><Parameter isRequired='true'><Option value='15'/><Option value='4294967297'/>"
-     "<Option value='x'/></Parameter></OtherOperation>",
-     {"|0|[||0||[|15|, |1|, |0|]]"}},
-    {"SelectedOfACheckItem",
-     CHECK,
-     "<CheckOperations><Operation><Parameter selected='true' isCompare='7'/></Operation></CheckOperations>",
-     {"|0|-1|[||||0||0|1|0|[]|]|0"}});
+    // Base 10, kept to 32 bits, and a flag is a number that is not 0.
+    {"Flags", OTHER,
+     "<OtherOperation isSupported='2'/><OtherOperation isSupported='true'/><OtherOperation isSupported=' -1x'/>"
+     "<OtherOperation isSupported='0x1'/><OtherOperation isSupported='4294967296'/>",
+     "|1|[], |0|[], |1|[], |0|[], |0|[]"},
+    {"OptionValues", OTHER,
+     "<OtherOperation><Parameter isRequired='true'><Option value='4294967297'/><Option value='x'/></Parameter>"
+     "</OtherOperation>",
+     "|0|[||0||[|1|, |0|]]"},
+    {"SelectedOfACheckItem", CHECK, "<Operation><Parameter selected='true' isCompare='7'/></Operation>",
+     "|0|-1|[||||0||0|1|0|[]|]|0"},
 
-// Names are found at any depth, also inside their own kind.
-INSTANTIATE_READ(
-    AnyDepth, {"NoSection", UPGRADE, "<DeviceOperation><Operation id='o'/></DeviceOperation>", {}},
-    {"SectionsFollowEachOther",
-     MENU,
+    // Names are found at any depth, also inside their own kind.
+    {"NoSection", MENU, "<DeviceOperation><Operation id='o'/></DeviceOperation>", ""},
+    {"SectionsFollowEachOther", MENU,
      "<DeviceViewPopupMenu><Item id='a'/></DeviceViewPopupMenu><Group><DeviceViewPopupMenu><Row><Item id='b'/></Row>"
      "</DeviceViewPopupMenu></Group>",
-     {"6|a", "6|b"}},
-    {"OperationInOperation",
-     DEVICE,
-     "<DeviceOperation><Operation id='o'><Operation id='i'><Parameter id='p'/></Operation></Operation>"
-     "</DeviceOperation>",
-     {"o|0|0|[p||0||[]]|0|0", "i|0|0|[p||0||[]]|0|0"}},
-    {"SubItemInSubItem",
-     CHECK,
-     "<CheckOperations><Operation><Parameter id='p'><SubItem id='a'><SubItem id='b'/></SubItem></Parameter></Operation>"
-     "</CheckOperations>",
-     {"|0|-1|[p||||0||0|0|0|[a||||0||0|0|0|[b||||0||0|0|0|[]|]|, b||||0||0|0|1|[]|]|]|0"}},
-    {"BelowUpgradeOperations",
-     UPGRADE,
-     "<UpgradeOperation><G><Operation id='o'><G><SubOperation id='s'><G><Parameter id='p'><G><option id='x'/></G>"
-     "</Parameter></G></SubOperation></G></Operation></G></UpgradeOperation>",
-     {"o|0|[s|0|[p||0||[x|0|]]]"}},
-    {"OptionSpellings",
-     OTHER,
+     "6|a, 6|b"},
+    {"OperationInOperation", DEVICE, "<Operation id='o'><Operation id='i'><Parameter id='p'/></Operation></Operation>",
+     "o|0|0|[p||0||[]]|0|0, i|0|0|[p||0||[]]|0|0"},
+    {"SubItemInSubItem", CHECK,
+     "<Operation><Parameter id='p'><SubItem id='a'><SubItem id='b'/></SubItem></Parameter></Operation>",
+     "|0|-1|[p||||0||0|0|0|[a||||0||0|0|0|[b||||0||0|0|0|[]|]|, b||||0||0|0|1|[]|]|]|0"},
+    {"BelowUpgradeOperations", UPGRADE,
+     "<G><Operation id='o'><G><SubOperation id='s'><G><Parameter id='p'><G><option id='x'/></G></Parameter></G>"
+     "</SubOperation></G></Operation></G>",
+     "o|0|[s|0|[p||0||[x|0|]]]"},
+    {"OptionSpellings", OTHER,
      "<OtherOperation><Parameter><option id='small'/></Parameter><Parameter><option id='small'/><Option id='Big'/>"
      "</Parameter></OtherOperation>",
-     {"|0|[||0||[small|0|], ||0||[Big|0|]]"}},
-    {"LastResouceClass",
-     CUSTOM,
-     "<CustomOperations><Operation><ResouceClass filename='a'/><ResouceClass filename='b'/></Operation>"
-     "<Operation><ResouceClass filename='a'/><ResouceClass/></Operation><Operation><ResourceClass filename='a'/>"
-     "</Operation></CustomOperations>",
-     {"|b||0|0", "|||0|0", "|||0|0"}});
+     "|0|[||0||[small|0|], ||0||[Big|0|]]"},
+    {"LastResouceClass", CUSTOM,
+     "<Operation><ResouceClass filename='a'/><ResouceClass filename='b'/></Operation><Operation><ResouceClass "
+     "filename='a'/><ResouceClass/></Operation><Operation><ResourceClass filename='a'/></Operation>",
+     "|b||0|0, |||0|0, |||0|0"},
 
-// A check item that is left out keeps its position.
-INSTANTIATE_READ(
-    CheckItems,
-    {"Integated",
-     CHECK,
-     "<CheckOperations><Operation><Parameter integated='0'/><Parameter id='a' integated='1'>"
-     "<SubItem integated='true'/><SubItem id='s'/></Parameter><Parameter integated=' 1'/>"
-     "<Parameter id='b' integated=''/></Operation></CheckOperations>",
-     {"|0|-1|[a||||0||0|0|1|[s||||0||0|0|1|[]|]|, b||||0||0|0|3|[]|]|0"}},
-    {"TelnetGuiAndIntegated",
-     TELNET,
-     "<DeviceType><TaskType><PreCheck><Parameter GUI='false'/><Parameter integated='0'/>"
-     "<Parameter id='a' GUI='FALSE'><SubItem GUI='false'/></Parameter></PreCheck></TaskType></DeviceType>",
-     {"PreCheck|0|-1|[a||||0||0|0|2|[]|]|0"}},
-    {"TelnetCheckedDecidesOverSelected",
-     TELNET,
-     "<DeviceType><TaskType id='PatchUpdate'><PostCheck><Parameter checked='true'/>"
-     "<Parameter checked='false' selected='1'/><Parameter checked='1'/><Parameter selected='1'/></PostCheck>"
-     "</TaskType></DeviceType>",
-     {"PostCheck|0|2|[||||0||1|0|0|[]|, ||||0||0|0|1|[]|, ||||0||0|0|2|[]|, ||||0||1|0|3|[]|]|0"}});
+    // A check item that is left out keeps its position.
+    {"Integated", CHECK,
+     "<Operation><Parameter integated='0'/><Parameter id='a' integated='1'><SubItem integated='true'/><SubItem "
+     "id='s'/></Parameter><Parameter integated=' 1'/><Parameter id='b' integated=''/></Operation>",
+     "|0|-1|[a||||0||0|0|1|[s||||0||0|0|1|[]|]|, b||||0||0|0|3|[]|]|0"},
+    {"TelnetGuiAndIntegated", TELNET,
+     "<TaskType><PreCheck><Parameter GUI='false'/><Parameter integated='0'/><Parameter id='a' GUI='FALSE'><SubItem "
+     "GUI='false'/></Parameter></PreCheck></TaskType>",
+     "PreCheck|0|-1|[a||||0||0|0|2|[]|]|0"},
+    {"TelnetCheckedDecidesOverSelected", TELNET,
+     "<TaskType id='PatchUpdate'><PostCheck><Parameter checked='true'/><Parameter checked='false' selected='1'/>"
+     "<Parameter checked='1'/><Parameter selected='1'/></PostCheck></TaskType>",
+     "PostCheck|0|2|[||||0||1|0|0|[]|, ||||0||0|0|1|[]|, ||||0||0|0|2|[]|, ||||0||1|0|3|[]|]|0"},
+};
+
+TEST(SectionReadTest, MakesTheseRecords)
+{
+    for (const StReadCase& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.pszName);
+        EXPECT_EQ(stCase.pszRecords, stCase.fnRead(stCase.pszXml));
+        EXPECT_THAT(logLines(), testing::IsEmpty());
+    }
+}
 } // namespace
