@@ -172,7 +172,7 @@ public:
     std::uint32_t getBoardType(unsigned int ulDeviceTypeID, unsigned int ulDeviceTypeVersionID, int nBoardType,
                                std::string& strName);
 
-    // Every backup content type as "value,name;", emptied first.
+    // Every backup content type as "value,name;", emptied first once there is a record.
     std::uint32_t getAllBackupContentTypeNameByDevTypeName(const std::string& strDevType, std::string& strList,
                                                            const EnDeviceType& enDeviceType);
 

@@ -165,11 +165,11 @@ std::uint32_t CXMLConfigDatabase::getAllBackupContentTypeNameByDevTypeName(const
                                                                            const EnDeviceType& enDeviceType)
 {
     const _TraceFunction oTrace(DC_HERE);
-    strList.clear();
-    const CQueryGuard oGuard(*this);
-    const auto*       pInfo = getFirstDevTypeXMLConfig(strDevType, "");
+    const CQueryGuard    oGuard(*this);
+    const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, "");
     if (pInfo == nullptr)
         return DC_RESULT_INVALID_PARA;
+    strList.clear();
     visitParameters(pInfo->stOperationConfig.lstDevOperation, Vocabulary::OP_BACKUP, CONTENT_PARAMETER,
                     [&](const std::list<StAsnOptionInfo>& lstOption)
                     {

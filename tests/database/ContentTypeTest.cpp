@@ -88,7 +88,7 @@ TEST_F(CServerTest, ContentTypes)
         {"all elsewhere", [&](std::string& s) { return fnAll("A", EnDeviceTypeDatacom, s); }, 0,
          "1,cfg;2,log;2,log2;4294967295,big;1,late;", ""},
         {"all of nothing", [&](std::string& s) { return fnAll("B", EnDeviceTypeAccess, s); }, 0, "", ""},
-        {"all, no record", [&](std::string& s) { return fnAll("N", EnDeviceTypeAccess, s); }, INVALID, "", NO_RECORD},
+        {"all, no record", [&](std::string& s) { return fnAll("N", EnDeviceTypeAccess, s); }, INVALID, "-", NO_RECORD},
     };
     for (const auto& stCase : CASES)
     {
