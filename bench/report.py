@@ -118,7 +118,9 @@ def variant_table(runs):
 def machine(results):
     system = platform.freedesktop_os_release()["PRETTY_NAME"]
     cores = results["context"]["num_cpus"]
-    return f"Machine: {cores} cores at {results['context']['mhz_per_cpu'] / 1000:.1f} GHz, {system}; release build."
+    load = results["context"]["load_avg"][0]
+    busy = f" **It had other work at the time** (load average {load:.1f})." if load > 1.5 * cores else ""
+    return f"Machine: {cores} cores at {results['context']['mhz_per_cpu'] / 1000:.1f} GHz, {system}; release build.{busy}"
 
 
 def main():
