@@ -74,10 +74,6 @@ private:
     static Text of(const StAsnUpgradeSubOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstParameter); }
     static Text of(const StAsnUpgradeOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstSubOperation); }
     static Text of(const StAsnMenuOpDef& r) { return joined(r.enType, r.strId); }
-    static Text of(const StAsnPatchItem& r) { return joined(r.strId, r.enType); }
-    static Text of(const StAsnPatchStateDef& r) { return joined(r.strName, r.lstPatchItem); }
-    static Text of(const StAsnPatchDef& r) { return joined(r.enPatchType, r.lstPatchState); }
-    static Text of(const StAsnPatchTypeMenuDef& r) { return joined(r.enPatchType, r.lstMenuOp); }
     static Text of(const StAsnTaskOperationDef& r)
     {
         return joined(r.enType, r.strId, r.strDependsOn, r.strOperDescription, r.strIsSelect, r.strIsPauseBeforeOP);

@@ -18,6 +18,15 @@ std::string repeated(const std::string& strText, int nTimes)
 
 const std::string COUNT_UP = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n) ";
 
+// Further rows of one statement.
+std::string rows(int nRows)
+{
+    std::string strOut;
+    for (int nRow = 1; nRow <= nRows; ++nRow)
+        strOut += ",(" + std::to_string(nRow) + ",'X','V1','','')";
+    return strOut;
+}
+
 // The message of opening a root with this script.
 std::string problemOf(const std::string& strSql)
 {
@@ -33,11 +42,10 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"", ""},
         {"-- a\n/* b; */ ;;", ""},
         {"\xEF\xBB\xBFINSERT INTO setting VALUES('a','b');", ""},
-        {"BEGIN; INSERT INTO setting VALUES('a','b'); COMMIT", ""},
         {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n LIMIT 5000) "
          "INSERT INTO device_type(position, name, version) SELECT i, 'T' || i, 'V1' FROM n;",
          ""},
-        {"INSERT INTO capacity VALUES(NULL,'X','V1','','',0)" + repeated(",(NULL,'X','V1','S1','P1',1)", 5000), ""},
+        {"INSERT INTO version_in_service VALUES(0,'X','V1','','')" + rows(5000), ""},
         // Statements.
         {"-- types\n\nINSERT INTO\n  device_typ VALUES(1,\t'x');",
          ", line 3: no such table: device_typ: INSERT INTO device_typ VALUES(1, 'x');"},
@@ -46,7 +54,6 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"INSERT INTO nobody VALUES('" + repeated("x", 500) + "');",
          ", line 1: no such table: nobody: INSERT INTO nobody VALUES('" + repeated("x", 53) + "..."},
         {"INSERT INTO setting VALUES('a','b", ", line 1: unrecognized token"},
-        {"INSERT INTO setting VALUES('a',", ", line 1: incomplete input"},
         {"INSERT INTO setting VALUES('a','b');\nINSERT INTO setting VALUES('a','c');",
          ", line 2: UNIQUE constraint failed: setting.name"},
         {"INSERT INTO device_class(type_id,domain) VALUES(1,'x');", ", line 1: cannot store TEXT value"},
@@ -63,16 +70,13 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"INSERT INTO device_class(type_id,domain,is_snmp) VALUES(1,1,2);", ": table device_class, column is_snmp"},
         {"INSERT INTO device_class(type_id,domain,compatible_type_id) VALUES(1,1,65536);",
          ": table device_class, column compatible_type_id, row 1: holds 65536, allowed is 0 to 65535"},
-        {"INSERT INTO check_file VALUES('A','a.xml',3);", ": table check_file, column report_type"},
         // What would reach outside the inventory.
         {"ATTACH 'x.db' AS x;", ", line 1: not allowed in an inventory: ATTACH 'x.db' AS x;"},
         {"PRAGMA writable_schema=1;", ", line 1: not allowed"},
         {"VACUUM INTO 'x.db';", ", line 1: not allowed"},
         {"SELECT load_extension('x.so');", ", line 1: not authorized to use function: load_extension"},
-        {"CREATE TEMP TABLE x(y);", ", line 1: not allowed"},
         {"CREATE VIRTUAL TABLE x USING fts5(y);", ", line 1: not allowed"},
         {"CREATE TRIGGER x AFTER INSERT ON setting BEGIN DELETE FROM device; END;", ", line 1: not allowed"},
-        {"DROP TABLE device;", ", line 1: not allowed"},
         {"SELECT sql FROM sqlite_master;", ", line 1: not allowed"},
         // Too much for a fixed limit.
         {"WITH a AS (SELECT 1), b AS (SELECT 1 FROM a, a), c AS (SELECT 1 FROM b, b) SELECT 1 FROM c, c;",
