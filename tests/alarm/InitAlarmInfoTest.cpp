@@ -21,10 +21,8 @@ TEST(InitAlarmInfoTest, StoresARecordUnderItsNumber)
         {"<param name='AlarmID'>12x4</param>", 12, "", "record 1: \"12x4\" in \"AlarmID\" is read as 12;"},
         {"<param name='AlarmID'/>", 0, "", "record 1: \"\" in \"AlarmID\" is no number and is passed over;"},
         {"<param name='AlarmName'>A</param>", 0, "A", "record 1: no \"AlarmID\", so the record is stored under 0;"},
-        {"<x><param name='AlarmID'>9</param><param name='AlarmID'>1<!-- 2 -->3</param><param "
-         "name='AlarmName'><b>Fan</b> "
-         "off</param></x>",
-         13, "Fan off", ""},
+        {"<x><param name='AlarmID'>9</param><param name='AlarmID'>1<!-- 2 -->3</param></x>", 13, "", ""},
+        {"<x><param name='AlarmID'>1</param><param name='AlarmName'><b>Fan</b> off</param></x>", 1, "Fan off", ""},
         {"<param name='AlarmID'>1</param><param name='alarmname'>A</param><param name='alarmname'/>", 1, "",
          "record 1: a param named \"alarmname\" is not known and is passed over wherever it stands;"},
     };
