@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -68,11 +69,15 @@ int runTool(int nArguments, char** ppszArguments)
         // Help and version end well; everything else is a usage error.
         return oApp.exit(oProblem) == 0 ? EXIT_YES : EXIT_TROUBLE;
     }
-    const int nExit = stTool.fnRun();
-    // A full disk must not pass for an answer.
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+    return stTool.fnRun();
+}
+
+// A full disk must not pass for an answer. CLI11 writes its help to std::cout.
+void flushOutput()
+{
+    std::cout.flush();
+    if (!std::cout || std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
         throw CTrouble("cannot write the output");
-    return nExit;
 }
 } // namespace
 
@@ -80,9 +85,11 @@ int main(int nArguments, char** ppszArguments)
 {
     try
     {
+        const int nExit = runTool(nArguments, ppszArguments);
+        flushOutput();
         // The store dies with the process: freeing its records one by one at exit
-        // would only take time. Everything is written by now.
-        std::_Exit(runTool(nArguments, ppszArguments));
+        // would only take time.
+        std::_Exit(nExit);
     }
     catch (const std::exception& oProblem)
     {
