@@ -40,14 +40,24 @@ double median(std::vector<double> lstValue)
 
 StComparison alternate(const std::function<double()>& fnOne, const std::function<double()>& fnOther)
 {
-    std::vector<double> lstOne;
-    std::vector<double> lstOther;
-    std::vector<double> lstRatio;
-    for (int nRound = 0; nRound < ROUNDS; ++nRound)
+    return alternateSlices(
+        1, [&](std::size_t /*nSlice*/) { return fnOne(); }, [&](std::size_t /*nSlice*/) { return fnOther(); });
+}
+
+StComparison alternateSlices(std::size_t nSlices, const std::function<double(std::size_t)>& fnOne,
+                             const std::function<double(std::size_t)>& fnOther)
+{
+    std::vector<double> lstOne(ROUNDS);
+    std::vector<double> lstOther(ROUNDS);
+    std::vector<double> lstRatio(ROUNDS);
+    for (std::size_t nRound = 0; nRound < ROUNDS; ++nRound)
     {
-        lstOne.push_back(fnOne());
-        lstOther.push_back(fnOther());
-        lstRatio.push_back(lstOne.back() / lstOther.back());
+        for (std::size_t nSlice = 0; nSlice < nSlices; ++nSlice)
+        {
+            lstOne[nRound] += fnOne(nSlice);
+            lstOther[nRound] += fnOther(nSlice);
+        }
+        lstRatio[nRound] = lstOne[nRound] / lstOther[nRound];
     }
     return {median(lstRatio), median(lstOne), median(lstOther)};
 }

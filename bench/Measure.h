@@ -4,6 +4,7 @@
 #ifndef OPERATIONXML_BENCH_MEASURE_H
 #define OPERATIONXML_BENCH_MEASURE_H
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -25,6 +26,11 @@ struct StComparison
     double dOther = 0;
 };
 StComparison alternate(const std::function<double()>& fnOne, const std::function<double()>& fnOther);
+
+// The same in slices of the work, each way called with the number of the slice: a
+// slow moment that is shorter than a round falls on both as well.
+StComparison alternateSlices(std::size_t nSlices, const std::function<double(std::size_t)>& fnOne,
+                             const std::function<double(std::size_t)>& fnOther);
 
 // The bare parse: what a textbook does, a new parser with default settings for
 // each file, and no look at the document. Throws when a file cannot be parsed.

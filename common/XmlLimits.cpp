@@ -8,7 +8,7 @@
 using xercesc::DOMDocument;
 using xercesc::DOMNode;
 
-std::string CNestingCheck::open(const XMLCh* pszName)
+const char* CNestingCheck::open(const XMLCh* pszName)
 {
     const auto nSameName = static_cast<std::size_t>(std::count_if(
         m_lstOpen.begin(), m_lstOpen.end(), [pszName](const StOpen& stOpen) { return stOpen.pszName == pszName; }));
@@ -30,7 +30,12 @@ std::string CNestingCheck::open(const XMLCh* pszName)
             pszPassed = "are nested so that they would be read too many times";
     }
     m_lstOpen.push_back({pszName, nOthers * (nSameName + 1)});
-    return pszPassed == nullptr ? std::string() : "elements \"" + toLocal(pszName) + "\" " + pszPassed;
+    return pszPassed;
+}
+
+std::string limitText(const XMLCh* pszName, const char* pszPassed)
+{
+    return "elements \"" + toLocal(pszName) + "\" " + pszPassed;
 }
 
 std::string checkNesting(const DOMDocument& oDocument)
@@ -43,9 +48,8 @@ std::string checkNesting(const DOMDocument& oDocument)
         const bool bElement = pNode->getNodeType() == DOMNode::ELEMENT_NODE;
         if (bElement)
         {
-            std::string strPassed = oNesting.open(pNode->getNodeName());
-            if (!strPassed.empty())
-                return strPassed;
+            if (const char* pszPassed = oNesting.open(pNode->getNodeName()))
+                return limitText(pNode->getNodeName(), pszPassed);
         }
         lstOpen.push_back(pNode);
         pNode = pNode->getFirstChild();

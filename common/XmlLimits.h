@@ -28,10 +28,10 @@ constexpr std::uint64_t MAX_REPEATED_READS   = 100000;                 // readin
 class OPERATIONXML_API CNestingCheck
 {
 public:
-    // An element opens below the ones that are open. Returns what passes a limit,
-    // or an empty text. Names are a document's own, which keeps each of them once,
-    // so they compare by address.
-    std::string open(const XMLCh* pszName);
+    // An element opens below the ones that are open. Returns what it does beyond a
+    // limit ("are nested too deep"), or null. Names are a document's own, which
+    // keeps each of them once, so they compare by address.
+    const char* open(const XMLCh* pszName);
 
     // The element opened last closes.
     void close() { m_lstOpen.pop_back(); }
@@ -46,6 +46,9 @@ private:
     std::vector<StOpen> m_lstOpen;
     std::uint64_t       m_nRepeatedReads = 0;
 };
+
+// How a passed limit is told: "elements "SubItem" are nested too deep".
+std::string limitText(const XMLCh* pszName, const char* pszPassed);
 
 // The same for a document that was parsed elsewhere: what passes a limit, or an
 // empty text.

@@ -226,11 +226,10 @@ void CXmlParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, bool
 
 void CXmlParser::openElement()
 {
-    const auto*  pElement  = static_cast<const DOMElement*>(fCurrentParent);
-    const XMLCh* pszName   = pElement->getTagName();
-    std::string  strPassed = m_oNesting.open(pszName);
-    if (!strPassed.empty())
-        throw StLimitPassed{std::move(strPassed)};
+    const auto*  pElement = static_cast<const DOMElement*>(fCurrentParent);
+    const XMLCh* pszName  = pElement->getTagName();
+    if (const char* pszPassed = m_oNesting.open(pszName))
+        throw StLimitPassed{limitText(pszName, pszPassed)};
     m_mapElements[pszName].push_back(pElement);
 }
 

@@ -147,7 +147,8 @@ const DOMAttr* CAttributes::find(const char16_t* pszName) const
     for (std::size_t nAt = 0; nAt < m_nAttributes; ++nAt)
     {
         const StAttribute& stAttribute = m_arAttribute[nAt];
-        if (*stAttribute.pszName == *pszName && XMLString::equals(stAttribute.pszName, pszName))
+        if (stAttribute.pszName[0] == pszName[0] && stAttribute.pszName[1] == pszName[1] &&
+            XMLString::equals(stAttribute.pszName, pszName))
             return stAttribute.pAttr;
     }
     return nullptr;
@@ -224,6 +225,11 @@ const DOMNode* CSubtreeWalk::next()
         ++m_nDepth;
         return m_pNode = pChild;
     }
+    return nextBeside();
+}
+
+const DOMNode* CSubtreeWalk::nextBeside()
+{
     for (; m_nDepth != 0; --m_nDepth)
     {
         if (const DOMNode* pSibling = m_pNode->getNextSibling())
@@ -241,9 +247,18 @@ CElements::CElements(const DOMElement* pRoot, const char16_t* pszName)
 CElements::Iterator& CElements::Iterator::operator++()
 {
     const DOMNode* pNode = m_oWalk.next();
-    while (pNode != nullptr &&
-           (pNode->getNodeType() != DOMNode::ELEMENT_NODE || !XMLString::equals(pNode->getNodeName(), m_pszName)))
-        pNode = m_oWalk.next();
+    while (pNode != nullptr)
+    {
+        // Every other node is the text between two elements: its name ("#text") is
+        // no element's, and there is nothing below it.
+        const XMLCh* pszName = pNode->getNodeName();
+        if (*pszName == u'#')
+            pNode = m_oWalk.nextBeside();
+        else if (!XMLString::equals(pszName, m_pszName) || pNode->getNodeType() != DOMNode::ELEMENT_NODE)
+            pNode = m_oWalk.next();
+        else
+            break;
+    }
     m_pCurrent = static_cast<const DOMElement*>(pNode);
     return *this;
 }

@@ -83,6 +83,9 @@ public:
     // The next node, or null at the end.
     const xercesc::DOMNode* next();
 
+    // The same, passing over what lies below the node that was answered last.
+    const xercesc::DOMNode* nextBeside();
+
 private:
     const xercesc::DOMNode* parent() const;
 
