@@ -4,12 +4,14 @@
 
 #include "common/XmlRead.h"
 
-#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
+#include <xercesc/sax/InputSource.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
+#include <xercesc/util/BinMemInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -17,6 +19,7 @@
 #include <new>
 #include <sys/stat.h>
 #include <system_error>
+#include <time.h>
 #include <unistd.h>
 #include <utility>
 
@@ -44,10 +47,53 @@ private:
     std::string& m_strProblem;
 };
 
-// Ends a parse at the element that passes a limit.
+// Ends a parse where a limit is passed.
 struct StLimitPassed
 {
     std::string strProblem;
+};
+
+// Hands a text to the parser piece by piece, and no further once the parse has
+// taken far longer than a text of this size can need: several of the parser's
+// tables are searched one by one where names are many, or chosen to collide. CPU
+// time of the thread, so that a busy machine refuses no file that is fine.
+class CTimedStream : public BinMemInputStream
+{
+public:
+    explicit CTimedStream(std::string_view strText)
+        : BinMemInputStream(reinterpret_cast<const XMLByte*>(strText.data()), strText.size(), BufOpt_Reference),
+          m_dLatest(cpuSeconds() + XmlLimits::MIN_CPU_SECONDS +
+                    XmlLimits::CPU_SECONDS_PER_BYTE * static_cast<double>(strText.size()))
+    {
+    }
+
+    XMLSize_t readBytes(XMLByte* pToFill, XMLSize_t nMax) override
+    {
+        if (cpuSeconds() > m_dLatest)
+            throw StLimitPassed{"the file takes too long to parse"};
+        return BinMemInputStream::readBytes(pToFill, nMax);
+    }
+
+private:
+    static double cpuSeconds()
+    {
+        timespec stNow = {};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &stNow);
+        return static_cast<double>(stNow.tv_sec) + static_cast<double>(stNow.tv_nsec) / 1e9;
+    }
+
+    double m_dLatest; // CPU time of this thread
+};
+
+class CTextSource : public InputSource
+{
+public:
+    explicit CTextSource(std::string_view strText) : InputSource(u"file"), m_strText(strText) {}
+
+    BinInputStream* makeStream() const override { return new CTimedStream(m_strText); } // the parser deletes it
+
+private:
+    std::string_view m_strText;
 };
 
 class CEntityLimit : public SecurityManager
@@ -147,7 +193,9 @@ void CXmlParser::releaseDocument()
     m_mapElements.clear();
     m_oNesting        = {};
     m_bInEmptyElement = false;
+    m_nEntityText     = 0;
     m_strProblem.clear();
+    fParseInProgress = false; // left set by a parse that ran out of memory
     resetDocumentPool();
 }
 
@@ -169,8 +217,7 @@ void CXmlParser::parseText(std::string_view strXml)
     {
         CFirstError oFirstError(strProblem);
         setErrorHandler(&oFirstError);
-        const MemBufInputSource oSource(reinterpret_cast<const XMLByte*>(strXml.data()), strXml.size(), u"file");
-        parse(oSource);
+        parse(CTextSource(strXml));
         if (strProblem.empty() && getErrorCount() != 0)
             strProblem = "the parser reported an error";
         else if (strProblem.empty() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
@@ -207,6 +254,23 @@ void CXmlParser::parseText(std::string_view strXml)
     m_strProblem = std::move(strProblem);
 }
 
+// A parameter entity, and the default of an attribute, are expanded before
+// anything can count it. Device types need neither.
+void CXmlParser::entityDecl(const DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored)
+{
+    if (bIsParameter)
+        throw StLimitPassed{"the document type declares a parameter entity"};
+    m_nEntityText += oEntity.getValueLen();
+    if (m_nEntityText > XmlLimits::MAX_ENTITY_TEXT)
+        throw StLimitPassed{"the document type declares too much text as entities"};
+    XercesDOMParser::entityDecl(oEntity, bIsParameter, bIsIgnored);
+}
+
+void CXmlParser::startAttList(const DTDElementDecl& /*oElement*/)
+{
+    throw StLimitPassed{"the document type declares attributes"};
+}
+
 void CXmlParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
                               const RefVectorOf<XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty, bool bIsRoot)
 {
@@ -231,6 +295,34 @@ void CXmlParser::openElement()
     if (const char* pszPassed = m_oNesting.open(pszName))
         throw StLimitPassed{limitText(pszName, pszPassed)};
     m_mapElements[pszName].push_back(pElement);
+    if (m_oNesting.isRepeated())
+        checkContent(attributeText(*pElement));
+}
+
+void CXmlParser::docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData)
+{
+    checkContent(nLength);
+    XercesDOMParser::docCharacters(pszText, nLength, bIsCData);
+}
+
+void CXmlParser::docComment(const XMLCh* pszText)
+{
+    checkContent(XMLString::stringLen(pszText));
+    XercesDOMParser::docComment(pszText);
+}
+
+void CXmlParser::docPI(const XMLCh* pszTarget, const XMLCh* pszData)
+{
+    checkContent(XMLString::stringLen(pszData));
+    XercesDOMParser::docPI(pszTarget, pszData);
+}
+
+void CXmlParser::checkContent(std::size_t nCharacters)
+{
+    if (!m_oNesting.isRepeated())
+        return;
+    if (const char* pszPassed = m_oNesting.content(nCharacters))
+        throw StLimitPassed{limitText(m_oNesting.openName(), pszPassed)};
 }
 
 const ElementList& CXmlParser::elements(const char16_t* pszName) const

@@ -2,8 +2,8 @@
 // It adds to XercesDOMParser what every reader here relies on:
 // - after a parse getDocument() answers the whole document or null, never the
 //   partial one that Xerces keeps after a fatal error;
-// - nothing is fetched from outside the file, and entity expansion, size and
-//   nesting are limited (XmlLimits.h), so no file exhausts the server;
+// - nothing is fetched from outside the file, and size, nesting, entities and time
+//   are limited (XmlLimits.h), so no file exhausts the server;
 // - no exception leaves it;
 // - the elements of the document are indexed by name while it is parsed, since
 //   every section asks the whole document for its own.
@@ -53,17 +53,25 @@ public:
 private:
     CXmlParser();
 
-    // The parser's own hooks: follow every element as it opens and closes.
+    // The parser's own hooks: follow the document type, and every element and what
+    // it holds as it comes.
+    void entityDecl(const xercesc::DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored) override;
+    void startAttList(const xercesc::DTDElementDecl& oElement) override;
     void startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
                       const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
                       bool bIsRoot) override;
     void endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
                     const XMLCh* pszPrefix) override;
+    void docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData) override;
+    void docComment(const XMLCh* pszText) override;
+    void docPI(const XMLCh* pszTarget, const XMLCh* pszData) override;
     void openElement();
+    void checkContent(std::size_t nCharacters);
 
     std::unordered_map<const XMLCh*, ElementList> m_mapElements; // by name; the document keeps each name once
     CNestingCheck                                 m_oNesting;
     bool                                          m_bInEmptyElement = false;
+    std::size_t                                   m_nEntityText     = 0;
     std::string                                   m_strProblem;
 };
 
