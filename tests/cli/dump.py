@@ -8,6 +8,7 @@ import os
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 
 from configuration import expected_record
@@ -101,6 +102,21 @@ class Dump(unittest.TestCase):
 
     def test_names_select(self):
         self.assertEqual(list(json.loads(dump("SW-100", "LX 2400/S"))), ["LX 2400/S", "LX 2400/S_telnet", "SW-100"])
+
+    def test_texts_come_out_as_they_went_in(self):
+        texts = ["\U0001F50C \U00020BB7", "\"quoted\" 'twice' \\ <&>", "a\nb\tc\r", "\x01\x1b[31m\x7f\x85",
+                 "x" * (1 << 20)]
+        with tempfile.TemporaryDirectory() as root:
+            with open(os.path.join(root, "server.sql"), "w", encoding="utf-8") as inventory:
+                inventory.write("INSERT INTO device_type (name, version) VALUES ('A', 'V');"
+                                "INSERT INTO config_file VALUES ('A', 'A.xml');")
+            with open(os.path.join(root, "A.xml"), "w", encoding="utf-8") as file:
+                operations = ("<Operation id='" + "".join(c if c.isalnum() else f"&#{ord(c)};" for c in text) + "'/>"
+                              for text in texts)
+                file.write(f"<?xml version='1.1'?><C><DeviceOperation>{''.join(operations)}</DeviceOperation></C>")
+            done = subprocess.run([OPXML, "--root", root, "dump"], check=True, capture_output=True)
+        found = json.loads(done.stdout)["A"][0]["stOperationConfig"]["lstDevOperation"]
+        self.assertEqual([operation["strId"] for operation in found], texts)
 
 
 if __name__ == "__main__":
