@@ -26,14 +26,17 @@ class OPERATIONXML_API InitAlarmInfo : public CAlarmTable
 public:
     // The one instance; the first call after the start or after Destroy() reads the file.
     static InitAlarmInfo* Instance();
-    static void           Destroy();
+    // Destroy() ends the life of that pointer and of every reference got through it,
+    // so no other thread may still use them.
+    static void Destroy();
 
     // A copy of what is known of the alarm; an unknown one comes back under the
     // id that was asked for, with empty texts.
     AlarmStaticInfo getAlarmNameByAlarmId(unsigned long ulAlarmId) const;
 
     // Fills one value from one "record" element; a later param of a name
-    // overwrites an earlier one, and params of other names are left alone.
+    // overwrites an earlier one, and params of other names are left alone. Notes
+    // problems in the dictionary, so nobody else may use it meanwhile.
     void fillAlarmInfo(const xercesc::DOMElement* pRecord, AlarmStaticInfo& stAlarm);
 
     // Every alarm of the file by its id.

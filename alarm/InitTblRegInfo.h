@@ -32,12 +32,16 @@ public:
 
     // The one instance; the first call after the start or after Destroy() reads the table.
     static InitTblRegInfo* Instance();
-    static void            Destroy();
+    // Destroy() ends the life of that pointer and of every reference got through it,
+    // so no other thread may still use them.
+    static void Destroy();
 
     bool NeedTransfer(const NS_UTIL::EnvAlarmInfo& stAlarm) const;
 
     // The answer of NeedTransfer with its reason.
     EnTransferBy findRegistration(const NS_UTIL::EnvAlarmInfo& stAlarm) const;
+
+    // These four write to the table, so nobody else may use it meanwhile.
 
     // Registers what one "record" element holds. A parameter that cannot be read
     // is logged and never stops its siblings.
@@ -69,6 +73,7 @@ private:
 
     FaultIdMap                          m_mapAllTypes;
     std::map<unsigned long, FaultIdMap> m_mapByDevType;
+    std::size_t                         m_nFaultIds = 0; // pieces of "FaultIDList" met so far
 };
 
 #endif

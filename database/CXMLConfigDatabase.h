@@ -9,8 +9,12 @@
 // Record pointers that an operation hands out belong to the store. They stay
 // valid until their key is stored again (a capacity read of the type, or a read
 // of a type whose list was empty) or finalize() runs; no lock of the caller's can
-// extend that. A caller that must outlive it copies the record. Queries copy
-// their answers and hand out no pointer.
+// extend that. Where another thread may do either, such a pointer is unsafe from
+// the moment it is handed out, even for a copy: copy inside visitDevTypes, which
+// holds the mutex. Queries copy their answers and hand out no pointer.
+//
+// "The caller holds the mutex" means a caller inside the library: nobody else can.
+// From outside, those operations are safe only while no other thread is about.
 #ifndef OPERATIONXML_DATABASE_CXMLCONFIGDATABASE_H
 #define OPERATIONXML_DATABASE_CXMLCONFIGDATABASE_H
 
@@ -72,17 +76,21 @@ public:
     std::uint32_t getDevTypeXMLConfig(const std::string& strDevType, const std::string& strDevTypeVer,
                                       std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, bool bCapacity);
 
-    // The first of those records, or null with one error line.
+    // The first of those records, or null with one error line. The pointer lives as
+    // said above: unsafe while other threads read capacities of the type.
     StAsnDevTypeVerXMLInfo* getFirstDevTypeXMLConfig(const std::string& strDevType, const std::string& strDevTypeVer);
 
     // Frees the records of a list and nulls its pointers; the list keeps its length.
+    // Takes no lock, and is not for lists that the database filled: their records
+    // are the store's and would be freed twice.
     void freeXMLInfo(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
     // What the start-up load did, entry by entry. A copy.
     StLoadReport getLoadReport();
 
     // Calls fnVisit for every key of the store in order. The mutex is held
-    // meanwhile: fnVisit must not wait for other threads that ask the database.
+    // meanwhile: fnVisit must not wait for other threads that ask the database, nor
+    // read a capacity itself. What it is handed is valid until it returns.
     void
     visitDevTypes(const std::function<void(const std::string&, const std::list<StAsnDevTypeVerXMLInfo*>&)>& fnVisit);
 

@@ -1,7 +1,9 @@
 // ParseXMLFile: reads the rules of "file_check.xml", by which the server checks
 // files that users upload, into UncompressedType records. The caller names the
 // file and applies the rules.
-// Stateless: calls may run on several threads at once, each with its own map.
+// Stateless: calls may run on several threads at once, each with its own map, list
+// of problems and parser. An element that GoNextParam hands out dies with the
+// parser's document: when it parses again or is destroyed.
 // Every failure is logged once, answers DC_RESULT_XML_ERROR and stops the read;
 // records taken before it stay in the caller's map.
 #ifndef OPERATIONXML_FILECHECK_PARSEXMLFILE_H

@@ -1,7 +1,8 @@
 // CCapacityXMLConfig: narrows a configuration read from the common file to what
 // one device model supports, as its capacity document says.
 // Stateless; called by the capacity mode of the device-type reader, on the
-// thread that owns the parser. Failures are logged where they arise.
+// thread that owns the parser and the record: calls may run at once, each with its
+// own. Failures are logged where they arise.
 #ifndef OPERATIONXML_READER_CCAPACITYXMLCONFIG_H
 #define OPERATIONXML_READER_CCAPACITYXMLCONFIG_H
 

@@ -1,7 +1,7 @@
 // CDevTypeXMLConfig: reads the two sections of a module file that no device-type
 // file has: which module it belongs to, and which device types it supports.
-// Stateless; works on the caller's parser and lists. Failures are logged and
-// answer DC_RESULT_XML_ERROR.
+// Stateless; works on the caller's parser and lists: calls may run at once, each
+// with its own. Failures are logged and answer DC_RESULT_XML_ERROR.
 #ifndef OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
 #define OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
 

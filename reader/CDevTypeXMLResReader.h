@@ -1,7 +1,8 @@
 // CDevTypeXMLResReader: finds and reads the files of one device type. The
 // configuration database makes one per device type and stores what it hands out;
 // the capacity path reuses it for one version at a time.
-// Takes no lock; one reader belongs to one thread. Records handed out through a
+// Takes no lock; one reader belongs to one thread, and several may read at once.
+// Records handed out through a
 // list or pointer belong to the caller; a read that fails hands out none.
 // Failures are logged where they arise; codes of the device adapter and of the
 // section parsers are passed up unchanged.

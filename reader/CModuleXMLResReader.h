@@ -1,7 +1,8 @@
 // CModuleXMLResReader: walks a folder tree and reads every module configuration
 // file in it into one record per module.
 // Used once, by the start-up load, under the database's mutex; takes no lock
-// itself. The map belongs to the caller. A bad file or folder is logged and costs
+// itself: a reader, its map and a parser handed in belong to one thread. The map
+// is the caller's. A bad file or folder is logged and costs
 // nothing else.
 #ifndef OPERATIONXML_READER_CMODULEXMLRESREADER_H
 #define OPERATIONXML_READER_CMODULEXMLRESREADER_H
