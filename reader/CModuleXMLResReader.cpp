@@ -2,6 +2,7 @@
 #include "reader/CModuleXMLResReader.h"
 
 #include "common/LogLine.h"
+#include "common/XmlLimits.h"
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLConfig.h"
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <map>
+#include <string_view>
 
 namespace
 {
@@ -37,6 +40,19 @@ std::vector<std::string> readNames(DIR* pDir)
     }
     std::sort(lstName.begin(), lstName.end());
     return lstName;
+}
+
+// Every naming merges the whole module once more, so a small file could fill the
+// memory. The name that passes the limit, or null.
+const std::string* findNamedTooOften(const std::list<std::string>& lstDevType)
+{
+    std::map<std::string_view, std::size_t> mapTimes;
+    for (const std::string& strDevType : lstDevType)
+    {
+        if (++mapTimes[strDevType] > XmlLimits::MAX_SAME_MODULE_TYPE)
+            return &strDevType;
+    }
+    return nullptr;
 }
 } // namespace
 
@@ -127,6 +143,9 @@ std::uint32_t CModuleXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDO
         ulResult = CDevTypeXMLConfig().setDevTypeXMLConfig(pDOMParser, stModule);
     if (ulResult != DC_RESULT_OK)
         return ulResult;
+    if (const std::string* pNamedTooOften = findNamedTooOften(stModule.lstSupportDevType))
+        return logFail(DC_HERE, DC_RESULT_XML_ERROR,
+                       "DeviceType is named too many times by one file :" + *pNamedTooOften);
     const StSectionLists stLists = {stModule.stOperationConfig, stModule.stViewConfig,
                                     stModule.lstTaskConfigInfoOperation, false};
     ulResult                     = runSectionChain(pDOMParser, stLists,

@@ -87,6 +87,18 @@ TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
         logText());
 }
 
+TEST_F(ModuleReadTest, RefusesAModuleThatNamesOneTypeTooOften)
+{
+    std::string strDevices;
+    for (int nTimes = 0; nTimes < 16; ++nTimes)
+        strDevices += "<dev name='X'/><dev name='Y'/>";
+    write("a/ServerConfiguration.xml", "A", "<support>" + strDevices + "</support>");
+    write("b/ServerConfiguration.xml", "B", "<support>" + strDevices + "</support><support><dev name='Y'/></support>");
+    walk();
+    EXPECT_EQ("A<a/ServerConfiguration.xml;B!b/ServerConfiguration.xml;", files());
+    EXPECT_EQ("E 3B0004EE [DCServer]DeviceType is named too many times by one file :Y", logLines().front());
+}
+
 TEST_F(ModuleReadTest, ReadsAllSectionsButTheIsolationMenu)
 {
     write("ServerConfiguration.xml", "M",
