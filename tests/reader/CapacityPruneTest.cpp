@@ -72,6 +72,20 @@ std::string entryOfA(const std::string& strParameters)
     return "<Operation id='a' isSupported='1'>" + strParameters + "</Operation>";
 }
 
+void combineLists(StAsnDevTypeVerXMLInfo& stInfo, const std::list<StAsnOperation>& lstCapacity)
+{
+    CCapacityXMLConfig oConfig; // list by list, as a caller without a record does
+    auto&              stOper = stInfo.stOperationConfig;
+    oConfig.combineDevOperation(stOper.lstDevOperation, lstCapacity);
+    oConfig.combineTaskOperation(stOper.lstTaskOperation, lstCapacity);
+    oConfig.combinePatchOperation(stOper.lstPatchOperation, lstCapacity);
+    oConfig.combineCheckOperation(stOper.lstCheckOperation, lstCapacity);
+    oConfig.combineCustomOperation(stOper.lstCustomOperation, lstCapacity);
+    oConfig.combineOtherOperation(stOper.lstOtherOperation, lstCapacity);
+    oConfig.combineViewConfiguation(stInfo.stViewConfig, lstCapacity);
+    oConfig.combineTaskConfiguration(stInfo.lstTaskConfigInfoOperation, lstCapacity);
+}
+
 TEST(CapacityPruneTest, LeavesWhatTheEntryAllows)
 {
     const char* OPERATIONS =
@@ -146,8 +160,11 @@ TEST(CapacityPruneTest, LeavesWhatTheEntryAllows)
         ASSERT_EQ(0u, CDevTypeXMLResReader("A", "V1", false).setDevXMLConfig(oConfig.parser(), &stInfo));
         std::list<StAsnOperation> lstCapacity;
         ASSERT_EQ(0u, CCapacityXMLConfig().fillOperInfo(oCapacity.root(), lstCapacity));
+        StAsnDevTypeVerXMLInfo stByLists = stInfo;
         CCapacityXMLConfig().combineXMLInfo(&stInfo, lstCapacity);
         EXPECT_EQ(stCase.pszLeft, text(stInfo));
+        combineLists(stByLists, lstCapacity);
+        EXPECT_EQ(stCase.pszLeft, text(stByLists));
     }
     EXPECT_THAT(logLines(), testing::IsEmpty());
 }
