@@ -5,6 +5,7 @@
 #include "common/XmlRead.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -16,6 +17,10 @@ namespace
 {
 constexpr const char*   DC_SOURCE   = "InitTblRegInfo";
 constexpr unsigned long NO_DEV_TYPE = std::numeric_limits<unsigned long>::max();
+
+// Of one table. No table that people write comes near it; parameters and records
+// nested in each other, which are read once for each level, could.
+constexpr std::size_t MAX_FAULT_IDS = 1'000'000;
 
 // As the ids stand in the table: 101,102
 std::string joined(const std::list<unsigned long>& lstFaultId)
@@ -114,6 +119,11 @@ std::uint32_t InitTblRegInfo::GetAlarmsAndDevType(const ElementList& lstParam, u
     for (std::size_t nFrom = 0; nFrom <= strText.size();)
     {
         const std::size_t nComma = std::min(strText.find(',', nFrom), strText.size());
+        if (++m_nFaultIds > MAX_FAULT_IDS)
+        {
+            addProblem("the table holds too many fault ids, the rest of this \"FaultIDList\" is passed over");
+            return logFail(DC_HERE, DC_RESULT_XML_ERROR, "The table holds too many fault ids.");
+        }
         // A piece that is no number is dropped: 0 would be an id nobody wrote.
         if (const auto ulFaultId = readNumber("FaultIDList", std::string_view(strText).substr(nFrom, nComma - nFrom)))
             lstFaultId.push_back(*ulFaultId);

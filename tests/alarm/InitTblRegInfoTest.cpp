@@ -68,6 +68,18 @@ TEST(InitTblRegInfoTest, LogsWhatItRegistersAndAnUnknownParam)
     EXPECT_EQ(2u, oInfo.byDevType().at(5).at(7)); // the record that registered it
 }
 
+TEST(InitTblRegInfoTest, ReadsAMillionFaultIds)
+{
+    std::string strIds = "1";
+    for (int nPiece = 2; nPiece <= 999'999; ++nPiece)
+        strIds += ",1";
+    CAlarmRoot            oRoot;
+    const InitTblRegInfo& oInfo = oRoot.transfers(record(strIds) + record("2,3") + record("4", "5"));
+    EXPECT_EQ(2u, oInfo.allTypes().size()); // 1 and 2
+    EXPECT_EQ(3u, oInfo.problems().size()); // too many, too many, no fault id
+    EXPECT_THAT(logLines(), testing::Contains("E 3B0004EE [DCServer]The table holds too many fault ids."));
+}
+
 TEST(InitTblRegInfoTest, NullElementsAreLogged)
 {
     CAlarmRoot               oRoot;
