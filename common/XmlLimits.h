@@ -25,7 +25,7 @@ constexpr std::uint64_t MAX_REPEATED_READS   = 100000;                 // readin
 constexpr std::uint64_t MAX_REPEATED_TEXT    = 16'000'000;             // characters that these readings pass over
 constexpr double        MIN_CPU_SECONDS      = 0.5;                    // CPU time that any file may take to parse,
 constexpr double        CPU_SECONDS_PER_BYTE = 0.5e-6; // and more for its size: some twenty times the usual
-constexpr std::size_t   MAX_SAME_MODULE_TYPE = 16;     // times that one module file may name one device type
+constexpr std::size_t   MAX_SAME_MODULE_TYPE = 4;      // times that one module file may name one device type
 } // namespace XmlLimits
 
 // Follows the elements of one document as they open and close, and holds their

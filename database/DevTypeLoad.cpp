@@ -78,19 +78,20 @@ std::uint32_t CXMLConfigDatabase::readDevType(const std::string& strDevType, con
     {
         oReader.initializeCheck(); // most types have no check file of their own
         ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
+        if (ulResult == DC_RESULT_OK && m_pModuleInfoMap != nullptr)
+            mergeModuleInfoToDev(strDevType, lstInfo); // modules name the type, never its telnet key
     }
     catch (const std::bad_alloc&)
     {
         // Memory ran out over this type: it fails, the others go on.
         freeXMLInfo(lstInfo);
         lstInfo.clear();
+        ulResult = DC_RESULT_XML_ERROR;
     }
     stOrigin = oReader.origin();
     if (ulResult != DC_RESULT_OK)
         return logFail(DC_HERE, ulResult,
                        "readXMLfile Failed for strDevType = " + strDevType + ", strDevTypeVer = " + strDevTypeVer);
-    if (m_pModuleInfoMap != nullptr)
-        mergeModuleInfoToDev(strDevType, lstInfo); // modules name the type, never its telnet key
     storeDevTypeXMLConfig(strKey, lstInfo);
     return DC_RESULT_OK;
 }

@@ -90,7 +90,7 @@ TEST_F(ModuleReadTest, WhatIsBrokenCostsNothingElse)
 TEST_F(ModuleReadTest, RefusesAModuleThatNamesOneTypeTooOften)
 {
     std::string strDevices;
-    for (int nTimes = 0; nTimes < 16; ++nTimes)
+    for (int nTimes = 0; nTimes < 4; ++nTimes)
         strDevices += "<dev name='X'/><dev name='Y'/>";
     write("a/ServerConfiguration.xml", "A", "<support>" + strDevices + "</support>");
     write("b/ServerConfiguration.xml", "B", "<support>" + strDevices + "</support><support><dev name='Y'/></support>");
