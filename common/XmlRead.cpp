@@ -230,7 +230,7 @@ const DOMNode* CSubtreeWalk::next()
 
 const DOMNode* CSubtreeWalk::nextBeside()
 {
-    for (; m_nDepth != 0; --m_nDepth)
+    for (; m_pNode != nullptr && m_nDepth != 0; --m_nDepth)
     {
         if (const DOMNode* pSibling = m_pNode->getNextSibling())
             return m_pNode = pSibling;

@@ -22,6 +22,7 @@ TEST_F(CServerTest, ExitsCleanlyWhileEverythingIsAlive)
     open();
     CXMLConfigDatabase::getInstance();
     InitAlarmInfo::Instance();
+    // The process of the test has no other thread. NOLINTNEXTLINE(concurrency-mt-unsafe)
     EXPECT_EXIT(std::exit(std::atexit(askAtExit)), testing::ExitedWithCode(0), "");
 }
 } // namespace
