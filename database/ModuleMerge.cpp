@@ -31,6 +31,7 @@ std::uint32_t CXMLConfigDatabase::readAndStoreModuleXMLConfig()
     return DC_RESULT_OK;
 }
 
+// The name comes by value: callers are built against it. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void CXMLConfigDatabase::mergeModuleInfoToDev(std::string strDevType, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
 {
     const _TraceFunction oTrace(DC_HERE);
