@@ -56,12 +56,13 @@ std::string fileUri(const std::string& strPath, bool bImmutable)
     return bImmutable ? strUri + "?immutable=1" : strUri;
 }
 
-// Whether the file's header asks for a write-ahead log.
+// Whether the file's header asks its readers for a write-ahead log; what it asks
+// of writers, one byte before, may differ.
 bool usesWriteAheadLog(const std::string& strPath)
 {
     std::array<char, 20> aHeader = {};
     std::ifstream        oFile(strPath, std::ios::binary);
-    return oFile.read(aHeader.data(), aHeader.size()) && aHeader[18] == 2 && aHeader[19] == 2;
+    return oFile.read(aHeader.data(), aHeader.size()) && aHeader[19] == 2;
 }
 
 // Processor time that this thread has used.
