@@ -1,4 +1,4 @@
-// The small searches of the queries and of pruning. The names say which match wins.
+// The small search of the queries. The name says which match wins.
 #ifndef OPERATIONXML_RECORDS_RECORDSEARCH_H
 #define OPERATIONXML_RECORDS_RECORDSEARCH_H
 
@@ -13,15 +13,6 @@ const Record* findFirst(const std::list<Record>& lstRecord, std::string_view str
     const auto itFound = std::find_if(lstRecord.begin(), lstRecord.end(),
                                       [strId](const Record& stRecord) { return stRecord.strId == strId; });
     return itFound == lstRecord.end() ? nullptr : &*itFound;
-}
-
-// The last record with this strId, or null.
-template <typename Record>
-const Record* findLast(const std::list<Record>& lstRecord, std::string_view strId)
-{
-    const auto itFound = std::find_if(lstRecord.rbegin(), lstRecord.rend(),
-                                      [strId](const Record& stRecord) { return stRecord.strId == strId; });
-    return itFound == lstRecord.rend() ? nullptr : &*itFound;
 }
 
 #endif
