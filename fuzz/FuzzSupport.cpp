@@ -2,7 +2,7 @@
 #include "FuzzSupport.h"
 
 #include "standalone/ServerRoot.h"
-#include "tools/opxml/RecordJson.h"
+#include "tools/opxml/output/RecordJson.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,8 +1,10 @@
 // opxml: asks the library what a server's device types support, from the command
 // line. Parses the command line, runs one command, and turns every end into an
 // exit code: 0 yes or found, 1 no or nothing, 2 trouble (one line on stderr).
-#include "Command.h"
-#include "Output.h"
+// commands/ has a source for each command, query/ what stands behind opxml query,
+// output/ how things look; commands -> query -> output, never back.
+#include "tools/opxml/commands/Command.h"
+#include "tools/opxml/output/Output.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,0 +1,38 @@
+// What the commands on the alarm tables share: the language they are read in, a
+// table that cannot be read, and the list of its mistakes.
+#ifndef OPERATIONXML_TOOLS_OPXML_COMMANDS_ALARMTABLES_H
+#define OPERATIONXML_TOOLS_OPXML_COMMANDS_ALARMTABLES_H
+
+#include "alarm/AlarmTable.h"
+#include "tools/opxml/commands/Command.h"
+
+#include <cstdint>
+#include <string>
+
+struct StAlarmOptions
+{
+    std::string strLanguage; // empty: the one that the environment names
+    bool        bCheck = false;
+    bool        bJson  = false;
+};
+
+// Adds --lang, --check and --json.
+void addAlarmOptions(CLI::App& oCommand, StAlarmOptions& stOptions);
+
+// Opens the server root and chooses the language; throws CTrouble. Loads no
+// device type.
+void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOptions);
+
+// Throws CTrouble with the reason when the table was not read.
+void requireTable(const CAlarmTable& oTable);
+
+// Prints what the table's load passed over; EXIT_NO when there is any.
+int printMistakes(const CAlarmTable& oTable, bool bJson);
+
+// A whole unsigned decimal number; throws CTrouble, naming what was asked for.
+std::uint64_t readId(const std::string& strWhat, const std::string& strText);
+
+// The text as such a number; false when it is none.
+bool isId(const std::string& strText, std::uint64_t& ulId);
+
+#endif

@@ -1,0 +1,147 @@
+// opxml filecheck: the rules of a file-check file, what makes it invalid, and
+// what is passed over. Needs no server root and loads nothing else.
+#include "filecheck/ParseXMLFile.h"
+#include "standalone/LogSink.h"
+#include "tools/opxml/commands/Command.h"
+#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/RecordJson.h"
+
+#include <fmt/format.h>
+
+#include <cerrno>
+#include <memory>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace
+{
+struct StFileCheckOptions
+{
+    std::string strFile;
+    bool        bCheck = false;
+    bool        bJson  = false;
+};
+
+struct StRules
+{
+    ParseXMLFile::TypeMap    mapType; // up to the first failure
+    std::uint32_t            ulResult = 0;
+    std::vector<std::string> lstFailure; // the error lines of the log
+    std::vector<std::string> lstProblem; // what the log does not say
+};
+
+struct StRuleField
+{
+    const char* pszHeading;
+    const char* pszField;
+    std::string UncompressedType::*pField;
+};
+
+// Headings are the element names of the file.
+constexpr StRuleField RULE_FIELDS[] = {
+    {"UNCOMPRESSED_SUFFIX", "strUncompressedSuffix", &UncompressedType::strUncompressedSuffix},
+    {"MAX_SIZE", "strMaxSize", &UncompressedType::strMaxSize},
+    {"FILE_MAX_SIZE", "strFileMaxSize", &UncompressedType::strFileMaxSize},
+    {"WHOLE_FILE_MAX_SIZE", "strWholeFileMaxSize", &UncompressedType::strWholeFileMaxSize},
+    {"MAX_COUNT", "strMaxCount", &UncompressedType::strMaxCount},
+    {"FILE_SUFFIX", "strFileSuffix", &UncompressedType::strFileSuffix},
+};
+
+// A file that is not there is trouble of the caller, not a bad rule file.
+void requireFile(const std::string& strFile)
+{
+    struct ::stat stStatus = {};
+    if (::stat(strFile.c_str(), &stStatus) != 0 || ::access(strFile.c_str(), R_OK) != 0)
+        throw CTrouble(printable(strFile) + ": " + std::generic_category().message(errno));
+    if (!S_ISREG(stStatus.st_mode))
+        throw CTrouble(printable(strFile) + ": not a regular file");
+}
+
+StRules readRules(const std::string& strFile)
+{
+    StRules stRules;
+    standalone::setLogListener(
+        [&stRules](const standalone::StLogLine& stLine)
+        {
+            if (stLine.bError)
+                stRules.lstFailure.push_back(stLine.strText);
+        });
+    stRules.ulResult = ParseXMLFile::GetXMLInfo(strFile, stRules.mapType, &stRules.lstProblem);
+    standalone::setLogListener({});
+    return stRules;
+}
+
+std::string rulesTable(const ParseXMLFile::TypeMap& mapType)
+{
+    std::vector<std::string> lstHeading = {"TYPE"};
+    for (const StRuleField& stField : RULE_FIELDS)
+        lstHeading.emplace_back(stField.pszHeading);
+    CTable oTable(lstHeading);
+    for (const auto& [strType, stType] : mapType)
+    {
+        std::vector<std::string> lstCell = {strType};
+        for (const StRuleField& stField : RULE_FIELDS)
+            lstCell.push_back((stType.*stField.pField).empty() ? "-" : stType.*stField.pField);
+        oTable.addRow(lstCell);
+    }
+    return oTable.text();
+}
+
+std::string rulesJson(const std::string& strFile, const StRules& stRules, bool bWithTypes)
+{
+    Json oTypes = Json::object();
+    for (const auto& [strType, stType] : stRules.mapType)
+    {
+        for (const StRuleField& stField : RULE_FIELDS)
+            oTypes[strType][stField.pszField] = stType.*stField.pField;
+    }
+    Json oRules = {{"file", strFile}, {"result", stRules.ulResult}};
+    if (bWithTypes)
+        oRules["types"] = oTypes;
+    oRules["failures"] = stRules.lstFailure;
+    oRules["mistakes"] = stRules.lstProblem;
+    return jsonText(oRules) + "\n";
+}
+
+int runFileCheck(const StGlobalOptions& stGlobal, const StFileCheckOptions& stOptions)
+{
+    openLog(stGlobal);
+    requireFile(stOptions.strFile);
+    const StRules stRules = readRules(stOptions.strFile);
+
+    std::vector<std::string> lstFinding;
+    for (const auto* pLst : {&stRules.lstFailure, &stRules.lstProblem})
+    {
+        for (const std::string& strFinding : *pLst)
+            lstFinding.push_back(printable(stOptions.strFile + ": " + strFinding));
+    }
+    if (stOptions.bJson)
+        print(rulesJson(stOptions.strFile, stRules, !stOptions.bCheck));
+    else if (stOptions.bCheck && lstFinding.empty())
+        print(printable(stOptions.strFile) + ": no mistakes\n");
+    else if (stOptions.bCheck)
+        print(fmt::format("{}\n", fmt::join(lstFinding, "\n")));
+    else
+    {
+        if (!stRules.mapType.empty())
+            print(rulesTable(stRules.mapType));
+        for (const std::string& strFinding : lstFinding)
+            fmt::print(stderr, "opxml: {}\n", strFinding);
+    }
+    return stRules.ulResult == 0 && !(stOptions.bCheck && !lstFinding.empty()) ? EXIT_YES : EXIT_NO;
+}
+} // namespace
+
+void addFileCheckCommand(CLI::App& oApp, StTool& stTool)
+{
+    CLI::App* pCommand =
+        oApp.add_subcommand("filecheck", "Show the rules of a file-check file and what is wrong with it");
+    auto pOptions = std::make_shared<StFileCheckOptions>();
+    pCommand->add_option("FILE", pOptions->strFile, "The rule file; no server root is needed")->required();
+    pCommand->add_flag("--check", pOptions->bCheck, "Name the mistakes only; status 1 when there are any");
+    pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
+    pCommand->footer("Exit status: 0 valid (--check: no mistakes), 1 invalid, 2 trouble (no such file).");
+    pCommand->callback([&stTool, pOptions]
+                       { stTool.fnRun = [&stTool, pOptions] { return runFileCheck(stTool.stOptions, *pOptions); }; });
+}

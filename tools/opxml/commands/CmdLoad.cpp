@@ -1,0 +1,204 @@
+// opxml load: the full start-up load, one row for every registered type and
+// version, and a summary.
+#include "database/CXMLConfigDatabase.h"
+#include "tools/opxml/commands/Command.h"
+#include "tools/opxml/output/DevTypes.h"
+#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Progress.h"
+#include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Sections.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <set>
+
+namespace
+{
+// What the load left behind for one registry entry.
+struct StRow
+{
+    const StDevTypeLoad* pLoad;
+    SectionCounts        arCount  = {}; // of the first record, which answers the queries
+    std::size_t          nRecords = 0;
+    std::string          strReplacedBy; // version of a later entry with the same key
+    std::string          strModules;
+};
+
+struct StSummary
+{
+    std::size_t nTypes    = 0;
+    std::size_t nFailed   = 0;
+    std::size_t nFiles    = 0;
+    double      dMegabyte = 0;
+    double      dSeconds  = 0;
+
+    double speed() const { return dSeconds > 0 ? dMegabyte / dSeconds : 0; }
+};
+
+StSummary summarise(const StLoadReport& stReport, double dSeconds)
+{
+    StSummary             stSummary;
+    std::set<std::string> setFile;
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        ++stSummary.nTypes;
+        stSummary.nFailed += stLoad.ulResult == 0 ? 0 : 1;
+        setFile.insert(stLoad.stOrigin.strFile);
+    }
+    for (const StModuleLoad& stModule : stReport.lstModule)
+        setFile.insert(stModule.strFile);
+    for (const std::string& strFile : setFile)
+    {
+        std::error_code      oIgnored;
+        const std::uintmax_t nBytes = std::filesystem::file_size(strFile, oIgnored);
+        if (oIgnored)
+            continue; // a missing file is in the table already
+        ++stSummary.nFiles;
+        stSummary.dMegabyte += static_cast<double>(nBytes) / 1e6;
+    }
+    stSummary.dSeconds = dSeconds;
+    return stSummary;
+}
+
+std::vector<StRow> makeRows(const StLoadReport& stReport)
+{
+    std::vector<StRow>                 lstRow;
+    std::map<std::string, std::size_t> mapLast; // row of the entry whose records a key holds
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        lstRow.push_back({&stLoad, {}, 0, "", ""});
+        if (stLoad.ulResult != 0)
+            continue;
+        const auto [itLast, bFirst] = mapLast.emplace(stLoad.strKey, lstRow.size() - 1);
+        if (!bFirst)
+            lstRow[std::exchange(itLast->second, lstRow.size() - 1)].strReplacedBy = stLoad.strDevTypeVer;
+    }
+    CXMLConfigDatabase::getInstance()->visitDevTypes(
+        [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+        {
+            const auto itLast = mapLast.find(strKey);
+            if (itLast == mapLast.end() || lstInfo.empty())
+                return;
+            StRow& stRow     = lstRow[itLast->second];
+            stRow.nRecords   = lstInfo.size();
+            stRow.arCount    = countSections(*lstInfo.front());
+            stRow.strModules = contributionText(findContributions(stRow.pLoad->strDevType));
+        });
+    return lstRow;
+}
+
+std::string tableText(const std::vector<StRow>& lstRow)
+{
+    std::vector<std::string> lstHeading = {"TYPE", "VERSION", "KEY", "FROM", "FILE"};
+    for (const StSectionTitle& stTitle : SECTION_TITLES)
+        lstHeading.emplace_back(stTitle.pszShort);
+    lstHeading.emplace_back("MODULES");
+    CTable oTable(lstHeading);
+    for (const StRow& stRow : lstRow)
+    {
+        const StDevTypeLoad&     stLoad  = *stRow.pLoad;
+        std::vector<std::string> lstCell = {stLoad.strDevType, stLoad.strDevTypeVer, stLoad.strKey};
+        if (stLoad.ulResult != 0)
+        {
+            lstCell.push_back(failureText(stLoad));
+            oTable.addWideRow(lstCell, true);
+            continue;
+        }
+        lstCell.push_back(sourceText(stLoad.stOrigin.enSource) +
+                          (stRow.nRecords > 1 ? fmt::format(" ({})", stRow.nRecords) : ""));
+        lstCell.push_back(std::filesystem::path(stLoad.stOrigin.strFile).filename().string());
+        if (!stRow.strReplacedBy.empty())
+        {
+            lstCell.push_back("replaced by version " + stRow.strReplacedBy);
+            oTable.addWideRow(lstCell, false);
+            continue;
+        }
+        for (const std::size_t nCount : stRow.arCount)
+            lstCell.push_back(std::to_string(nCount));
+        lstCell.push_back(stRow.strModules);
+        oTable.addRow(lstCell);
+    }
+    return oTable.text();
+}
+
+std::string summaryText(const StSummary& stSummary)
+{
+    return fmt::format("{} types, {} failed, {} files, {:.1f} MB, {:.3f} s, {:.1f} MB/s\n", stSummary.nTypes,
+                       stSummary.nFailed, stSummary.nFiles, stSummary.dMegabyte, stSummary.dSeconds, stSummary.speed());
+}
+
+Json rowJson(const StRow& stRow)
+{
+    const StDevTypeLoad& stLoad = *stRow.pLoad;
+    Json                 oRow   = {{"type", stLoad.strDevType},
+                                   {"version", stLoad.strDevTypeVer},
+                                   {"key", stLoad.strKey},
+                                   {"source", sourceText(stLoad.stOrigin.enSource)},
+                                   {"file", stLoad.stOrigin.strFile},
+                                   {"result", stLoad.ulResult}};
+    if (stLoad.ulResult != 0)
+        oRow["reason"] = failureText(stLoad);
+    else if (!stRow.strReplacedBy.empty())
+        oRow["replacedBy"] = stRow.strReplacedBy;
+    else
+    {
+        oRow["configurations"] = stRow.nRecords;
+        for (std::size_t nAt = 0; nAt < SECTION_COUNT; ++nAt)
+            oRow["records"][SECTION_TITLES[nAt].pszField] = stRow.arCount[nAt];
+        oRow["modules"] = stRow.strModules;
+    }
+    return oRow;
+}
+
+std::string loadJson(const std::vector<StRow>& lstRow, const StSummary& stSummary)
+{
+    Json oTypes = Json::array();
+    for (const StRow& stRow : lstRow)
+        oTypes.push_back(rowJson(stRow));
+    const Json oLoad = {{"types", oTypes},
+                        {"summary",
+                         {{"types", stSummary.nTypes},
+                          {"failed", stSummary.nFailed},
+                          {"files", stSummary.nFiles},
+                          {"megabytes", stSummary.dMegabyte},
+                          {"seconds", stSummary.dSeconds},
+                          {"megabytesPerSecond", stSummary.speed()}}}};
+    return jsonText(oLoad) + "\n";
+}
+
+int runLoad(const StGlobalOptions& stOptions, bool bJson)
+{
+    openRoot(stOptions);
+    const auto oStart = std::chrono::steady_clock::now();
+    {
+        const CProgress oProgress;
+        CXMLConfigDatabase::getInstance();
+    }
+    const std::chrono::duration<double> oTook     = std::chrono::steady_clock::now() - oStart;
+    const StLoadReport                  stReport  = CXMLConfigDatabase::getInstance()->getLoadReport();
+    const StSummary                     stSummary = summarise(stReport, oTook.count());
+    const std::vector<StRow>            lstRow    = makeRows(stReport);
+    print(bJson ? loadJson(lstRow, stSummary) : tableText(lstRow) + summaryText(stSummary));
+    if (stReport.lstDevType.empty())
+        fmt::print(stderr, "opxml: the inventory has no device types, or they could not be listed\n");
+    return stSummary.nFailed == 0 ? EXIT_YES : EXIT_NO;
+}
+} // namespace
+
+void addLoadCommand(CLI::App& oApp, StTool& stTool)
+{
+    CLI::App* pCommand = oApp.add_subcommand("load", "Load all device types and show what came of each");
+    auto      pJson    = std::make_shared<bool>(false);
+    pCommand->add_flag("--json", *pJson, "Print JSON");
+    std::string strColumns = "Columns with the number of records:\n";
+    for (const StSectionTitle& stTitle : SECTION_TITLES)
+        strColumns += fmt::format("  {:6} {}\n", stTitle.pszShort, stTitle.pszTitle);
+    pCommand->footer(strColumns + "Exit status: 0 all loaded, 1 some failed, 2 trouble.");
+    pCommand->callback([&stTool, pJson]
+                       { stTool.fnRun = [&stTool, pJson] { return runLoad(stTool.stOptions, *pJson); }; });
+}

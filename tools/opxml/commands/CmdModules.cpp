@@ -1,0 +1,204 @@
+// opxml modules: the module files, what each adds to which device types, the
+// names that no device type has, and the files and folders that were not read.
+#include "database/CXMLConfigDatabase.h"
+#include "records/ResultCodes.h"
+#include "standalone/LogSink.h"
+#include "tools/opxml/commands/Command.h"
+#include "tools/opxml/output/DevTypes.h"
+#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Progress.h"
+#include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Sections.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+
+namespace
+{
+// What the database keeps of one module.
+struct StModule
+{
+    SectionCounts            arRead  = {};
+    SectionCounts            arAdded = {}; // without menus and tabs
+    std::vector<std::string> lstSupport;
+};
+
+struct StModules
+{
+    StLoadReport                    stReport;
+    std::map<std::string, StModule> mapModule;
+    std::vector<std::string>        lstTypeName;      // of the registry
+    std::set<std::string>           setLoaded;        // types with a configuration
+    std::vector<std::string>        lstFolderProblem; // log lines of folders that could not be opened
+};
+
+StModules loadModules()
+{
+    StModules stModules;
+    standalone::setLogListener(
+        [&stModules](const standalone::StLogLine& stLine)
+        {
+            if (stLine.strText.find("CModuleXMLResReader::parseXMLOfDirs(): open dir failed!") != std::string::npos)
+                stModules.lstFolderProblem.push_back(stLine.strText);
+        });
+    CXMLConfigDatabase* pDatabase = nullptr;
+    {
+        const CProgress oProgress;
+        pDatabase = CXMLConfigDatabase::getInstance();
+    }
+    standalone::setLogListener({});
+    stModules.stReport = pDatabase->getLoadReport();
+    for (const StDevTypeLoad& stLoad : stModules.stReport.lstDevType)
+    {
+        stModules.lstTypeName.push_back(stLoad.strDevType);
+        if (stLoad.ulResult == 0)
+            stModules.setLoaded.insert(stLoad.strDevType);
+    }
+    pDatabase->visitModules(
+        [&stModules](const std::string& strName, const StAsnModuleInfoVerXMLInfo& stModule)
+        {
+            stModules.mapModule[strName] = {countSections(stModule),
+                                            countAdded(stModule),
+                                            {stModule.lstSupportDevType.begin(), stModule.lstSupportDevType.end()}};
+        });
+    return stModules;
+}
+
+bool isRegistered(const StModules& stModules, const std::string& strType)
+{
+    const auto& lstName = stModules.lstTypeName;
+    return std::find(lstName.begin(), lstName.end(), strType) != lstName.end();
+}
+
+// Why a file is no module, in words.
+std::string moduleFailure(const StModules& stModules, const StModuleLoad& stLoad)
+{
+    if (!stLoad.strProblem.empty())
+        return stLoad.strProblem;
+    for (const StModuleLoad& stOther : stModules.stReport.lstModule)
+    {
+        if (&stOther == &stLoad)
+            break;
+        if (stOther.ulResult == 0 && stOther.strName == stLoad.strName && stLoad.ulResult == DC_RESULT_INVALID_PARA)
+            return fmt::format("its name \"{}\" is taken by {}, which is kept", stLoad.strName,
+                               shortPath(stOther.strFile));
+    }
+    return "result " + resultText(stLoad.ulResult);
+}
+
+// "Device operations 1, Check operations 2"; empty when there are none.
+std::string countsText(const SectionCounts& arCount)
+{
+    std::string strText;
+    for (std::size_t nAt = 0; nAt < SECTION_COUNT; ++nAt)
+    {
+        if (arCount[nAt] != 0)
+            strText += fmt::format("{}{} {}", strText.empty() ? "" : ", ", SECTION_TITLES[nAt].pszTitle, arCount[nAt]);
+    }
+    return strText;
+}
+
+void addSupport(StTree& stTree, const StModules& stModules, const StModule& stModule)
+{
+    StTree&               stSupport = stTree.add(stModule.lstSupport.empty() ? "supports no device type" : "supports");
+    std::set<std::string> setSeen;
+    for (const std::string& strType : stModule.lstSupport)
+    {
+        std::string strLine = strType;
+        if (!setSeen.insert(strType).second)
+            strLine += " (again: everything is added once more)";
+        if (!isRegistered(stModules, strType))
+            strLine += ": no such device type" + nearestNames(strType, stModules.lstTypeName);
+        else if (stModules.setLoaded.count(strType) == 0)
+            strLine += ": has no configuration; opxml load says why";
+        stSupport.add(strLine);
+    }
+}
+
+std::string modulesText(const StModules& stModules)
+{
+    std::string strText;
+    for (const StModuleLoad& stLoad : stModules.stReport.lstModule)
+    {
+        const std::string strFile = shortPath(stLoad.strFile);
+        if (stLoad.ulResult != 0)
+        {
+            strText += inRed(printable(strFile + ": failed: " + moduleFailure(stModules, stLoad))) + "\n";
+            continue;
+        }
+        const StModule& stModule = stModules.mapModule.at(stLoad.strName);
+        StTree          stTree   = {stLoad.strName, {}};
+        stTree.add("file " + strFile);
+        SectionCounts arNotAdded = {};
+        for (std::size_t nAt = 0; nAt < SECTION_COUNT; ++nAt)
+            arNotAdded[nAt] = stModule.arRead[nAt] - stModule.arAdded[nAt];
+        const std::string strAdded    = countsText(stModule.arAdded);
+        const std::string strNotAdded = countsText(arNotAdded);
+        stTree.add(strAdded.empty() ? "adds nothing" : "adds " + strAdded);
+        if (!strNotAdded.empty())
+            stTree.add("read, but not added: " + strNotAdded);
+        addSupport(stTree, stModules, stModule);
+        strText += treeText(stTree);
+    }
+    return strText;
+}
+
+Json moduleJson(const StModules& stModules, const StModuleLoad& stLoad)
+{
+    Json oModule = {{"name", stLoad.strName}, {"file", stLoad.strFile}, {"result", stLoad.ulResult}};
+    if (stLoad.ulResult != 0)
+    {
+        oModule["reason"] = moduleFailure(stModules, stLoad);
+        return oModule;
+    }
+    const StModule& stModule = stModules.mapModule.at(stLoad.strName);
+    for (std::size_t nAt = 0; nAt < SECTION_COUNT; ++nAt)
+    {
+        oModule["read"][SECTION_TITLES[nAt].pszField]  = stModule.arRead[nAt];
+        oModule["added"][SECTION_TITLES[nAt].pszField] = stModule.arAdded[nAt];
+    }
+    oModule["supports"] = Json::array();
+    for (const std::string& strType : stModule.lstSupport)
+        oModule["supports"].push_back({{"type", strType},
+                                       {"registered", isRegistered(stModules, strType)},
+                                       {"loaded", stModules.setLoaded.count(strType) != 0}});
+    return oModule;
+}
+
+std::string modulesJson(const StModules& stModules)
+{
+    Json oModules = Json::array();
+    for (const StModuleLoad& stLoad : stModules.stReport.lstModule)
+        oModules.push_back(moduleJson(stModules, stLoad));
+    return jsonText({{"modules", oModules}, {"folderProblems", stModules.lstFolderProblem}}) + "\n";
+}
+
+int runModules(const StGlobalOptions& stOptions, bool bJson)
+{
+    openRoot(stOptions);
+    const StModules stModules = loadModules();
+    bool            bAllRead  = stModules.lstFolderProblem.empty() && !stModules.mapModule.empty();
+    for (const StModuleLoad& stLoad : stModules.stReport.lstModule)
+        bAllRead = bAllRead && stLoad.ulResult == 0;
+    print(bJson ? modulesJson(stModules) : modulesText(stModules));
+    for (const std::string& strProblem : stModules.lstFolderProblem)
+        fmt::print(stderr, "opxml: {}\n", printable(strProblem));
+    if (stModules.stReport.lstModule.empty())
+        fmt::print(stderr, "opxml: there are no module files\n");
+    return bAllRead ? EXIT_YES : EXIT_NO;
+}
+} // namespace
+
+void addModulesCommand(CLI::App& oApp, StTool& stTool)
+{
+    CLI::App* pCommand = oApp.add_subcommand("modules", "Show the modules, what they add, and to which device types");
+    auto      pJson    = std::make_shared<bool>(false);
+    pCommand->add_flag("--json", *pJson, "Print JSON");
+    pCommand->footer("Exit status: 0 all read, 1 some file or folder was not, or there are none, 2 trouble.");
+    pCommand->callback([&stTool, pJson]
+                       { stTool.fnRun = [&stTool, pJson] { return runModules(stTool.stOptions, *pJson); }; });
+}

@@ -1,0 +1,22 @@
+// See Command.h.
+#include "tools/opxml/commands/Command.h"
+
+#include "standalone/LogSink.h"
+#include "standalone/ServerRoot.h"
+
+void openLog(const StGlobalOptions& stOptions)
+{
+    std::string strError;
+    if (!stOptions.strLogFile.empty() && !standalone::setJsonLog(stOptions.strLogFile, strError))
+        throw CTrouble(strError);
+    if (stOptions.bVerbose)
+        standalone::setConsoleLog(standalone::EnConsoleLevel::All);
+}
+
+void openRoot(const StGlobalOptions& stOptions)
+{
+    openLog(stOptions);
+    std::string strError;
+    if (!standalone::openServerRoot(stOptions.strRoot, strError))
+        throw CTrouble(strError);
+}

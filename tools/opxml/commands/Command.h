@@ -1,0 +1,45 @@
+// The room commands/: one source a command (CmdNAME.cpp), which gathers what it
+// shows as plain values and then prints it. Here is what they share: the options
+// that stand before every command, exit codes, opening the server root, and how a
+// command is added to the tool.
+#ifndef OPERATIONXML_TOOLS_OPXML_COMMANDS_COMMAND_H
+#define OPERATIONXML_TOOLS_OPXML_COMMANDS_COMMAND_H
+
+#include "tools/opxml/output/Exit.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <string>
+
+struct StGlobalOptions
+{
+    std::string strRoot = ".";
+    std::string strLogFile;
+    bool        bVerbose = false;
+};
+
+// What the command line asked for; main() runs it after parsing.
+struct StTool
+{
+    StGlobalOptions      stOptions;
+    std::function<int()> fnRun;
+};
+
+// Opens the log that the options name; throws CTrouble.
+void openLog(const StGlobalOptions& stOptions);
+
+// Opens the log and the server root; throws CTrouble.
+void openRoot(const StGlobalOptions& stOptions);
+
+// Each adds one command, in a source file of its own.
+void addLoadCommand(CLI::App& oApp, StTool& stTool);
+void addShowCommand(CLI::App& oApp, StTool& stTool);
+void addDumpCommand(CLI::App& oApp, StTool& stTool);
+void addQueryCommand(CLI::App& oApp, StTool& stTool);
+void addModulesCommand(CLI::App& oApp, StTool& stTool);
+void addAlarmCommand(CLI::App& oApp, StTool& stTool);
+void addTransferCommand(CLI::App& oApp, StTool& stTool);
+void addFileCheckCommand(CLI::App& oApp, StTool& stTool);
+
+#endif

@@ -1,0 +1,32 @@
+// Finding a device type by what people type: its name and perhaps a version, or
+// a storage key.
+#ifndef OPERATIONXML_TOOLS_OPXML_OUTPUT_DEVTYPES_H
+#define OPERATIONXML_TOOLS_OPXML_OUTPUT_DEVTYPES_H
+
+#include "database/LoadReport.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+// Every storage key that a name stands for: the key of this name, and those of
+// the registry entries of this type (with a version: of that entry alone).
+std::set<std::string> findKeys(const StLoadReport& stReport, const std::string& strName,
+                               const std::string& strVersion = "");
+
+// All type names and keys, for suggestions.
+std::vector<std::string> knownNames(const StLoadReport& stReport);
+
+// "no device type "X"; did you mean "Y"?"
+std::string unknownTypeText(const StLoadReport& stReport, const std::string& strName);
+
+// Where a configuration came from, in words: "own file", "capacity", ...
+std::string sourceText(EnConfigSource enSource);
+
+// Why an entry was not loaded, in words.
+std::string failureText(const StDevTypeLoad& stLoad);
+
+// A path below the server root without the root.
+std::string shortPath(const std::string& strPath);
+
+#endif

@@ -1,0 +1,25 @@
+// A progress bar on stderr while the database loads; nothing when stderr is no
+// terminal.
+#ifndef OPERATIONXML_TOOLS_OPXML_OUTPUT_PROGRESS_H
+#define OPERATIONXML_TOOLS_OPXML_OUTPUT_PROGRESS_H
+
+#include <cstddef>
+
+class CProgress
+{
+public:
+    // Follows the load from here on, until the object dies.
+    CProgress();
+    ~CProgress();
+    CProgress(const CProgress&)            = delete;
+    CProgress& operator=(const CProgress&) = delete;
+
+private:
+    void step();
+
+    bool        m_bShown;
+    std::size_t m_nTotal = 0;
+    std::size_t m_nDone  = 0;
+};
+
+#endif

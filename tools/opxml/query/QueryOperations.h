@@ -1,0 +1,43 @@
+// The room query/: one question of the server, from a command line or a line of a
+// batch to its answer (QueryCall.h) and to why it is no (QueryReasons.h). Here are
+// the operations that opxml query knows: one table for its help, its list, the
+// question of a command line and those of a batch. Asking one loads the device
+// types when the operation needs them, on first use; it may not be asked before
+// a server root is open.
+#ifndef OPERATIONXML_TOOLS_OPXML_QUERY_QUERYOPERATIONS_H
+#define OPERATIONXML_TOOLS_OPXML_QUERY_QUERYOPERATIONS_H
+
+#include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/query/QueryArguments.h"
+#include "tools/opxml/query/QueryReasons.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+struct StQueryAnswer
+{
+    std::uint32_t ulResult; // 0 for operations that have no result code
+    Json          oAnswer;  // null: the operation left its output as it was
+    bool          bFound;   // yes, or something was found
+};
+
+// One way to call an operation; an operation with two has two rows.
+struct StQueryOperation
+{
+    const char*                   pszName;
+    std::vector<StQueryParameter> lstParameter;
+    const char*                   pszAnswer;
+    StQueryAnswer (*pfnAsk)(const QueryArguments&);
+    QueryReason pfnReason; // null: there is nothing to explain
+};
+const std::vector<StQueryOperation>& queryOperations();
+
+// "TYPE VERSION OPERATION".
+std::string parameterNames(const StQueryOperation& stOperation);
+
+// The row for a name and its arguments, which it converts. Null with what is
+// wrong in strError.
+const StQueryOperation* findOperation(const std::string& strName, QueryArguments& lstArgument, std::string& strError);
+
+#endif
