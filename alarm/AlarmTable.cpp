@@ -43,7 +43,7 @@ void CAlarmTable::read(const LocationInfo& stWhere, const std::function<void(con
     m_pXmlParser->parseFile(m_strPath);
     if (m_pXmlParser->getDocument() == nullptr)
     {
-        addProblem(m_pXmlParser->problem());
+        addProblem(problemText(m_pXmlParser->problem()));
         logFail(stWhere, DC_RESULT_XML_ERROR, "XercesDOMParser::getDocument failed :");
         return;
     }

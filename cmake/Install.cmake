@@ -18,7 +18,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "SectionChain.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
-install(FILES common/XmlParser.h common/XmlLimits.h DESTINATION ${HEADER_FOLDER}/common)
+install(FILES common/XmlParser.h common/XmlLimits.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
 
 # Finds the other folder from where a file lies, whatever the prefix is called.
 file(RELATIVE_PATH BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})

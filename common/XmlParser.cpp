@@ -31,20 +31,22 @@ namespace
 class CFirstError : public ErrorHandler
 {
 public:
-    explicit CFirstError(std::string& strProblem) : m_strProblem(strProblem) {}
+    explicit CFirstError(StReadProblem& stProblem) : m_stProblem(stProblem) {}
 
     void warning(const SAXParseException& /*oProblem*/) override {}
     void error(const SAXParseException& /*oProblem*/) override {}
     void fatalError(const SAXParseException& oProblem) override
     {
-        if (m_strProblem.empty())
-            m_strProblem = "line " + std::to_string(oProblem.getLineNumber()) + ", column " +
-                           std::to_string(oProblem.getColumnNumber()) + ": " + toLocal(oProblem.getMessage());
+        if (m_stProblem.isSet())
+            return;
+        m_stProblem.ulLine   = static_cast<std::uint32_t>(oProblem.getLineNumber());
+        m_stProblem.ulColumn = static_cast<std::uint32_t>(oProblem.getColumnNumber());
+        m_stProblem.strText  = toLocal(oProblem.getMessage());
     }
     void resetErrors() override {}
 
 private:
-    std::string& m_strProblem;
+    StReadProblem& m_stProblem;
 };
 
 // Ends a parse where a limit is passed.
@@ -194,8 +196,8 @@ void CXmlParser::releaseDocument()
     m_oNesting        = {};
     m_bInEmptyElement = false;
     m_nEntityText     = 0;
-    m_strProblem.clear();
-    fParseInProgress = false; // left set by a parse that ran out of memory
+    m_stProblem       = {};
+    fParseInProgress  = false; // left set by a parse that ran out of memory
     resetDocumentPool();
 }
 
@@ -204,54 +206,59 @@ void CXmlParser::parseFile(const std::string& strPath)
     std::string strBytes;
     std::string strProblem = CFile(strPath).read(strBytes);
     if (strProblem.empty())
-        return parseText(strBytes);
-    releaseDocument();
-    m_strProblem = std::move(strProblem);
+        parseText(strBytes);
+    else
+    {
+        releaseDocument();
+        m_stProblem.strText = std::move(strProblem);
+    }
+    if (m_stProblem.isSet())
+        m_stProblem.strFile = strPath;
 }
 
 void CXmlParser::parseText(std::string_view strXml)
 {
     releaseDocument();
-    std::string strProblem;
+    StReadProblem stProblem;
     try
     {
-        CFirstError oFirstError(strProblem);
+        CFirstError oFirstError(stProblem);
         setErrorHandler(&oFirstError);
         parse(CTextSource(strXml));
-        if (strProblem.empty() && getErrorCount() != 0)
-            strProblem = "the parser reported an error";
-        else if (strProblem.empty() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
-            strProblem = "the document has no root element";
+        if (!stProblem.isSet() && getErrorCount() != 0)
+            stProblem.strText = "the parser reported an error";
+        else if (!stProblem.isSet() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
+            stProblem.strText = "the document has no root element";
     }
     catch (const StLimitPassed& stPassed)
     {
-        strProblem = stPassed.strProblem;
+        stProblem.strText = stPassed.strProblem;
     }
     catch (const OutOfMemoryException&)
     {
-        strProblem = "out of memory";
+        stProblem.strText = "out of memory";
     }
     catch (const std::bad_alloc&)
     {
-        strProblem = "out of memory";
+        stProblem.strText = "out of memory";
     }
     catch (const XMLException& oProblem)
     {
-        strProblem = toLocal(oProblem.getMessage());
+        stProblem.strText = toLocal(oProblem.getMessage());
     }
     catch (const DOMException& oProblem)
     {
-        strProblem = toLocal(oProblem.getMessage());
+        stProblem.strText = toLocal(oProblem.getMessage());
     }
     catch (const SAXException& oProblem)
     {
-        strProblem = toLocal(oProblem.getMessage());
+        stProblem.strText = toLocal(oProblem.getMessage());
     }
     setErrorHandler(nullptr);
-    if (strProblem.empty())
+    if (!stProblem.isSet())
         return;
     releaseDocument(); // a half-read document is no document
-    m_strProblem = std::move(strProblem);
+    m_stProblem = std::move(stProblem);
 }
 
 // A parameter entity, and the default of an attribute, are expanded before

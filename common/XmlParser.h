@@ -11,6 +11,7 @@
 #ifndef OPERATIONXML_COMMON_XMLPARSER_H
 #define OPERATIONXML_COMMON_XMLPARSER_H
 
+#include "common/ReadProblem.h"
 #include "common/XmlLimits.h"
 #include "platform/Export.h"
 
@@ -44,8 +45,8 @@ public:
     // Frees the document, as if nothing had been parsed.
     void releaseDocument();
 
-    // Why there is no document ("line 12, column 7: ..."); empty after a good parse.
-    const std::string& problem() const { return m_strProblem; }
+    // Why there is no document, and where in which file; not set after a good parse.
+    const StReadProblem& problem() const { return m_stProblem; }
 
     // All elements of the document with this tag name, in document order.
     const ElementList& elements(const char16_t* pszName) const;
@@ -72,7 +73,7 @@ private:
     CNestingCheck                                 m_oNesting;
     bool                                          m_bInEmptyElement = false;
     std::size_t                                   m_nEntityText     = 0;
-    std::string                                   m_strProblem;
+    StReadProblem                                 m_stProblem;
 };
 
 #endif

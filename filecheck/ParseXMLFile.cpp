@@ -52,7 +52,7 @@ std::uint32_t ParseXMLFile::GetXMLInfo(const std::string& strPath, TypeMap& mapT
     if (pDOMParser != nullptr)
     {
         pDOMParser->parseFile(kIVOGlobalUtils::LOCTOUTF8(strPath));
-        addProblem(pLstProblem, pDOMParser->problem());
+        addProblem(pLstProblem, problemText(pDOMParser->problem()));
     }
     const DOMElement*   pRoot    = nullptr;
     const std::uint32_t ulResult = GoNextParam(pDOMParser.get(), pRoot, u"zipcheck");

@@ -134,7 +134,7 @@ void CDevTypeXMLResReader::parseConfigFile()
 {
     // A document that cannot be parsed is no document; the sections report it.
     m_pXmlParser->parseFile(m_stOrigin.strFile);
-    m_stOrigin.strProblem = m_pXmlParser->problem();
+    m_stOrigin.strProblem = problemText(m_pXmlParser->problem());
 }
 
 void CDevTypeXMLResReader::parseCheckFile(std::unique_ptr<CXmlParser>& pParser, const std::string& strFilePath)
@@ -144,8 +144,8 @@ void CDevTypeXMLResReader::parseCheckFile(std::unique_ptr<CXmlParser>& pParser, 
     if (pParser == nullptr)
         return; // the check sections report a missing parser
     pParser->parseFile(strFilePath);
-    if (!pParser->problem().empty())
-        m_stOrigin.strProblem = strFilePath + ": " + pParser->problem();
+    if (pParser->problem().isSet())
+        m_stOrigin.strProblem = problemWithFile(pParser->problem());
 }
 
 std::uint32_t CDevTypeXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDOMParser, StAsnDevTypeVerXMLInfo* pInfo)

@@ -116,7 +116,8 @@ std::uint32_t CModuleXMLResReader::parseModuleXML(const std::string& strPath, Mo
         logCall(DC_HERE, ulResult, "initialize(strPath, pXmlParser)");
     else
         ulResult = setDevXMLConfig(pXmlParser.get(), mapModule);
-    m_lstFile.push_back({strPath, m_strName, pXmlParser == nullptr ? "" : pXmlParser->problem(), ulResult});
+    m_lstFile.push_back(
+        {strPath, m_strName, pXmlParser == nullptr ? "" : problemText(pXmlParser->problem()), ulResult});
     return ulResult;
 }
 

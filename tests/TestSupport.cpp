@@ -42,7 +42,7 @@ void keepLine(const standalone::StLogLine& stLine)
 CParsedXml::CParsedXml(std::string_view strXml) : m_pParser(CXmlParser::create())
 {
     m_pParser->parseText(fmt::format("<Configuration>{}</Configuration>", strXml));
-    EXPECT_EQ("", m_pParser->problem());
+    EXPECT_EQ("", m_pParser->problem().strText);
 }
 
 std::vector<std::string> logLines()

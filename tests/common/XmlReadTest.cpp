@@ -80,7 +80,7 @@ TEST(XmlReadTest, LookupsAreTheDescendantLookupOfTheDom)
         SCOPED_TRACE(strXml);
         const auto pParser = CXmlParser::create();
         pParser->parseText(strXml);
-        ASSERT_EQ("", pParser->problem());
+        ASSERT_EQ("", pParser->problem().strText);
         CForeignXml oForeign(strXml);
 
         // Whole documents: every section, then every operation of each.

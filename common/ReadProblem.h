@@ -1,0 +1,30 @@
+// StReadProblem: what went wrong where while something was read. The one kind of
+// value that carries it: the parser makes it, load report, module files, alarm
+// tables and file-check rules hand it on, and people see it through the functions
+// below. A plain value, safe on any thread.
+#ifndef OPERATIONXML_COMMON_READPROBLEM_H
+#define OPERATIONXML_COMMON_READPROBLEM_H
+
+#include "platform/Export.h"
+
+#include <cstdint>
+#include <string>
+
+struct StReadProblem
+{
+    std::string   strFile;      // empty when what was read is no file
+    std::uint32_t ulLine   = 0; // counted from 1; 0 when there is no place
+    std::uint32_t ulColumn = 0; // counted from 1 in characters; 0 when only the line is known
+    std::string   strText;      // what is wrong; empty: nothing is
+
+    bool isSet() const { return !strText.empty(); }
+};
+
+// For people who know the file: "line 12, column 7: TEXT", as far as the place is
+// known; empty when nothing is wrong.
+OPERATIONXML_API std::string problemText(const StReadProblem& stProblem);
+
+// The same with the file in front: "FILE: line 12, column 7: TEXT".
+OPERATIONXML_API std::string problemWithFile(const StReadProblem& stProblem);
+
+#endif
