@@ -159,6 +159,21 @@ public:
     static std::string trans2TelnetDevType(const std::string& strDevType, const std::string& strDevTypeVer);
     static bool        bTelnetToDev(const StDeviceInfo& stDeviceInfo);
 
+    // For opxml alone: the same answer with the step that gave it. The first step
+    // that applies decides; each always gives the same answer, save the last.
+    enum class EnTelnetStep
+    {
+        Domain,       // no: the type is not datacom
+        NoDevice,     // no: the id stands for no device
+        LoginState,   // yes
+        ConnectState, // no
+        Snmp,         // no: managed over SNMP
+        NotV3R7,      // yes
+        OtherType,    // yes: compatible with another type
+        Capability,   // what isSupportTelnetToDevice says
+    };
+    static bool bTelnetToDev(const StDeviceInfo& stDeviceInfo, EnTelnetStep& enDecided);
+
     // ---- Content types and board types (ContentTypes.cpp) ----
     // 0 with an untouched output when nothing matches, so callers pre-set it; the
     // platform's code when a device or id cannot be resolved;

@@ -1,4 +1,5 @@
 // The yes/no questions about a device type, and the telnet rules.
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "database/QueryGuard.h"
 #include "records/RecordSearch.h"
@@ -145,21 +146,43 @@ std::string CXMLConfigDatabase::trans2TelnetDevType(const std::string& strDevTyp
 
 bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo)
 {
-    const _TraceFunction     oTrace(DC_HERE);
+    EnTelnetStep enDecided = EnTelnetStep::Domain;
+    return bTelnetToDev(stDeviceInfo, enDecided);
+}
+
+bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo, EnTelnetStep& enDecided)
+try
+{
+    const _TraceFunction oTrace(DC_HERE);
+    const auto           decide = [&enDecided](EnTelnetStep enStep, bool bTelnet)
+    {
+        enDecided = enStep;
+        return bTelnet;
+    };
     CDeviceAdapterInterface* pAdapter = CDeviceAdapterInterface::getInstance();
     const std::uint32_t      ulTypeID = stDeviceInfo.ulDeviceTypeID;
     EnDeviceType             enDomain = EnDeviceTypeUnknown;
     pAdapter->searchDomain(ulTypeID, enDomain); // an id without a domain stays unknown
-    if (enDomain != EnDeviceTypeDatacom || stDeviceInfo.ulDeviceID == INVALID_DEVICE_ID)
-        return false;
+    if (enDomain != EnDeviceTypeDatacom)
+        return decide(EnTelnetStep::Domain, false);
+    if (stDeviceInfo.ulDeviceID == INVALID_DEVICE_ID)
+        return decide(EnTelnetStep::NoDevice, false);
     if (stDeviceInfo.ulLoginState == 5 || stDeviceInfo.ulLoginState == 6)
-        return true;
-    if (stDeviceInfo.ulConnectState == 1 || stDeviceInfo.ulConnectState == 2 || !pAdapter->isSnmpDevice(ulTypeID))
-        return false;
+        return decide(EnTelnetStep::LoginState, true);
+    if (stDeviceInfo.ulConnectState == 1 || stDeviceInfo.ulConnectState == 2)
+        return decide(EnTelnetStep::ConnectState, false);
+    if (pAdapter->isSnmpDevice(ulTypeID))
+        return decide(EnTelnetStep::Snmp, false);
     if (!pAdapter->isV3R7Device(ulTypeID))
-        return true;
+        return decide(EnTelnetStep::NotV3R7, true);
     const auto usTypeID = static_cast<std::uint16_t>(ulTypeID); // compatibility knows 16 bits of an id
     if (usTypeID != CCompatibleAdapter::getCompatibleDevType(usTypeID))
-        return true;
-    return pAdapter->isSupportTelnetToDevice(ulTypeID, stDeviceInfo.strTelnetCapability);
+        return decide(EnTelnetStep::OtherType, true);
+    return decide(EnTelnetStep::Capability,
+                  pAdapter->isSupportTelnetToDevice(ulTypeID, stDeviceInfo.strTelnetCapability));
+}
+catch (...)
+{
+    logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return false;
 }

@@ -10,10 +10,10 @@
 -- Two versions of one type share one file and one place in the store; the version
 -- with "_telnet" in it is the telnet variant and has a place and a file of its own.
 INSERT INTO device_type (position, name, version, type_id, version_id, support_patch, support_backup, series, description, protocol) VALUES
-  ( 1, 'LX 2400/S',      'V3.7',           1001, 1, 1, 1, 'LX',       'campus switch',                 'SNMP'),
-  ( 2, 'LX 2400/S',      'V3.8',           1001, 2, 1, 1, 'LX',       'campus switch',                 'SNMP'),
+  ( 1, 'LX 2400/S',      'V3.7',           1001, 1, 1, 1, 'LX',       'campus switch',                 'CLI'),
+  ( 2, 'LX 2400/S',      'V3.8',           1001, 2, 1, 1, 'LX',       'campus switch',                 'CLI'),
   ( 3, 'LX 2400/S',      'V3.7_telnet',    1001, 3, 1, 1, 'LX',       'campus switch over telnet',     'Telnet'),
-  ( 4, 'RX 7600+',       'R12',            1002, 1, 1, 1, 'RX',       'core router',                   'SNMP'),
+  ( 4, 'RX 7600+',       'R12',            1002, 1, 1, 1, 'RX',       'core router',                   'CLI'),
   ( 5, 'RX 7600+',       'R12_telnet',     1002, 2, 1, 1, 'RX',       'core router over telnet',       'Telnet'),
   ( 6, 'RX 900\E',       'R9',             1003, 1, 0, 1, 'RX',       'branch router',                 'SNMP');
 
@@ -22,11 +22,11 @@ INSERT INTO device_type (position, name, version, type_id, version_id, support_b
   ( 7, 'RX 300',         'R3',             1004, 1, 1, 'RX',       'access router',                      'SNMP');
 
 INSERT INTO device_type (position, name, version, type_id, version_id, support_patch, support_backup, series, description, protocol) VALUES
-  ( 8, 'Fjord-DC 32',    'F2.1',           1005, 1, 1, 1, 'Fjord',    'data centre switch',            'SNMP');
+  ( 8, 'Fjord-DC 32',    'F2.1',           1005, 1, 1, 1, 'Fjord',    'data centre switch',            'CLI');
 
 -- Served by the common file (config_file_type 1).
 INSERT INTO device_type (position, name, version, type_id, version_id, config_file_type, support_backup, series, description, protocol) VALUES
-  ( 9, 'NetEdge 5',      'N1',             1006, 1, 1, 1, 'NetEdge',  'customer gateway',              'CLI'),
+  ( 9, 'NetEdge 5',      'N1',             1006, 1, 1, 1, 'NetEdge',  'customer gateway',              'SNMP'),
   (10, 'SW-100',         'S4',             1007, 1, 1, 1, 'SW',       'desktop switch',                'SNMP');
 
 -- Capacity-capable: the three flags are all 1. sys_oid selects the entry of the
@@ -81,12 +81,12 @@ INSERT INTO check_file (device_type, path, report_type) VALUES
 -- device is managed over telnet; the devices below show every way it can go.
 -- ---------------------------------------------------------------------------
 INSERT INTO device_class (type_id, domain, is_snmp, is_v3r7, compatible_type_id) VALUES
-  (1001, 2, 1, 1, NULL),   -- LX 2400/S: asks for the telnet capability
-  (1002, 2, 1, 0, NULL),   -- RX 7600+: SNMP but not V3R7
+  (1001, 2, 0, 1, NULL),   -- LX 2400/S: asks for the telnet capability
+  (1002, 2, 0, 0, NULL),   -- RX 7600+: neither SNMP nor V3R7
   (1003, 2, 1, 1, NULL),
   (1004, 2, 1, 1, NULL),
-  (1005, 2, 1, 1, 1001),   -- Fjord-DC 32: compatible with the LX 2400/S
-  (1006, 2, 0, 0, NULL),   -- NetEdge 5: no SNMP
+  (1005, 2, 0, 1, 1001),   -- Fjord-DC 32: compatible with the LX 2400/S
+  (1006, 2, 1, 0, NULL),   -- NetEdge 5: SNMP
   (1007, 2, 1, 1, NULL),
   (1008, 2, 1, 1, NULL),
   (1009, 2, 1, 1, NULL),
@@ -113,8 +113,8 @@ INSERT INTO device (device_id, name, type_id, version_id, ip_address, login_stat
   ( 104, 'lx-lab-login6',  1001, 2, '192.0.2.14',   6, 0, ''),           -- yes: so does this one
   ( 105, 'lx-up',          1001, 2, '192.0.2.15',   0, 1, 'console'),    -- no: by its connection state
   ( 106, 'lx-syncing',     1001, 2, '192.0.2.16',   0, 2, 'console'),    -- no: likewise
-  ( 107, 'edge-17',        1006, 1, '192.0.2.17',   0, 0, 'console'),    -- no: not an SNMP type
-  ( 108, 'rx-münchen',     1002, 1, '192.0.2.18',   0, 0, ''),           -- yes: SNMP, but not V3R7
+  ( 107, 'edge-17',        1006, 1, '192.0.2.17',   0, 0, 'console'),    -- no: managed over SNMP
+  ( 108, 'rx-münchen',     1002, 1, '192.0.2.18',   0, 0, ''),           -- yes: neither SNMP nor V3R7
   ( 109, 'fjord-1',        1005, 1, '192.0.2.19',   0, 0, ''),           -- yes: stands for another type
   (4026531839, 'invalid',  1001, 1, '',             5, 0, 'console'),    -- no: this number means "no device"
   ( 201, 'olt-大阪-1',     2001, 1, '198.51.100.1', 5, 0, ''),           -- no: not datacom

@@ -114,11 +114,14 @@ TEST_F(CServerTest, CapacityNeedsAllThreeFlags)
     EXPECT_EQ(Lines{"E 3B0F0001 [DCServer]CDeviceAdapterInterface::getInstance()->searchDeviceType failed."}, log());
 }
 
-TEST_F(CServerTest, TelnetPathOfADevice)
+// Each step is met with every later one answering otherwise.
+TEST_F(CServerTest, TelnetStepsDecideInTheirOrder)
 {
-    open("INSERT INTO device_class (type_id, domain, is_snmp, is_v3r7, compatible_type_id) VALUES (1, 2, 1, 0, NULL), "
-         "(2, 2, 1, 1, NULL), (3, 2, 1, 1, 2), (4, 1, 1, 0, NULL), (5, 2, 0, 0, NULL), (65538, 2, 1, 1, NULL);"
-         "INSERT INTO telnet_support VALUES (2, 'SSH'), (65538, 'SSH');");
+    using Step = CXMLConfigDatabase::EnTelnetStep;
+    open("INSERT INTO device_class (type_id, domain, is_snmp, is_v3r7, compatible_type_id) VALUES "
+         "(1, 2, 0, 0, NULL), (2, 2, 1, 0, 99), (3, 1, 0, 0, 99), (6, 2, 0, 0, 6), (7, 2, 0, 1, 99), "
+         "(10, 2, 0, 1, NULL), (65546, 2, 0, 1, NULL);"
+         "INSERT INTO telnet_support VALUES (2, 'SSH'), (3, 'SSH'), (5, 'SSH'), (10, 'SSH'), (65546, 'SSH');");
     const struct
     {
         const char*   pszName;
@@ -127,15 +130,24 @@ TEST_F(CServerTest, TelnetPathOfADevice)
         std::uint32_t ulLoginState;
         std::uint32_t ulConnectState;
         const char*   pszCapability;
+        Step          enDecided;
         bool          bTelnet;
     } CASES[] = {
-        {"invalid device before login state", INVALID_DEVICE_ID, 1, 5, 0, "SSH", false},
-        {"login state 5 before connect state", 1, 5, 5, 1, "", true},
-        {"login state 7 says nothing", 1, 5, 7, 0, "", false},
-        {"connect state 2", 1, 1, 4, 2, "SSH", false},
-        {"compatible with another type", 1, 3, 0, 0, "", true},
-        {"the low half of the id is compatible with itself", 1, 65538, 0, 0, "", false},
-        {"and its capability decides under the whole id", 1, 65538, 0, 0, "SSH", true},
+        {"domain 1", 1, 3, 5, 0, "SSH", Step::Domain, false},
+        {"no domain known", 1, 5, 5, 0, "SSH", Step::Domain, false},
+        {"no device", INVALID_DEVICE_ID, 1, 5, 0, "SSH", Step::NoDevice, false},
+        {"login state 5", 1, 2, 5, 1, "", Step::LoginState, true},
+        {"login state 6", 1, 2, 6, 2, "", Step::LoginState, true},
+        {"login state 4 says nothing", 1, 1, 4, 1, "SSH", Step::ConnectState, false},
+        {"login state 7 says nothing", 1, 1, 7, 2, "SSH", Step::ConnectState, false},
+        {"connect state 3 says nothing", 1, 2, 0, 3, "SSH", Step::Snmp, false},
+        {"SNMP", 1, 2, 0, 0, "SSH", Step::Snmp, false},
+        {"neither SNMP nor V3R7", 1, 6, 0, 0, "", Step::NotV3R7, true},
+        {"V3R7 and compatible with another type", 1, 7, 0, 0, "", Step::OtherType, true},
+        {"compatible with itself", 1, 10, 0, 0, "", Step::Capability, false},
+        {"its capability", 1, 10, 0, 0, "SSH", Step::Capability, true},
+        {"the low half of the id is compatible with itself", 1, 65546, 0, 0, "", Step::Capability, false},
+        {"and its capability decides under the whole id", 1, 65546, 0, 0, "SSH", Step::Capability, true},
     };
     for (const auto& stCase : CASES)
     {
@@ -146,7 +158,10 @@ TEST_F(CServerTest, TelnetPathOfADevice)
         stInfo.ulLoginState        = stCase.ulLoginState;
         stInfo.ulConnectState      = stCase.ulConnectState;
         stInfo.strTelnetCapability = stCase.pszCapability;
-        EXPECT_EQ(stCase.bTelnet, CXMLConfigDatabase().bTelnetToDev(stInfo));
+        Step enDecided             = Step::Domain;
+        EXPECT_EQ(stCase.bTelnet, CXMLConfigDatabase::bTelnetToDev(stInfo));
+        EXPECT_EQ(stCase.bTelnet, CXMLConfigDatabase::bTelnetToDev(stInfo, enDecided));
+        EXPECT_EQ(stCase.enDecided, enDecided);
     }
 }
 } // namespace

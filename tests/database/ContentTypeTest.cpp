@@ -36,7 +36,7 @@ TEST_F(CServerTest, ContentTypes)
          "INSERT INTO device_type (name, version, type_id) VALUES ('A', 'V1_telnet', 13), ('N', 'N1', 14);"
          "INSERT INTO config_file VALUES ('A_telnet', '" +
          configPath("T.xml") +
-         "'); INSERT INTO device_class (type_id, domain, is_snmp) VALUES (11, 2, 1);"
+         "'); INSERT INTO device_class (type_id, domain) VALUES (11, 2);"
          "INSERT INTO device (device_id, type_id, version_id) VALUES (1, 11, 0), (3, 99, 0), (4, 14, 0);");
     CXMLConfigDatabase& o     = *CXMLConfigDatabase::getInstance();
     const auto          fnSam = [&o](const char* pszType, const char* pszName, std::string& s)

@@ -145,27 +145,32 @@ StQueryReason whyNotTelnet(const QueryArguments& lstArgument)
     StDeviceInfo stDevice;
     if (CDCDeviceInfoDB::getDeviceInfo(lstArgument[0].asId(), stDevice) != DC_RESULT_OK)
         return {fmt::format("no device {}", lstArgument[0].asId()), {}};
-    if (CXMLConfigDatabase::bTelnetToDev(stDevice))
+    using Step                    = CXMLConfigDatabase::EnTelnetStep;
+    Step                enDecided = Step::Domain;
+    const std::uint32_t ulTypeID  = stDevice.ulDeviceTypeID;
+    if (CXMLConfigDatabase::bTelnetToDev(stDevice, enDecided))
         return {};
-    // In the order in which the steps decide; after the last one only the
-    // capability is left.
-    CDeviceAdapterInterface* pAdapter = CDeviceAdapterInterface::getInstance();
-    const std::uint32_t      ulTypeID = stDevice.ulDeviceTypeID;
-    EnDeviceType             enDomain = EnDeviceTypeUnknown;
-    pAdapter->searchDomain(ulTypeID, enDomain);
-    if (enDomain != EnDeviceTypeDatacom)
-        return {fmt::format("type {} is in domain {}, not {}", ulTypeID, static_cast<std::int32_t>(enDomain),
-                            static_cast<std::int32_t>(EnDeviceTypeDatacom)),
+    switch (enDecided)
+    {
+    case Step::Domain:
+        return {fmt::format("type {} is not in domain {} (datacom)", ulTypeID, static_cast<int>(EnDeviceTypeDatacom)),
                 {}};
-    if (stDevice.ulDeviceID == INVALID_DEVICE_ID)
+    case Step::NoDevice:
         return {"the id stands for no device", {}};
-    if (stDevice.ulConnectState == 1 || stDevice.ulConnectState == 2)
+    case Step::ConnectState:
         return {fmt::format("the connection state is {}", stDevice.ulConnectState), {}};
-    if (!pAdapter->isSnmpDevice(ulTypeID))
-        return {fmt::format("type {} is no SNMP type", ulTypeID), {}};
-    return {
-        fmt::format("type {} does not support the telnet capability \"{}\"", ulTypeID, stDevice.strTelnetCapability),
-        {}};
+    case Step::Snmp:
+        return {fmt::format("type {} is managed over SNMP", ulTypeID), {}};
+    case Step::Capability:
+        return {fmt::format("type {} does not support the telnet capability \"{}\"", ulTypeID,
+                            stDevice.strTelnetCapability),
+                {}};
+    case Step::LoginState:
+    case Step::NotV3R7:
+    case Step::OtherType:
+        break; // these say yes
+    }
+    return {};
 }
 
 StQueryReason whyNoAlarm(const QueryArguments& lstArgument)
