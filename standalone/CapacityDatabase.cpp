@@ -1,8 +1,7 @@
 // The capacity database, answered from the inventory.
 #include "platform/CapacityDatabase.h"
 
-#include "standalone/Fault.h"
-#include "standalone/Inventory.h"
+#include "standalone/Answer.h"
 
 using namespace standalone;
 
@@ -10,12 +9,11 @@ using namespace standalone;
 bool CDCCapacityManagerDB::readCapacity(const std::string& strDevType, const std::string& strDevTypeVer,
                                         std::list<StCapacityInfo>& lstCapacity)
 {
-    if (armedFault("CDCCapacityManagerDB::readCapacity"))
-        return false;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return false;
-    if (const auto* pRecords = findValue(pInventory->mapCapacity, pairKey(strDevType, strDevTypeVer)))
-        lstCapacity.insert(lstCapacity.end(), pRecords->begin(), pRecords->end());
-    return true;
+    return answerValue<operation("CDCCapacityManagerDB::readCapacity")>(
+        [&](const StInventory& stInventory)
+        {
+            if (const auto* pRecords = findValue(stInventory.mapCapacity, pairKey(strDevType, strDevTypeVer)))
+                lstCapacity.insert(lstCapacity.end(), pRecords->begin(), pRecords->end());
+            return true;
+        });
 }

@@ -6,7 +6,6 @@
 
 std::string kIVOGlobalUtils::LOCTOUTF8(const std::string& strLocal)
 {
-    if (standalone::armedFault("kIVOGlobalUtils::LOCTOUTF8"))
-        return {};
-    return strLocal;
+    const bool bFault = standalone::armedFault<standalone::operation("kIVOGlobalUtils::LOCTOUTF8")>().has_value();
+    return bFault ? std::string() : strLocal;
 }

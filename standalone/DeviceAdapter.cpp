@@ -1,142 +1,106 @@
 // The device adapter, answered from the inventory.
 #include "platform/DeviceAdapter.h"
 
-#include "standalone/Fault.h"
-#include "standalone/Inventory.h"
-#include "standalone/ServerRoot.h"
+#include "standalone/Answer.h"
 
 using namespace standalone;
 
 CDeviceAdapterInterface* CDeviceAdapterInterface::getInstance()
 {
     static CDeviceAdapterInterface oInstance;
+    armedFault<operation("CDeviceAdapterInterface::getInstance")>();
     return &oInstance;
 }
 
 std::uint32_t CDeviceAdapterInterface::getALLDLLInfo(std::list<StDeviceType>& lstDllInfo)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::getALLDLLInfo"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    lstDllInfo.insert(lstDllInfo.end(), pInventory->lstDeviceType.begin(), pInventory->lstDeviceType.end());
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::getALLDLLInfo")>(
+        [&](const StInventory& stInventory)
+        {
+            lstDllInfo.insert(lstDllInfo.end(), stInventory.lstDeviceType.begin(), stInventory.lstDeviceType.end());
+            return 0u;
+        });
 }
 
 std::uint32_t CDeviceAdapterInterface::searchDeviceType(const std::string& strDevType, const std::string& strDevTypeVer,
                                                         StDeviceType& stDeviceType)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::searchDeviceType"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    const StDeviceType* pType = pInventory->findType(strDevType, strDevTypeVer);
-    if (pType == nullptr)
-        return RESULT_NOT_IN_INVENTORY;
-    stDeviceType = *pType;
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::searchDeviceType")>(
+        [&](const StInventory& stInventory)
+        { return copyFound(stInventory.findType(strDevType, strDevTypeVer), stDeviceType); });
 }
 
 std::uint32_t CDeviceAdapterInterface::searchTypeName(std::uint32_t ulDeviceTypeID, std::uint32_t ulDeviceTypeVersionID,
                                                       std::string& strDevType, std::string& strDevTypeVer)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::searchTypeName"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    const StDeviceType* pType = pInventory->findType(ulDeviceTypeID, ulDeviceTypeVersionID);
-    if (pType == nullptr)
-        return RESULT_NOT_IN_INVENTORY;
-    strDevType    = pType->strDevType;
-    strDevTypeVer = pType->strDevTypeVer;
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::searchTypeName")>(
+        [&](const StInventory& stInventory)
+        { return stInventory.typeName(ulDeviceTypeID, ulDeviceTypeVersionID, strDevType, strDevTypeVer); });
 }
 
 std::uint32_t CDeviceAdapterInterface::getServerConfigFile(const std::string& strDevType, std::string& strFilePath)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::getServerConfigFile"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    const std::string* pPath = findValue(pInventory->mapConfigFile, strDevType);
-    if (pPath == nullptr)
-        return RESULT_NOT_IN_INVENTORY;
-    strFilePath = *pPath;
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::getServerConfigFile")>(
+        [&](const StInventory& stInventory)
+        { return copyFound(findValue(stInventory.mapConfigFile, strDevType), strFilePath); });
 }
 
 std::uint32_t CDeviceAdapterInterface::getCheckFileAndType(const std::string& strDevType, std::string& strFilePath,
                                                            EnCheckReportType& enReportType)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::getCheckFileAndType"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    const StCheckFile* pFile = findValue(pInventory->mapCheckFile, strDevType);
-    strFilePath              = pFile == nullptr ? std::string() : pFile->strPath;
-    enReportType             = pFile == nullptr ? EnCheckReportNone : pFile->enReportType;
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::getCheckFileAndType")>(
+        [&](const StInventory& stInventory)
+        {
+            StCheckFile stFile; // no row: no file
+            copyFound(findValue(stInventory.mapCheckFile, strDevType), stFile);
+            strFilePath  = stFile.strPath;
+            enReportType = stFile.enReportType;
+            return 0u;
+        });
 }
 
 std::string CDeviceAdapterInterface::initXMLPath()
 {
-    if (armedFault("CDeviceAdapterInterface::initXMLPath"))
-        return {};
-    const auto pInventory = currentInventory();
-    return pInventory == nullptr ? std::string() : pInventory->environment("XML_PATH", true);
+    return answerValue<operation("CDeviceAdapterInterface::initXMLPath")>(
+        [](const StInventory& stInventory) { return stInventory.environment("XML_PATH", true); });
 }
 
 bool CDeviceAdapterInterface::isSnmpDevice(std::uint32_t ulDeviceTypeID)
 {
-    if (armedFault("CDeviceAdapterInterface::isSnmpDevice"))
-        return false;
-    const auto           pInventory = currentInventory();
-    const StDeviceClass* pClass     = pInventory == nullptr ? nullptr : pInventory->findClass(ulDeviceTypeID);
-    return pClass != nullptr && pClass->bSnmp;
+    return answerValue<operation("CDeviceAdapterInterface::isSnmpDevice")>(
+        [&](const StInventory& stInventory) { return stInventory.classOf(ulDeviceTypeID).bSnmp; });
 }
 
 bool CDeviceAdapterInterface::isV3R7Device(std::uint32_t ulDeviceTypeID)
 {
-    if (armedFault("CDeviceAdapterInterface::isV3R7Device"))
-        return false;
-    const auto           pInventory = currentInventory();
-    const StDeviceClass* pClass     = pInventory == nullptr ? nullptr : pInventory->findClass(ulDeviceTypeID);
-    return pClass != nullptr && pClass->bV3R7;
+    return answerValue<operation("CDeviceAdapterInterface::isV3R7Device")>(
+        [&](const StInventory& stInventory) { return stInventory.classOf(ulDeviceTypeID).bV3R7; });
 }
 
 bool CDeviceAdapterInterface::isSupportTelnetToDevice(std::uint32_t      ulDeviceTypeID,
                                                       const std::string& strTelnetCapability)
 {
-    if (armedFault("CDeviceAdapterInterface::isSupportTelnetToDevice"))
-        return false;
-    const auto pInventory = currentInventory();
-    return pInventory != nullptr && pInventory->setTelnetSupport.count({ulDeviceTypeID, strTelnetCapability}) != 0;
+    return answerValue<operation("CDeviceAdapterInterface::isSupportTelnetToDevice")>(
+        [&](const StInventory& stInventory) {
+            return stInventory.setTelnetSupport.count({ulDeviceTypeID, strTelnetCapability}) != 0;
+        });
 }
 
 std::uint32_t CDeviceAdapterInterface::searchDomain(std::uint32_t ulDeviceTypeID, EnDeviceType& enDomain)
 {
-    if (const auto oFault = armedFault("CDeviceAdapterInterface::searchDomain"))
-        return *oFault;
-    const auto pInventory = currentInventory();
-    if (pInventory == nullptr)
-        return RESULT_NO_ROOT;
-    const StDeviceClass* pClass = pInventory->findClass(ulDeviceTypeID);
-    if (pClass == nullptr)
-        return RESULT_NOT_IN_INVENTORY;
-    enDomain = pClass->enDomain;
-    return 0;
+    return answerCode<operation("CDeviceAdapterInterface::searchDomain")>(
+        [&](const StInventory& stInventory)
+        {
+            const StDeviceClass* pClass = findValue(stInventory.mapDeviceClass, ulDeviceTypeID);
+            return copyFound(pClass == nullptr ? nullptr : &pClass->enDomain, enDomain);
+        });
 }
 
 std::uint16_t CCompatibleAdapter::getCompatibleDevType(std::uint16_t usDeviceTypeID)
 {
-    if (const auto oFault = armedFault("CCompatibleAdapter::getCompatibleDevType"))
+    if (const auto oFault = armedFault<operation("CCompatibleAdapter::getCompatibleDevType")>())
         return static_cast<std::uint16_t>(*oFault);
-    const auto           pInventory = currentInventory();
-    const StDeviceClass* pClass     = pInventory == nullptr ? nullptr : pInventory->findClass(usDeviceTypeID);
-    return pClass == nullptr ? usDeviceTypeID : pClass->oCompatible.value_or(usDeviceTypeID);
+    const auto pInventory = currentInventory();
+    return pInventory == nullptr ? usDeviceTypeID
+                                 : pInventory->classOf(usDeviceTypeID).oCompatible.value_or(usDeviceTypeID);
 }

@@ -2,6 +2,7 @@
 #include "platform/Events.h"
 
 #include "standalone/EventSink.h"
+#include "standalone/Fault.h"
 #include "standalone/Listener.h"
 
 #include <utility>
@@ -25,10 +26,12 @@ void standalone::setEventListener(std::function<void(std::uint32_t, const TEEven
 TEEventMgr* TEEventMgr::Instance()
 {
     static TEEventMgr oInstance;
+    standalone::armedFault<standalone::operation("TEEventMgr::Instance")>();
     return &oInstance;
 }
 
 void TEEventMgr::raiseEvent(std::uint32_t ulEventID, const TEEventParam& stParam)
 {
-    eventListener().call(ulEventID, stParam);
+    if (!standalone::armedFault<standalone::operation("TEEventMgr::raiseEvent")>())
+        eventListener().call(ulEventID, stParam);
 }

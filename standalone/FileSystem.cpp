@@ -8,11 +8,11 @@
 #include <cerrno>
 #include <cstring>
 
-using standalone::armedFault;
+using namespace standalone;
 
 DIR* KIVO_OS::opendir(const char* pszPath, const char* /*pszEncoding*/)
 {
-    if (const auto oFault = armedFault("KIVO_OS::opendir"))
+    if (const auto oFault = armedFault<operation("KIVO_OS::opendir")>())
     {
         errno = static_cast<int>(*oFault);
         return nullptr;
@@ -23,7 +23,7 @@ DIR* KIVO_OS::opendir(const char* pszPath, const char* /*pszEncoding*/)
 int KIVO_OS::readdir_r(DIR* pDir, dirent* pEntry, dirent** ppResult, const char* /*pszEncoding*/)
 {
     *ppResult = nullptr;
-    if (const auto oFault = armedFault("KIVO_OS::readdir_r"))
+    if (const auto oFault = armedFault<operation("KIVO_OS::readdir_r")>())
         return static_cast<int>(*oFault);
     errno = 0;
     // The C library's own readdir_r is deprecated; readdir is safe as long as no
@@ -38,7 +38,7 @@ int KIVO_OS::readdir_r(DIR* pDir, dirent* pEntry, dirent** ppResult, const char*
 
 int KIVO_OS::stat(const char* pszPath, struct ::stat* pStatbuf, const char* /*pszEncoding*/)
 {
-    if (const auto oFault = armedFault("KIVO_OS::stat"))
+    if (const auto oFault = armedFault<operation("KIVO_OS::stat")>())
     {
         errno = static_cast<int>(*oFault);
         return -1;
@@ -50,7 +50,7 @@ int KIVO_OS::stat(const char* pszPath, struct ::stat* pStatbuf, const char* /*ps
 int KIVO_OS::closedir(DIR* pDir)
 {
     const int nResult = ::closedir(pDir);
-    if (const auto oFault = armedFault("KIVO_OS::closedir"))
+    if (const auto oFault = armedFault<operation("KIVO_OS::closedir")>())
     {
         errno = static_cast<int>(*oFault);
         return -1;

@@ -1,6 +1,8 @@
 // See Inventory.h.
 #include "standalone/Inventory.h"
 
+#include "standalone/ServerRoot.h"
+
 #include <atomic>
 #include <limits>
 #include <string_view>
@@ -88,9 +90,21 @@ const StManagedDevice* StInventory::findDevice(unsigned long ulDeviceID) const
     return pAt == nullptr ? nullptr : &lstDevice[*pAt];
 }
 
-const StDeviceClass* StInventory::findClass(std::uint32_t ulDeviceTypeID) const
+std::uint32_t StInventory::typeName(std::uint32_t ulDeviceTypeID, std::uint32_t ulDeviceTypeVersionID,
+                                    std::string& strDevType, std::string& strDevTypeVer) const
 {
-    return findValue(mapDeviceClass, ulDeviceTypeID);
+    const StDeviceType* pType = findType(ulDeviceTypeID, ulDeviceTypeVersionID);
+    if (pType == nullptr)
+        return RESULT_NOT_IN_INVENTORY;
+    strDevType    = pType->strDevType;
+    strDevTypeVer = pType->strDevTypeVer;
+    return 0;
+}
+
+StDeviceClass StInventory::classOf(std::uint32_t ulDeviceTypeID) const
+{
+    const StDeviceClass* pClass = findValue(mapDeviceClass, ulDeviceTypeID);
+    return pClass == nullptr ? StDeviceClass() : *pClass;
 }
 
 std::string StInventory::wholePath(const std::string& strPath) const

@@ -71,9 +71,9 @@ struct StInventory
 
     void buildIndexes();
 
-    // The first row of the name and version. A storage key finds the row of the
-    // name without "_telnet" when no row bears the whole key; only one suffix is
-    // taken off, so "X_telnet_telnet" finds "X_telnet".
+    // The first row of the name and version. The storage key of a telnet variant
+    // finds it as well when no row bears the whole key; only one suffix is taken
+    // off, so "X_telnet_telnet" finds "X_telnet".
     const StDeviceType* findType(const std::string& strName, const std::string& strVersion) const;
 
     // The first row of the two ids.
@@ -81,7 +81,12 @@ struct StInventory
 
     const StManagedDevice* findDevice(unsigned long ulDeviceID) const;
 
-    const StDeviceClass* findClass(std::uint32_t ulDeviceTypeID) const;
+    // Name and version of that row; RESULT_NOT_IN_INVENTORY and nothing written when there is none.
+    std::uint32_t typeName(std::uint32_t ulDeviceTypeID, std::uint32_t ulDeviceTypeVersionID, std::string& strDevType,
+                           std::string& strDevTypeVer) const;
+
+    // The class of a type id, all defaults when it has no row.
+    StDeviceClass classOf(std::uint32_t ulDeviceTypeID) const;
 
     // A path of the inventory, whole; "" stays empty.
     std::string wholePath(const std::string& strPath) const;

@@ -3,6 +3,7 @@
 // while nothing listens, a line costs one relaxed atomic load.
 #include "platform/Logging.h"
 
+#include "standalone/Fault.h"
 #include "standalone/Listener.h"
 #include "standalone/LogSink.h"
 #include "standalone/LogText.h"
@@ -167,17 +168,20 @@ void standalone::setLogFilter(std::function<void(std::string&)> fnFilter)
 
 void LogProcess::Error(std::uint32_t ulCode, const std::string& strText, const LocationInfo& stWhere)
 {
-    writeSafely(true, ulCode, strText, stWhere);
+    if (!armedFault<operation("LogProcess::Error")>())
+        writeSafely(true, ulCode, strText, stWhere);
 }
 
 void LogProcess::Info(const std::string& strText, const LocationInfo& stWhere)
 {
-    writeSafely(false, 0, strText, stWhere);
+    if (!armedFault<operation("LogProcess::Info")>())
+        writeSafely(false, 0, strText, stWhere);
 }
 
 _TraceFunction::_TraceFunction(const LocationInfo& stWhere) : m_stWhere(stWhere)
 {
-    sinks().oTrace.call(m_stWhere);
+    if (!armedFault<operation("_TraceFunction::_TraceFunction")>())
+        sinks().oTrace.call(m_stWhere);
 }
 
 _TraceFunction::~_TraceFunction()
@@ -188,10 +192,12 @@ _TraceFunction::~_TraceFunction()
 NS_UTIL::CDCLogFilter* NS_UTIL::CDCLogFilter::getInstance()
 {
     static CDCLogFilter oInstance;
+    armedFault<operation("NS_UTIL::CDCLogFilter::getInstance")>();
     return &oInstance;
 }
 
 void NS_UTIL::CDCLogFilter::filter(std::string& strText)
 {
-    sinks().oFilter.call(strText);
+    if (!armedFault<operation("NS_UTIL::CDCLogFilter::filter")>())
+        sinks().oFilter.call(strText);
 }

@@ -87,8 +87,10 @@ TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
             m_oRoot.writeConfig(strFile + ".xml", deviceFile({strFile}));
         open(stCase.strSql);
         clearLog();
-        std::string                   strStored;
-        const standalone::CFaultPoint oFault(stCase.pszFailing, 0, 7);
+        std::string                            strStored;
+        std::optional<standalone::CFaultPoint> oFault;
+        if (*stCase.pszFailing != '\0')
+            oFault.emplace(stCase.pszFailing, 0, 7);
         CXMLConfigDatabase::getInstance()->visitDevTypes(
             [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
             { strStored += strKey + ": " + ids(lstInfo.front()->stOperationConfig.lstDevOperation) + ";"; });
