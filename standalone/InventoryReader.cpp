@@ -5,6 +5,7 @@
 #include "standalone/InventoryScript.h"
 #include "standalone/InventoryTables.h"
 #include "standalone/Sqlite.h"
+#include "standalone/TextFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -81,7 +82,7 @@ void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
     oDb.startClock(nSize);
     for (const StInventoryTable& stTable : inventoryTables())
     {
-        const StatementPtr oRows = oDb.prepare(selectOf(stTable));
+        const StatementPtr oRows = oDb.prepare(selectOf(stTable).c_str());
         CInventoryRow      oRow(oDb, oRows.get(), stTable.pszName, stBudget);
         while (oRow.next())
             stTable.pfnAdd(oRow, stInventory);
@@ -92,7 +93,8 @@ void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
 void readDatabase(const std::string& strPath, StInventory& stInventory)
 {
     const std::size_t nSize = databaseSize(strPath);
-    CSqlite           oDb   = CSqlite::openFile(strPath);
+    const CHeapLimit  oLimit(nSize);
+    CSqlite           oDb = CSqlite::openFile(strPath);
     oDb.startClock(nSize);
     oDb.execute("BEGIN"); // one state of the file for all tables
     for (const StInventoryTable& stTable : inventoryTables())
@@ -131,9 +133,10 @@ StInventory readInventory(const std::string& strFolder)
     }
     if (!standsThere(strScript))
         throw CInventoryError(strFolder + ": no inventory: neither server.db nor server.sql is there");
-    std::size_t nSize = 0;
-    CSqlite     oDb   = runInventoryScript(strScript, nSize);
-    namingFile(strScript, [&] { readTables(oDb, nSize, stInventory); });
+    const std::string strText = readTextFile(strScript);
+    const CHeapLimit  oLimit(strText.size());
+    CSqlite           oDb = runInventoryScript(strScript, strText);
+    namingFile(strScript, [&] { readTables(oDb, strText.size(), stInventory); });
     return stInventory;
 }
 } // namespace standalone

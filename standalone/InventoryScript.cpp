@@ -2,8 +2,6 @@
 #include "standalone/InventoryScript.h"
 
 #include "standalone/InventoryTables.h"
-#include "standalone/SqlText.h"
-#include "standalone/TextFile.h"
 #include "standalone/Utf8.h"
 
 #include "Schema.h"
@@ -15,23 +13,7 @@ namespace standalone
 {
 namespace
 {
-// SQLite expands selects within selects, and every "*", while it compiles, where
-// nothing can stop it: a few hundred bytes can grow without end. So statements
-// that select are kept small; those that only insert values may be long.
-constexpr std::size_t SELECT_LENGTH        = 1024;
-constexpr std::size_t NESTED_SELECT_LENGTH = 512;
-constexpr unsigned    NESTED_SELECTS       = 3;
-
-bool isTooComplex(const StSqlStatement& stStatement)
-{
-    const std::size_t nLength = stStatement.nEnd - stStatement.nStart;
-    const bool        bNested = stStatement.bWith || stStatement.nSelects > 1;
-    if (bNested && (stStatement.nSelects > NESTED_SELECTS || nLength > NESTED_SELECT_LENGTH))
-        return true;
-    return stStatement.nSelects > 0 && nLength > SELECT_LENGTH;
-}
-
-constexpr std::size_t STATEMENT_SHOWN = 80;
+constexpr std::size_t QUOTE_SHOWN = 80;
 
 constexpr std::string_view ALLOWED_FUNCTIONS[] = {
     "abs",   "char", "coalesce", "count",     "format", "glob", "group_concat", "hex",    "ifnull",  "iif",
@@ -84,45 +66,92 @@ void checkBytes(const std::string& strPath, std::string_view strText)
         throw CInventoryError(placeOf(strPath, strText, nAt) + "not UTF-8");
 }
 
-void runStatement(CSqlite& oDb, std::string_view strText, const StSqlStatement& stStatement)
+// Behind what says nothing to SQLite: the start of the next statement.
+std::size_t behindBlanks(std::string_view strSql, std::size_t nAt)
 {
-    oDb.checkClock(); // many short statements count as well
-    if (isTooComplex(stStatement))
-        throw CInventoryError("selects too much in one statement");
-    const StatementPtr oStatement =
-        oDb.prepare(strText.substr(stStatement.nStart, stStatement.nEnd - stStatement.nStart));
-    if (oStatement == nullptr)
-        return; // a lonely ";"
-    while (oDb.step(oStatement.get()))
-        continue; // nobody looks at the rows
+    constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+    while ((nAt = strSql.find_first_not_of(" \t\n\v\f\r;", nAt)) < strSql.size())
+    {
+        if (strSql.compare(nAt, 2, "--") == 0)
+            nAt = strSql.find('\n', nAt);
+        else if (strSql.compare(nAt, 2, "/*") == 0)
+            nAt = std::min(strSql.find("*/", nAt + 2), strSql.size() - 2) + 2;
+        else if (strSql.compare(nAt, BYTE_ORDER_MARK.size(), BYTE_ORDER_MARK) == 0)
+            nAt += BYTE_ORDER_MARK.size();
+        else
+            return nAt;
+    }
+    return strSql.size();
+}
+
+void countRow(void* pRows, int /*nAction*/, const char* /*pszDb*/, const char* /*pszTable*/,
+              sqlite3_int64 /*nRowId*/) noexcept
+{
+    ++*static_cast<std::size_t*>(pRows);
+}
+
+struct StRunning
+{
+    const char* pszStart = nullptr; // of the statement
+    const char* pszRest  = nullptr; // where SQLite has stopped reading
+    std::size_t nRows    = 0;       // that it has changed
+};
+
+// The place as far as SQLite knows it: a line within the statement when it could
+// not be compiled, a row of it when it was running.
+std::string describe(const std::string& strPath, std::string_view strText, const StRunning& stRunning, int nOffset,
+                     const char* pszProblem)
+{
+    std::size_t nAt   = static_cast<std::size_t>(stRunning.pszStart - strText.data());
+    std::size_t nFrom = nAt;
+    std::size_t nTo =
+        stRunning.pszRest == nullptr ? strText.size() : static_cast<std::size_t>(stRunning.pszRest - strText.data());
+    if (nOffset >= 0)
+    {
+        nAt += static_cast<std::size_t>(nOffset);
+        nFrom = std::max(nFrom, strText.rfind('\n', nAt) + 1); // 0 in the first line
+        nTo   = std::min(strText.find('\n', nAt), strText.size());
+    }
+    std::string strPlace = placeOf(strPath, strText, nAt);
+    if (stRunning.nRows > 0)
+        strPlace += "row " + std::to_string(stRunning.nRows + 1) + ": ";
+    return strPlace + pszProblem + ": " + abbreviate(strText.substr(nFrom, nTo - nFrom), QUOTE_SHOWN);
+}
+
+void runStatements(CSqlite& oDb, std::string_view strText, StRunning& stRunning)
+{
+    sqlite3_update_hook(oDb.handle(), &countRow, &stRunning.nRows);
+    for (std::size_t nAt = behindBlanks(strText, 0); nAt < strText.size();)
+    {
+        stRunning = {strText.data() + nAt, nullptr, 0};
+        oDb.checkClock(); // many short statements count as well
+        const StatementPtr oStatement = oDb.prepare(stRunning.pszStart, &stRunning.pszRest);
+        while (oStatement != nullptr && oDb.step(oStatement.get()))
+            continue; // nobody looks at the rows
+        nAt = behindBlanks(strText, static_cast<std::size_t>(stRunning.pszRest - strText.data()));
+    }
 }
 } // namespace
 
-CSqlite runInventoryScript(const std::string& strPath, std::size_t& nSize)
+CSqlite runInventoryScript(const std::string& strPath, const std::string& strText)
 {
-    const std::string strText = readTextFile(strPath);
     checkBytes(strPath, strText);
     CSqlite oDb = CSqlite::openMemory(strText.size());
     oDb.execute(SCHEMA_SQL);
     sqlite3_set_authorizer(oDb.handle(), &authorize, nullptr);
     oDb.startClock(strText.size());
-    for (StSqlStatement stStatement = nextStatement(strText, 0); stStatement.nStart < stStatement.nEnd;
-         stStatement                = nextStatement(strText, stStatement.nEnd))
+    StRunning stRunning;
+    try
     {
-        try
-        {
-            runStatement(oDb, strText, stStatement);
-        }
-        catch (const CInventoryError& oProblem)
-        {
-            const auto nLength = stStatement.nEnd - stStatement.nStart;
-            throw CInventoryError(
-                placeOf(strPath, strText, stStatement.nStart) + oProblem.what() + ": " +
-                abbreviate(std::string_view(strText).substr(stStatement.nStart, nLength), STATEMENT_SHOWN));
-        }
+        runStatements(oDb, strText, stRunning);
     }
+    catch (const CInventoryError& oProblem)
+    {
+        throw CInventoryError(
+            describe(strPath, strText, stRunning, sqlite3_error_offset(oDb.handle()), oProblem.what()));
+    }
+    sqlite3_update_hook(oDb.handle(), nullptr, nullptr);
     sqlite3_set_authorizer(oDb.handle(), nullptr, nullptr);
-    nSize = strText.size();
     return oDb;
 }
 } // namespace standalone

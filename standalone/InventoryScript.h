@@ -6,14 +6,13 @@
 
 #include "standalone/Sqlite.h"
 
-#include <cstddef>
 #include <string>
 
 namespace standalone
 {
-// The database that the script makes, and the script's size. Throws CInventoryError, its text naming
-// file, line and statement.
-CSqlite runInventoryScript(const std::string& strPath, std::size_t& nSize);
+// The database that the script makes. Throws CInventoryError, its text naming
+// file and line, quoting the line or the statement.
+CSqlite runInventoryScript(const std::string& strPath, const std::string& strText);
 } // namespace standalone
 
 #endif

@@ -1,10 +1,11 @@
 // See Sqlite.h.
 #include "standalone/Sqlite.h"
 
-#include "standalone/SqlText.h"
+#include "standalone/Utf8.h"
 
 #include <array>
 #include <fstream>
+#include <string_view>
 #include <sys/stat.h>
 #include <time.h>
 
@@ -80,6 +81,21 @@ bool isFilled(const std::string& strPath)
 }
 } // namespace
 
+CHeapLimit::CHeapLimit(std::size_t nInventorySize)
+    : m_nSoft(sqlite3_soft_heap_limit64(-1)), m_nHard(sqlite3_hard_heap_limit64(-1))
+{
+    const auto nLimit =
+        sqlite3_memory_used() + static_cast<sqlite3_int64>(BASE_MEMORY + MEMORY_PER_BYTE * nInventorySize);
+    if (m_nHard == 0 || nLimit < m_nHard)
+        sqlite3_hard_heap_limit64(nLimit); // and the soft one with it
+}
+
+CHeapLimit::~CHeapLimit()
+{
+    sqlite3_hard_heap_limit64(m_nHard);
+    sqlite3_soft_heap_limit64(m_nSoft);
+}
+
 CSqlite::CSqlite(const std::string& strName, int nFlags)
 {
     sqlite3*  pDb = nullptr;
@@ -120,22 +136,17 @@ void CSqlite::startClock(std::size_t nInventorySize)
     const auto oTime   = BASE_TIME + std::chrono::milliseconds(nInventorySize / BYTES_PER_MILLISECOND);
     m_pClock->oEnd     = std::chrono::steady_clock::now() + oTime;
     m_pClock->oWorkEnd = workDone() + oTime;
-    m_pClock->nMemoryEnd =
-        sqlite3_memory_used() + static_cast<sqlite3_int64>(BASE_MEMORY + MEMORY_PER_BYTE * nInventorySize);
-    m_pClock->pszBroken = nullptr;
+    m_pClock->bBroken  = false;
     sqlite3_progress_handler(m_pDb.get(), STEPS_PER_CHECK, &CSqlite::onProgress, m_pClock.get());
 }
 
 int CSqlite::onProgress(void* pClock) noexcept
 {
     StClock& stClock = *static_cast<StClock*>(pClock);
-    if (sqlite3_memory_used() > stClock.nMemoryEnd)
-        stClock.pszBroken = "takes too much memory";
     // On a busy machine time passes without work being done; asking for the work
     // done is the dearer question.
-    else if (std::chrono::steady_clock::now() > stClock.oEnd && workDone() > stClock.oWorkEnd)
-        stClock.pszBroken = "takes too long";
-    return stClock.pszBroken != nullptr ? 1 : 0;
+    stClock.bBroken = std::chrono::steady_clock::now() > stClock.oEnd && workDone() > stClock.oWorkEnd;
+    return stClock.bBroken ? 1 : 0;
 }
 
 void CSqlite::checkClock()
@@ -144,12 +155,11 @@ void CSqlite::checkClock()
         throw CInventoryError(problem());
 }
 
-StatementPtr CSqlite::prepare(std::string_view strSql)
+StatementPtr CSqlite::prepare(const char* pszSql, const char** ppszRest)
 {
     sqlite3_stmt* pStatement = nullptr;
-    const int     nResult =
-        sqlite3_prepare_v2(m_pDb.get(), strSql.data(), static_cast<int>(strSql.size()), &pStatement, nullptr);
-    StatementPtr oStatement(pStatement);
+    const int     nResult    = sqlite3_prepare_v2(m_pDb.get(), pszSql, -1, &pStatement, ppszRest);
+    StatementPtr  oStatement(pStatement);
     if (nResult != SQLITE_OK)
         throw CInventoryError(problem());
     return oStatement;
@@ -176,12 +186,14 @@ void CSqlite::execute(const char* pszSql)
 
 std::string CSqlite::problem() const
 {
-    if (m_pClock->pszBroken != nullptr)
-        return m_pClock->pszBroken;
+    if (m_pClock->bBroken)
+        return "takes too long";
     switch (sqlite3_errcode(m_pDb.get()))
     {
     case SQLITE_AUTH:
         return "not allowed in an inventory";
+    case SQLITE_NOMEM:
+        return "takes too much memory";
     case SQLITE_FULL:
         return "too much data for an inventory of this size";
     default:

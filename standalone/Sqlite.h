@@ -11,7 +11,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace standalone
 {
@@ -27,6 +26,22 @@ struct StFinalizeStatement
 };
 using StatementPtr = std::unique_ptr<sqlite3_stmt, StFinalizeStatement>;
 
+// What SQLite may take for an inventory of so many bytes, for a scope. It counts
+// for the whole process, compiling a statement included; limits that were set
+// before hold as well and are there again afterwards.
+class CHeapLimit
+{
+public:
+    explicit CHeapLimit(std::size_t nInventorySize);
+    ~CHeapLimit();
+    CHeapLimit(const CHeapLimit&)            = delete;
+    CHeapLimit& operator=(const CHeapLimit&) = delete;
+
+private:
+    sqlite3_int64 m_nSoft; // before
+    sqlite3_int64 m_nHard;
+};
+
 class CSqlite
 {
 public:
@@ -36,13 +51,14 @@ public:
     // An empty database in memory, sized for an inventory of so many bytes.
     static CSqlite openMemory(std::size_t nInventorySize);
 
-    // From now on a statement fails that takes more processor time, or more
-    // memory, than an inventory of so many bytes can need. Compiling a statement
-    // is not covered, so ask between statements.
+    // From now on a statement fails that takes more processor time than an
+    // inventory of so many bytes can need. Compiling a statement is not covered,
+    // so ask between statements.
     void startClock(std::size_t nInventorySize);
     void checkClock();
 
-    StatementPtr prepare(std::string_view strSql);
+    // The first statement of a text; null when there is none.
+    StatementPtr prepare(const char* pszSql, const char** ppszRest = nullptr);
 
     // Steps to the next row; false at the end.
     bool step(sqlite3_stmt* pStatement);
@@ -65,8 +81,7 @@ private:
     {
         std::chrono::steady_clock::time_point oEnd;
         std::chrono::nanoseconds              oWorkEnd{0};
-        sqlite3_int64                         nMemoryEnd = 0;
-        const char*                           pszBroken  = nullptr;
+        bool                                  bBroken = false;
     };
 
     CSqlite(const std::string& strName, int nFlags);

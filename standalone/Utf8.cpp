@@ -2,6 +2,8 @@
 // beyond U+10FFFF; every further byte only continues.
 #include "standalone/Utf8.h"
 
+#include <algorithm>
+
 namespace standalone
 {
 namespace
@@ -53,5 +55,26 @@ std::size_t findInvalidUtf8(std::string_view strText)
         nAt += nLength;
     }
     return std::string_view::npos;
+}
+
+std::string abbreviate(std::string_view strText, std::size_t nLength)
+{
+    std::string strOut;
+    for (std::size_t nAt = 0; nAt < strText.size();)
+    {
+        const std::size_t      nBytes       = utf8Length(strText, nAt);
+        const std::string_view strCharacter = strText.substr(nAt, std::max<std::size_t>(nBytes, 1));
+        const bool             bBlank = strCharacter[0] >= 0 && (strCharacter[0] <= ' ' || strCharacter[0] == 0x7F);
+        if (nBytes == 0)
+            strOut += '?';
+        else if (!bBlank)
+            strOut += strCharacter;
+        else if (!strOut.empty() && strOut.back() != ' ')
+            strOut += ' ';
+        nAt += strCharacter.size();
+        if (strOut.size() >= nLength && nAt < strText.size())
+            return strOut + "...";
+    }
+    return strOut;
 }
 } // namespace standalone

@@ -5,6 +5,7 @@
 #define OPERATIONXML_STANDALONE_UTF8_H
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace standalone
@@ -15,6 +16,10 @@ std::size_t utf8Length(std::string_view strText, std::size_t nAt);
 
 // The first byte that belongs to no character, or npos.
 std::size_t findInvalidUtf8(std::string_view strText);
+
+// A text on one line, cut to a readable length, without control characters and
+// broken bytes: for a message that quotes a statement or SQLite's words.
+std::string abbreviate(std::string_view strText, std::size_t nLength);
 } // namespace standalone
 
 #endif

@@ -11,7 +11,7 @@
 --
 -- A server.sql works on these tables only: INSERT, UPDATE, DELETE, SELECT and
 -- BEGIN/COMMIT, with the plain functions for texts and numbers. A statement takes
--- at most 4 MB, one that selects 1 KB, one that selects several times 512 bytes.
+-- at most 4 MB, and what it takes to compile and run is limited.
 
 -- Installed device types, in registry order (position). The first five columns
 -- are what most files need; the others have defaults.

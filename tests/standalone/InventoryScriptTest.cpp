@@ -2,6 +2,8 @@
 // says reaches outside the inventory.
 #include "InventoryFixture.h"
 
+#include <fmt/format.h>
+
 using namespace std::string_literals;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -23,7 +25,7 @@ std::string rows(int nRows)
 {
     std::string strOut;
     for (int nRow = 1; nRow <= nRows; ++nRow)
-        strOut += ",(" + std::to_string(nRow) + ",'X','V1','','')";
+        strOut += ",\n(" + std::to_string(nRow) + ",'X','V1','','')";
     return strOut;
 }
 
@@ -45,7 +47,7 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n LIMIT 5000) "
          "INSERT INTO device_type(position, name, version) SELECT i, 'T' || i, 'V1' FROM n;",
          ""},
-        {"INSERT INTO version_in_service VALUES(0,'X','V1','','')" + rows(5000), ""},
+        {"INSERT INTO version_in_service VALUES(0,'X','V1','','')" + rows(100'000), ""},
         // Statements.
         {"-- types\n\nINSERT INTO\n  device_typ VALUES(1,\t'x');",
          ", line 3: no such table: device_typ: INSERT INTO device_typ VALUES(1, 'x');"},
@@ -54,6 +56,12 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"INSERT INTO nobody VALUES('" + repeated("x", 500) + "');",
          ", line 1: no such table: nobody: INSERT INTO nobody VALUES('" + repeated("x", 53) + "..."},
         {"INSERT INTO setting VALUES('a','b", ", line 1: unrecognized token"},
+        // The line, or else the row, of the mistake.
+        {"\nINSERT INTO setting VALUES\n('a', 'b'),\n('c', d),\n('e', 'f');", ", line 4: no such column: d: ('c', d),"},
+        {"INSERT INTO version_in_service VALUES(0,'X','V1','','')" + rows(56) + ",\n(7,'Y','V1','','')",
+         ", line 1: row 58: UNIQUE constraint failed: version_in_service.position: INSERT INTO version"},
+        {"DELETE FROM setting WHERE 1 SELECT 2;\n", ", line 1: near \"SELECT\": syntax error: DELETE FROM"},
+        {";;/**/; nonsense -- ;\n;\nSELECT 1;", ", line 1: near \"nonsense\": syntax error: nonsense -- ;"},
         {"INSERT INTO setting VALUES('a','b');\nINSERT INTO setting VALUES('a','c');",
          ", line 2: UNIQUE constraint failed: setting.name"},
         {"INSERT INTO device_class(type_id,domain) VALUES(1,'x');", ", line 1: cannot store TEXT value"},
@@ -79,10 +87,7 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"CREATE TRIGGER x AFTER INSERT ON setting BEGIN DELETE FROM device; END;", ", line 1: not allowed"},
         {"SELECT sql FROM sqlite_master;", ", line 1: not allowed"},
         // Too much for a fixed limit.
-        {"WITH a AS (SELECT 1), b AS (SELECT 1 FROM a, a), c AS (SELECT 1 FROM b, b) SELECT 1 FROM c, c;",
-         ", line 1: selects too much in one statement"},
-        {"SELECT (\xEF\xBB\xBFSELECT (SELECT(\xEF\xBB\xBFselect 1)));", ", line 1: selects too much in one statement"},
-        {"SELECT *" + repeated(",*", 999) + " FROM setting;", ", line 1: selects too much"},
+        {"SELECT *" + repeated(",*", 999) + " FROM setting;", ", line 1: too many columns"},
         {"INSERT INTO setting VALUES('a','" + repeated("x", 20000) + "');", ", line 1: string or blob too big"},
         {"SELECT " + repeated("~", 300) + "1;", ", line 1: "},
     };
@@ -98,6 +103,10 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
 // Which limit a bomb meets first depends on the machine; all say "too".
 TEST(ScriptFile, BombsAreRefusedBeforeTheyGrow)
 {
+    std::string strDoubled = "WITH t0 AS (SELECT 1)"; // grows while it is compiled
+    for (int nTable = 1; nTable < 30; ++nTable)
+        strDoubled += fmt::format(", t{} AS (SELECT 1 FROM t{}, t{})", nTable, nTable - 1, nTable - 1);
+    EXPECT_THAT(problemOf(strDoubled + "SELECT 1 FROM t29;"), StartsWith("/server.sql, line 1: takes too much memory"));
     for (const char* pszSql :
          {"SELECT count(*) FROM n;", "INSERT INTO setting SELECT i, i FROM n;",
           "SELECT printf('%.*c', 10000, 'x') FROM n ORDER BY 1;",
@@ -107,6 +116,16 @@ TEST(ScriptFile, BombsAreRefusedBeforeTheyGrow)
         SCOPED_TRACE(pszSql);
         EXPECT_THAT(problemOf(COUNT_UP + pszSql), testing::AllOf(StartsWith("/server.sql"), HasSubstr(" too ")));
     }
+}
+
+TEST(ScriptFile, LimitsOfTheProcessAreAsBefore)
+{
+    sqlite3_hard_heap_limit64(1 << 30);
+    sqlite3_soft_heap_limit64(1 << 20);
+    EXPECT_EQ("", problemOf(""));
+    EXPECT_NE("", problemOf("x"));
+    EXPECT_EQ(1 << 20, sqlite3_soft_heap_limit64(0));
+    EXPECT_EQ(1 << 30, sqlite3_hard_heap_limit64(0));
 }
 
 TEST(ScriptFile, PipeAndFolderAreRefusedWithoutWaiting)
