@@ -67,7 +67,7 @@ void StInventory::buildIndexes()
 const StDeviceType* StInventory::findType(const std::string& strName, const std::string& strVersion) const
 {
     const std::size_t* pAt = findValue(mapTypeByName, pairKey(strName, strVersion));
-    if (pAt == nullptr && strName.size() >= TELNET_SUFFIX.size())
+    if (pAt == nullptr && strName.size() >= TELNET_SUFFIX.size() && strVersion.find(TELNET_SUFFIX) != std::string::npos)
     {
         const std::size_t nPlain = strName.size() - TELNET_SUFFIX.size();
         if (strName.compare(nPlain, std::string::npos, TELNET_SUFFIX) == 0)

@@ -16,7 +16,8 @@ namespace
 constexpr const char* INVENTORY = R"(
 INSERT INTO device_type(position, name, version, type_id, version_id) VALUES
     (30, 'Last', 'V1', 3, 1), (10, 'X', 'V1', 1, 1), (20, 'X', 'V1_telnet', 1, 2), (21, 'X', 'V1_telnet', 1, 3),
-    (22, 'X_telnet', 'V2', 2, 1), (23, '_telnet', 'V2', 2, 2);
+    (22, 'X_telnet', 'V2', 2, 1), (23, '_telnet', 'V2', 2, 2), (24, 'Y', 'V3_telnet', 5, 2),
+    (25, 'Y_telnet', 'V3_telnet', 5, 1);
 INSERT INTO device_class VALUES(1, 2, 1, 0, NULL), (2, 1, 0, 1, 70);
 INSERT INTO device(device_id, name, type_id, version_id, soft_version, patch_version) VALUES
     (9, 'nine', 1, 1, 'S1', 'P1'), (4, 'four', 1, 1, 'S1', 'P1'), (5, 'five', 1, 1, 'S1', ''),
@@ -40,10 +41,12 @@ TEST_F(LookupTest, RegistryOrderIsThePosition)
     std::string strSeen;
     for (const StDeviceType& stType : lstType)
         strSeen += fmt::format("{} {} {}, ", stType.strDevType, stType.strDevTypeVer, stType.ulDeviceTypeVersionID);
-    EXPECT_EQ("X V1 1, X V1_telnet 2, X V1_telnet 3, X_telnet V2 1, _telnet V2 2, Last V1 1, ", strSeen);
+    EXPECT_EQ("X V1 1, X V1_telnet 2, X V1_telnet 3, X_telnet V2 1, _telnet V2 2, "
+              "Y V3_telnet 2, Y_telnet V3_telnet 1, Last V1 1, ",
+              strSeen);
 }
 
-TEST_F(LookupTest, StorageKeyFindsTheRowOfThePlainName)
+TEST_F(LookupTest, StorageKeyFindsTheTelnetVariant)
 {
     const struct
     {
@@ -53,10 +56,11 @@ TEST_F(LookupTest, StorageKeyFindsTheRowOfThePlainName)
     } CASES[] = {
         {"X", "V1_telnet", "X 2"}, // the first of two
         {"X_telnet", "V1_telnet", "X 2"},
-        {"X_telnet", "V1", "X 1"},
-        {"X_telnet", "V2", "X_telnet 1"}, // a row of the whole key wins
-        {"X_telnet_telnet", "V2", "X_telnet 1"},
-        {"X_telnet_telnet", "V1", ""}, // one suffix only
+        {"X_telnet", "V1", ""}, // no telnet variant
+        {"X_telnet", "V2", "X_telnet 1"},
+        {"Y_telnet", "V3_telnet", "Y_telnet 1"}, // a row of the whole key wins
+        {"Y_telnet_telnet", "V3_telnet", "Y_telnet 1"},
+        {"X_telnet_telnet", "V1_telnet", ""}, // one suffix only
         {"_telnet", "V2", "_telnet 2"},
         {"x", "V1", ""},
         {"X", "", ""},
