@@ -3,7 +3,7 @@
 // exit code: 0 yes or found, 1 no or nothing, 2 trouble (one line on stderr).
 // commands/ has a source for each command, query/ what stands behind opxml query,
 // output/ how things look; commands -> query -> output, never back.
-#include "tools/opxml/commands/Command.h"
+#include "tools/opxml/commands/CommandLine.h"
 #include "tools/opxml/output/Output.h"
 
 #include <cstdio>
@@ -13,29 +13,8 @@
 #include <string>
 #include <vector>
 
-#ifndef OPXML_VERSION
-#define OPXML_VERSION "unknown"
-#endif
-
 namespace
 {
-void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
-{
-    oApp.require_subcommand(1);
-    oApp.fallthrough(); // the options below may follow the command as well
-    oApp.set_version_flag("--version", "opxml " OPXML_VERSION);
-    oApp.set_help_all_flag("--help-all", "Help for all commands");
-    oApp.add_option("--root", stOptions.strRoot, "Server root: a folder with server.db or server.sql")
-        ->envname("OPXML_ROOT")
-        ->type_name("DIR")
-        ->capture_default_str();
-    oApp.add_option("--log", stOptions.strLogFile, "Write the library's log to a file, one JSON object a line")
-        ->type_name("FILE");
-    oApp.add_flag("-v,--verbose", stOptions.bVerbose, "Write the library's log to stderr");
-    oApp.footer("Exit status: 0 yes, found or all loaded; 1 no, nothing or some failed; 2 trouble.\n"
-                "Colours only on a terminal, and never when NO_COLOR is set.");
-}
-
 // The parser reports a misspelt command as a missing one.
 void nameUnknownCommand(const CLI::App& oApp)
 {
@@ -50,17 +29,9 @@ void nameUnknownCommand(const CLI::App& oApp)
 
 int runTool(int nArguments, char** ppszArguments)
 {
-    CLI::App oApp("What a server's device types support, read from their configuration files.", "opxml");
+    CLI::App oApp;
     StTool   stTool;
-    addGlobalOptions(oApp, stTool.stOptions);
-    addLoadCommand(oApp, stTool);
-    addShowCommand(oApp, stTool);
-    addDumpCommand(oApp, stTool);
-    addQueryCommand(oApp, stTool);
-    addModulesCommand(oApp, stTool);
-    addAlarmCommand(oApp, stTool);
-    addTransferCommand(oApp, stTool);
-    addFileCheckCommand(oApp, stTool);
+    describeTool(oApp, stTool);
     try
     {
         oApp.parse(nArguments, ppszArguments);
