@@ -38,7 +38,7 @@ private:
     void parameter(std::string_view strId, std::string_view strSelected, const std::function<void()>& fnContent);
     void boards();
     template <typename Table>
-    void options(const Table& arTable);
+    void options(const Table& arTable, bool bTargets = true);
     template <typename Table>
     void section(std::string_view strName, const Table& arOperations);
     void operationParameters(std::string_view strOperId);
@@ -66,12 +66,14 @@ void CConfigText::parameter(std::string_view strId, std::string_view strSelected
 }
 
 template <typename Table>
-void CConfigText::options(const Table& arTable)
+void CConfigText::options(const Table& arTable, bool bTargets)
 {
     some(arTable,
-         [&](const Words::StNumbered& stOption) {
-             m_oXml.leaf("Option",
-                         {{"id", stOption.strId}, {"value", stOption.strValue}, {"target", stOption.strTarget}});
+         [&](const Words::StNumbered& stOption)
+         {
+             m_oXml.leaf("Option", {{"id", stOption.strId},
+                                    {"value", stOption.strValue},
+                                    {"target", bTargets ? stOption.strTarget : ""}});
          });
 }
 
@@ -91,9 +93,11 @@ void CConfigText::section(std::string_view strName, const Table& arOperations)
     some(arOperations,
          [&](std::string_view strId)
          {
-             m_oXml.open("Operation", {{"id", strId},
-                                       {"operationLevel", m_oDice.pick(Words::LEVELS)},
-                                       {"isCancelable", m_oDice.oneIn(2) ? "1" : "0"}});
+             const std::string_view strLevel      = m_oDice.pick(Words::LEVELS);
+             const std::string_view strCancelable = m_oDice.oneIn(2) ? "1" : "0";
+             const bool             bPatch        = strName == "PatchOperation"; // never cancelable
+             m_oXml.open("Operation",
+                         {{"id", strId}, {"operationLevel", strLevel}, {"isCancelable", bPatch ? "" : strCancelable}});
              operationParameters(strId);
              m_oXml.close();
          });
@@ -151,7 +155,7 @@ void CConfigText::other(std::string_view strId)
 {
     m_oXml.open("OtherOperation", {{"id", strId}, {"isSupported", m_oDice.oneIn(4) ? "0" : "1"}});
     if (strId == "SAM" || m_oDice.oneIn(2))
-        parameter("ContentType", "", [&] { options(Words::CONTENTS); });
+        parameter("ContentType", "", [&] { options(Words::CONTENTS, false); }); // no targets here
     parameter("Window", "", [&] { options(Words::MODES); });
     m_oXml.close();
 }
