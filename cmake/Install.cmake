@@ -1,5 +1,5 @@
-# What cmake --install puts down: libraries, public headers, the tool, the CMake
-# package and the pkg-config files. All paths in them are relative, so that the
+# What cmake --install puts down: libraries, public headers, the tool, the schemas,
+# the CMake package and the pkg-config files. All paths in them are relative, so that the
 # installed tree may be moved or packed. A server build installs no stand-alone
 # library and no tool.
 include(CMakePackageConfigHelpers)
@@ -19,6 +19,9 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
 install(FILES common/XmlParser.h common/XmlLimits.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
+
+# For the editors of those who write the files: docs/editors.md.
+install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/operationXml)
 
 # Finds the other folder from where a file lies, whatever the prefix is called.
 file(RELATIVE_PATH BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
