@@ -22,7 +22,7 @@ VARYING = (
 
 
 def run(command, opxml, server, scratch):
-    environment = {name: value for name, value in os.environ.items() if name not in ("OPXML_ROOT", "NO_COLOR")}
+    environment = {name: value for name, value in os.environ.items() if name not in ("OPXML_ROOT", "NO_COLOR", "COLUMNS")}
     environment.update(LC_ALL="C.UTF-8", SCRATCH=scratch, PATH=os.path.dirname(opxml) + ":" + os.environ["PATH"])
     done = subprocess.run(["bash", "-c", command], cwd=server, env=environment, stdin=subprocess.DEVNULL,
                           capture_output=True, timeout=100)

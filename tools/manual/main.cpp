@@ -4,6 +4,7 @@
 //   opxml-manual FOLDER ADDITIONS
 // ADDITIONS/PAGE.roff, where there is one, stands in the page before SEE ALSO.
 #include "tools/opxml/commands/CommandLine.h"
+#include "tools/opxml/output/Terminal.h"
 
 #include <algorithm>
 #include <cctype>
@@ -213,6 +214,7 @@ int main(int nArguments, char** ppszArguments)
         std::cerr << "usage: opxml-manual FOLDER ADDITIONS\n";
         return 2;
     }
+    showWide(); // a page does not depend on the window it is built in
     CLI::App oApp;
     StTool   stTool;
     describeTool(oApp, stTool);

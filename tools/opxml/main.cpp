@@ -4,7 +4,9 @@
 // commands/ has a source for each command, query/ what stands behind opxml query,
 // output/ how things look; commands -> query -> output, never back.
 #include "tools/opxml/commands/CommandLine.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -66,7 +68,7 @@ int main(int nArguments, char** ppszArguments)
     }
     catch (const std::exception& oProblem)
     {
-        std::fprintf(stderr, "opxml: %s\n", oProblem.what());
+        remark(oProblem.what());
         return EXIT_TROUBLE;
     }
 }

@@ -4,8 +4,9 @@
 #include "platform/Paths.h"
 #include "standalone/ServerRoot.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <fmt/format.h>
 

@@ -3,8 +3,9 @@
 #include "alarm/InitAlarmInfo.h"
 #include "tools/opxml/commands/AlarmTables.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Table.h"
+#include "tools/opxml/output/Terminal.h"
 
 #include <fmt/format.h>
 
@@ -50,7 +51,7 @@ std::vector<AlarmStaticInfo> findAlarms(const InitAlarmInfo& oTable, const std::
 
 std::string alarmTable(const std::vector<AlarmStaticInfo>& lstAlarm)
 {
-    CTable oTable({"ALARM", "NAME", "EXPLANATION"});
+    CTable oTable({{"ALARM"}, {"NAME"}, {"EXPLANATION"}});
     for (const AlarmStaticInfo& stAlarm : lstAlarm)
         oTable.addRow({std::to_string(stAlarm.ulAlarmId), stAlarm.strAlarmName, stAlarm.strExplain});
     return oTable.text();
@@ -92,7 +93,7 @@ int runAlarm(const StGlobalOptions& stGlobal, const StWanted& stWanted)
         const bool bKnown = oTable.alarms().count(ulId) != 0;
         bAllKnown         = bAllKnown && bKnown;
         if (!bKnown)
-            fmt::print(stderr, "opxml: alarm {} is not in {}\n", ulId, shortPath(oTable.path()));
+            remark(fmt::format("alarm {} is not in {}", ulId, shortPath(oTable.path())));
         // JSON tells of an unknown alarm what the library does: its id and empty texts.
         if (bKnown || stWanted.stOptions.bJson)
             lstAlarm.push_back(oTable.getAlarmNameByAlarmId(ulId));

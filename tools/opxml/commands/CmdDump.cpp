@@ -4,12 +4,15 @@
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Terminal.h"
 
 #include <fmt/format.h>
 
+#include <list>
 #include <memory>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace
@@ -25,30 +28,47 @@ std::set<std::string> selectKeys(const StLoadReport& stReport, const std::vector
         if (!setFound.empty())
             continue;
         bAllKnown = false;
-        fmt::print(stderr, "opxml: {}\n", unknownTypeText(stReport, strName));
+        remark(unknownTypeText(stReport, strName));
     }
     return setKey;
+}
+
+// One key of the store. The records stay where they are while nobody reads a type,
+// and this process has no other thread.
+struct StStoredKey
+{
+    std::string                        strKey;
+    std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
+};
+
+// The wanted keys in the order of the store; all of them when none is named.
+std::vector<StStoredKey> gather(const std::set<std::string>& setKey, bool bAll)
+{
+    std::vector<StStoredKey> lstStored;
+    CXMLConfigDatabase::getInstance()->visitDevTypes(
+        [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+        {
+            if (bAll || setKey.count(strKey) != 0)
+                lstStored.push_back({strKey, lstInfo});
+        });
+    return lstStored;
 }
 
 int runDump(const StGlobalOptions& stOptions, const std::vector<std::string>& lstName)
 {
     openRoot(stOptions);
-    CXMLConfigDatabase*   pDatabase = CXMLConfigDatabase::getInstance();
     bool                  bAllKnown = true;
-    std::set<std::string> setKey    = selectKeys(pDatabase->getLoadReport(), lstName, bAllKnown);
-    std::size_t           nWritten  = 0;
-    pDatabase->visitDevTypes(
-        [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-        {
-            if (!lstName.empty() && setKey.erase(strKey) == 0)
-                return;
-            print(nWritten == 0 ? "{\n  " : ",\n  ");
-            print(jsonLine(Json(strKey)) + ": " + jsonText(toJson(lstInfo), 2));
-            ++nWritten;
-        });
-    print(nWritten == 0 ? "{}\n" : "\n}\n");
+    std::set<std::string> setKey = selectKeys(CXMLConfigDatabase::getInstance()->getLoadReport(), lstName, bAllKnown);
+    const char*           pszBefore = "{\n  ";
+    for (const StStoredKey& stStored : gather(setKey, lstName.empty()))
+    {
+        print(pszBefore + jsonLine(Json(stStored.strKey)) + ": " + jsonText(toJson(stStored.lstInfo), 2));
+        pszBefore = ",\n  ";
+        setKey.erase(stStored.strKey);
+    }
+    print(*pszBefore == '{' ? "{}\n" : "\n}\n");
     for (const std::string& strKey : setKey)
-        fmt::print(stderr, "opxml: \"{}\" is not loaded; opxml load says why\n", strKey);
+        remark("\"" + strKey + "\" is not loaded; opxml load says why");
     return bAllKnown && setKey.empty() ? EXIT_YES : EXIT_NO;
 }
 } // namespace

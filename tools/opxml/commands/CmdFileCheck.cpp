@@ -3,8 +3,10 @@
 #include "filecheck/ParseXMLFile.h"
 #include "standalone/LogSink.h"
 #include "tools/opxml/commands/Command.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Table.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <fmt/format.h>
 
@@ -74,10 +76,10 @@ StRules readRules(const std::string& strFile)
 
 std::string rulesTable(const ParseXMLFile::TypeMap& mapType)
 {
-    std::vector<std::string> lstHeading = {"TYPE"};
+    std::vector<StColumn> lstColumn = {{"TYPE"}};
     for (const StRuleField& stField : RULE_FIELDS)
-        lstHeading.emplace_back(stField.pszHeading);
-    CTable oTable(lstHeading);
+        lstColumn.push_back({stField.pszHeading});
+    CTable oTable(lstColumn);
     for (const auto& [strType, stType] : mapType)
     {
         std::vector<std::string> lstCell = {strType};
@@ -127,7 +129,7 @@ int runFileCheck(const StGlobalOptions& stGlobal, const StFileCheckOptions& stOp
         if (!stRules.mapType.empty())
             print(rulesTable(stRules.mapType));
         for (const std::string& strFinding : lstFinding)
-            fmt::print(stderr, "opxml: {}\n", strFinding);
+            remark(strFinding);
     }
     return stRules.ulResult == 0 && !(stOptions.bCheck && !lstFinding.empty()) ? EXIT_YES : EXIT_NO;
 }

@@ -3,10 +3,11 @@
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/Progress.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Sections.h"
+#include "tools/opxml/output/Table.h"
+#include "tools/opxml/output/Terminal.h"
 
 #include <fmt/format.h>
 
@@ -94,11 +95,12 @@ std::vector<StRow> makeRows(const StLoadReport& stReport)
 
 std::string tableText(const std::vector<StRow>& lstRow)
 {
-    std::vector<std::string> lstHeading = {"TYPE", "VERSION", "KEY", "FROM", "FILE"};
+    // What is left out first where there is no room: file, key, the last sections.
+    std::vector<StColumn> lstColumn = {{"TYPE"}, {"VERSION"}, {"KEY", 30}, {"FROM"}, {"FILE", 31}};
     for (const StSectionTitle& stTitle : SECTION_TITLES)
-        lstHeading.emplace_back(stTitle.pszShort);
-    lstHeading.emplace_back("MODULES");
-    CTable oTable(lstHeading);
+        lstColumn.push_back({stTitle.pszShort, static_cast<int>(lstColumn.size())});
+    lstColumn.push_back({"MODULES", 1});
+    CTable oTable(lstColumn);
     for (const StRow& stRow : lstRow)
     {
         const StDevTypeLoad&     stLoad  = *stRow.pLoad;
@@ -185,7 +187,7 @@ int runLoad(const StGlobalOptions& stOptions, bool bJson)
     const std::vector<StRow>            lstRow    = makeRows(stReport);
     print(bJson ? loadJson(lstRow, stSummary) : tableText(lstRow) + summaryText(stSummary));
     if (stReport.lstDevType.empty())
-        fmt::print(stderr, "opxml: the inventory has no device types, or they could not be listed\n");
+        remark("the inventory has no device types, or they could not be listed");
     return stSummary.nFailed == 0 ? EXIT_YES : EXIT_NO;
 }
 } // namespace

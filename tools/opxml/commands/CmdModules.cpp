@@ -5,10 +5,13 @@
 #include "standalone/LogSink.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Progress.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Sections.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
+#include "tools/opxml/output/Tree.h"
 
 #include <fmt/format.h>
 
@@ -186,9 +189,9 @@ int runModules(const StGlobalOptions& stOptions, bool bJson)
         bAllRead = bAllRead && stLoad.ulResult == 0;
     print(bJson ? modulesJson(stModules) : modulesText(stModules));
     for (const std::string& strProblem : stModules.lstFolderProblem)
-        fmt::print(stderr, "opxml: {}\n", printable(strProblem));
+        remark(strProblem);
     if (stModules.stReport.lstModule.empty())
-        fmt::print(stderr, "opxml: there are no module files\n");
+        remark("there are no module files");
     return bAllRead ? EXIT_YES : EXIT_NO;
 }
 } // namespace

@@ -1,7 +1,10 @@
 // opxml query: asks one operation of the library by its name, or a whole file of
 // questions, and says why an answer is no.
 #include "tools/opxml/commands/Command.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
+#include "tools/opxml/output/Table.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 #include "tools/opxml/query/QueryBatch.h"
 #include "tools/opxml/query/QueryOperations.h"
 
@@ -21,7 +24,7 @@ struct StQueryOptions
 
 std::string listText()
 {
-    CTable oTable({"OPERATION", "ARGUMENTS", "ANSWER"});
+    CTable oTable({{"OPERATION"}, {"ARGUMENTS"}, {"ANSWER"}});
     for (const StQueryOperation& stOperation : queryOperations())
         oTable.addRow({stOperation.pszName, parameterNames(stOperation), stOperation.pszAnswer});
     return oTable.text();
@@ -62,9 +65,9 @@ void printAnswer(const StQueryOperation& stOperation, const QueryArguments& lstA
     if (stReason.strWhy.empty() && stAnswer.ulResult != 0)
         stReason.strWhy = "the library's log says more (-v)";
     if (!stReason.strWhy.empty())
-        print("why: " + printable(stReason.strWhy) + "\n");
+        printLine("why: " + stReason.strWhy);
     if (!stReason.strOffer.empty())
-        print(printable(stReason.strOffer) + "\n");
+        printLine(stReason.strOffer);
 }
 
 int runQuestion(const StGlobalOptions& stGlobal, const StQueryOptions& stOptions)
@@ -110,6 +113,9 @@ void addQueryCommand(CLI::App& oApp, StTool& stTool)
     pCommand->add_option("--batch", pOptions->strBatch, "Answer a file with one JSON array a line; - reads stdin")
         ->type_name("FILE");
     pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
+    // Two footers would be printed one after the other: the text of all commands
+    // goes, and the list is made when it is asked for.
+    pCommand->footer("");
     pCommand->footer(
         []
         {

@@ -2,13 +2,17 @@
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/RecordTree.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Tree.h"
 
 #include <fmt/format.h>
 
+#include <list>
 #include <memory>
+#include <set>
+#include <vector>
 
 namespace
 {
@@ -19,82 +23,120 @@ struct StShowOptions
     bool        bJson = false;
 };
 
-// Prints what one storage key holds; false when it holds nothing.
-bool showKey(const StLoadReport& stReport, const std::string& strKey, Json* pJson)
+// What is shown of one storage key.
+struct StShownKey
 {
-    bool bShown = false;
-    CXMLConfigDatabase::getInstance()->visitDevTypes(
-        [&](const std::string& strStored, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-        {
-            if (strStored != strKey || lstInfo.empty())
-                return;
-            bShown = true;
-            if (pJson != nullptr)
-            {
-                (*pJson)[strKey] = toJson(lstInfo);
-                return;
-            }
-            for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
-            {
-                StTree stTree = {fmt::format("{}, version {}", strKey, pInfo->strDevTypeVer), {}};
-                // Modules go into the first record of a type, under its plain name.
-                std::vector<StContribution> lstContribution;
-                for (const StDevTypeLoad& stLoad : stReport.lstDevType)
-                {
-                    if (pInfo == lstInfo.front() && stLoad.strKey == strKey && stLoad.ulResult == 0)
-                        lstContribution = findContributions(stLoad.strDevType);
-                }
-                addRecord(stTree, *pInfo, lstContribution);
-                print(treeText(stTree));
-            }
-        });
-    return bShown;
+    std::string         strKey;
+    Json                oRecords; // with --json
+    std::vector<StTree> lstTree;  // without, one for each configuration
+};
+
+// What modules added to the first record of a key, which a type has under its
+// plain name only.
+std::vector<StContribution> contributionsTo(const StLoadReport& stReport, const std::string& strKey)
+{
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        if (stLoad.strKey == strKey && stLoad.ulResult == 0)
+            return findContributions(stLoad.strDevType);
+    }
+    return {};
 }
 
-// Why a key holds nothing: the last of its registry entries says so.
+StTree configurationTree(const std::string& strKey, const StAsnDevTypeVerXMLInfo& stInfo,
+                         const std::vector<StContribution>& lstContribution)
+{
+    StTree stTree = {fmt::format("{}, version {}", strKey, stInfo.strDevTypeVer), {}};
+    addRecord(stTree, stInfo, lstContribution);
+    return stTree;
+}
+
+// Those of the keys that hold something, in order.
+std::vector<StShownKey> gather(const StLoadReport& stReport, const std::set<std::string>& setKey, bool bJson)
+{
+    std::vector<StShownKey> lstShown;
+    CXMLConfigDatabase::getInstance()->visitDevTypes(
+        [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+        {
+            if (setKey.count(strKey) == 0 || lstInfo.empty())
+                return;
+            StShownKey& stShown = lstShown.emplace_back();
+            stShown.strKey      = strKey;
+            if (bJson)
+            {
+                stShown.oRecords = toJson(lstInfo);
+                return;
+            }
+            std::vector<StContribution> lstContribution = contributionsTo(stReport, strKey);
+            for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+            {
+                stShown.lstTree.push_back(configurationTree(strKey, *pInfo, lstContribution));
+                lstContribution.clear(); // they went into the first
+            }
+        });
+    return lstShown;
+}
+
+void printShown(const std::vector<StShownKey>& lstShown, bool bJson)
+{
+    Json oJson = Json::object();
+    for (const StShownKey& stShown : lstShown)
+    {
+        if (bJson)
+            oJson[stShown.strKey] = stShown.oRecords;
+        for (const StTree& stTree : stShown.lstTree)
+            print(treeText(stTree));
+    }
+    if (bJson)
+        print(jsonText(oJson) + "\n");
+}
+
+// Why a key holds nothing: its registry entries say so.
 void explainMissing(const StLoadReport& stReport, const std::string& strKey)
 {
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
         if (stLoad.strKey == strKey)
-            fmt::print(stderr, "opxml: {} {} {}\n", stLoad.strDevType, stLoad.strDevTypeVer, failureText(stLoad));
+            remark(fmt::format("{} {} {}", stLoad.strDevType, stLoad.strDevTypeVer, failureText(stLoad)));
     }
+}
+
+// The keys that are asked for; none, with a remark, when there is no such type or
+// version.
+std::set<std::string> askedKeys(const StLoadReport& stReport, const StShowOptions& stOptions)
+{
+    std::set<std::string> setKey = findKeys(stReport, stOptions.strName, stOptions.strVersion);
+    if (!setKey.empty())
+        return setKey;
+    std::string strVersions;
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        if (stLoad.strDevType == stOptions.strName)
+            strVersions += " \"" + stLoad.strDevTypeVer + "\"";
+    }
+    if (strVersions.empty())
+        remark(unknownTypeText(stReport, stOptions.strName));
+    else
+        remark(fmt::format("device type \"{}\" has no version \"{}\"; it has{}", stOptions.strName,
+                           stOptions.strVersion, strVersions));
+    return setKey;
 }
 
 int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
 {
     openRoot(stGlobal);
-    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
-    if (findKeys(stReport, stOptions.strName).empty())
-    {
-        fmt::print(stderr, "opxml: {}\n", unknownTypeText(stReport, stOptions.strName));
-        return EXIT_NO;
-    }
-    const std::set<std::string> setKey = findKeys(stReport, stOptions.strName, stOptions.strVersion);
+    const StLoadReport          stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
+    const std::set<std::string> setKey   = askedKeys(stReport, stOptions);
     if (setKey.empty())
-    {
-        fmt::print(stderr, "opxml: device type \"{}\" has no version \"{}\"; it has", stOptions.strName,
-                   stOptions.strVersion);
-        for (const StDevTypeLoad& stLoad : stReport.lstDevType)
-        {
-            if (stLoad.strDevType == stOptions.strName)
-                fmt::print(stderr, " \"{}\"", stLoad.strDevTypeVer);
-        }
-        fmt::print(stderr, "\n");
         return EXIT_NO;
-    }
-    Json oJson = Json::object();
-    int  nExit = EXIT_YES;
-    for (const std::string& strKey : setKey)
-    {
-        if (showKey(stReport, strKey, stOptions.bJson ? &oJson : nullptr))
-            continue;
+    const std::vector<StShownKey> lstShown = gather(stReport, setKey, stOptions.bJson);
+    printShown(lstShown, stOptions.bJson);
+    std::set<std::string> setMissing = setKey;
+    for (const StShownKey& stShown : lstShown)
+        setMissing.erase(stShown.strKey);
+    for (const std::string& strKey : setMissing)
         explainMissing(stReport, strKey);
-        nExit = EXIT_NO;
-    }
-    if (stOptions.bJson)
-        print(jsonText(oJson) + "\n");
-    return nExit;
+    return setMissing.empty() ? EXIT_YES : EXIT_NO;
 }
 } // namespace
 

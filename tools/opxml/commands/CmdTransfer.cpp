@@ -3,8 +3,10 @@
 #include "alarm/InitTblRegInfo.h"
 #include "platform/DeviceAdapter.h"
 #include "tools/opxml/commands/AlarmTables.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/RecordJson.h"
+#include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,8 @@
 // See CommandLine.h.
 #include "tools/opxml/commands/CommandLine.h"
 
+#include "tools/opxml/output/Terminal.h"
+
 namespace
 {
 void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
@@ -16,6 +18,7 @@ void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
     oApp.add_option("--log", stOptions.strLogFile, "Write the library's log to a file, one JSON object a line")
         ->type_name("FILE");
     oApp.add_flag("-v,--verbose", stOptions.bVerbose, "Write the library's log to stderr");
+    oApp.add_flag_callback("--wide", showWide, "Tables and trees as wide as they are, whatever the terminal");
     oApp.footer("Exit status: 0 yes, found or all loaded; 1 no, nothing or some failed; 2 trouble.\n"
                 "Colours only on a terminal, and never when NO_COLOR is set.");
 }

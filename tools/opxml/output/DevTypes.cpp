@@ -3,7 +3,7 @@
 
 #include "database/CXMLConfigDatabase.h"
 #include "platform/Paths.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 
 std::set<std::string> findKeys(const StLoadReport& stReport, const std::string& strName, const std::string& strVersion)
 {

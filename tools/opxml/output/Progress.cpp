@@ -3,7 +3,7 @@
 
 #include "platform/DeviceAdapter.h"
 #include "standalone/LogSink.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Terminal.h"
 
 #include <fmt/format.h>
 

@@ -3,8 +3,8 @@
 #define OPERATIONXML_TOOLS_OPXML_OUTPUT_RECORDTREE_H
 
 #include "records/RootRecords.h"
-#include "tools/opxml/output/Output.h"
 #include "tools/opxml/output/Sections.h"
+#include "tools/opxml/output/Tree.h"
 
 #include <vector>
 

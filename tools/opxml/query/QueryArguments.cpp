@@ -2,7 +2,7 @@
 #include "tools/opxml/query/QueryArguments.h"
 
 #include "records/WordTables.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 
 #include <fmt/format.h>
 

@@ -3,7 +3,7 @@
 #include "tools/opxml/query/QueryBatch.h"
 
 #include "tools/opxml/output/Exit.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Terminal.h"
 #include "tools/opxml/query/QuestionReader.h"
 
 #include <cerrno>

@@ -5,7 +5,7 @@
 #include "alarm/InitTblRegInfo.h"
 #include "database/CXMLConfigDatabase.h"
 #include "filecheck/ParseXMLFile.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 #include "tools/opxml/query/QueryCall.h"
 
 #include <fmt/format.h>

@@ -5,7 +5,7 @@
 #include "records/ResultCodes.h"
 #include "records/Vocabulary.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Output.h"
+#include "tools/opxml/output/Names.h"
 
 namespace
 {

@@ -1,0 +1,17 @@
+// Result codes by name, and the names nearest to a misspelt one.
+#ifndef OPERATIONXML_TOOLS_OPXML_OUTPUT_NAMES_H
+#define OPERATIONXML_TOOLS_OPXML_OUTPUT_NAMES_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// "989857004 (0x3B0004EC, DC_RESULT_INVALID_PARA)".
+std::string resultText(std::uint32_t ulResult);
+std::string resultName(std::uint32_t ulResult);
+
+// "; did you mean A, B or C?" for the names nearest to a misspelt one; empty
+// when none is near.
+std::string nearestNames(const std::string& strMisspelt, const std::vector<std::string>& lstName);
+
+#endif
