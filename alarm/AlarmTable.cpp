@@ -2,6 +2,7 @@
 #include "alarm/AlarmTable.h"
 
 #include "common/LogLine.h"
+#include "common/XmlRead.h"
 #include "platform/Paths.h"
 
 #include <algorithm>
@@ -48,7 +49,7 @@ void CAlarmTable::read(const LocationInfo& stWhere, const std::function<void(con
         return;
     }
     m_bIsRead = true;
-    for (const DOMElement* pRecord : m_pXmlParser->elements(u"record"))
+    for (const DOMElement* pRecord : documentElements(*m_pXmlParser, u"record"))
     {
         ++m_ulRecord;
         if (pRecord == nullptr)

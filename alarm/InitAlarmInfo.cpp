@@ -82,7 +82,7 @@ void InitAlarmInfo::fillAlarmInfo(const DOMElement* pRecord, AlarmStaticInfo& st
     bool bHasId = false;
     for (const DOMElement& oParam : oParams)
     {
-        const std::string strName = attrText(oParam, u"name");
+        const std::string strName = attrText(CAttributes(oParam), u"name");
         if (strName == "AlarmID")
         {
             stAlarm.ulAlarmId = readNumber("AlarmID", elementText(oParam)).value_or(0);

@@ -103,7 +103,7 @@ std::uint32_t InitTblRegInfo::GetAlarmsAndDevType(const ElementList& lstParam, u
     const DOMElement* pParam = nIndex < lstParam.size() ? lstParam[nIndex] : nullptr;
     if (pParam == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
-    const std::string strName = attrText(*pParam, u"name");
+    const std::string strName = attrText(CAttributes(*pParam), u"name");
     const std::string strText = elementText(*pParam);
     if (strName == "DevType")
     {

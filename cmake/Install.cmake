@@ -15,6 +15,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
     install(DIRECTORY ${FOLDER} DESTINATION ${HEADER_FOLDER} FILES_MATCHING PATTERN "*.h"
             PATTERN "ItemRead.h" EXCLUDE
             PATTERN "SectionRead.h" EXCLUDE
+            PATTERN "TaskRead.h" EXCLUDE
             PATTERN "SectionChain.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()

@@ -4,9 +4,11 @@
 #include "common/LogLine.h"
 #include "common/XmlLimits.h"
 
+#include <xercesc/util/Janitor.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/TransService.hpp>
 
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
@@ -124,6 +126,12 @@ std::string toLocal(const XMLCh* pszText)
     return pszText == nullptr ? std::string() : toLocal(pszText, XMLString::stringLen(pszText));
 }
 
+std::u16string fromLocal(const std::string& strText)
+{
+    const ArrayJanitor<XMLCh> oXml(XMLString::transcode(strText.c_str()));
+    return oXml.get() == nullptr ? u"" : oXml.get();
+}
+
 std::uint32_t toNumber(const std::string& strText)
 {
     return static_cast<std::uint32_t>(std::strtol(strText.c_str(), nullptr, 10));
@@ -188,14 +196,9 @@ bool attrFlag(const CAttributes& oAttributes, const char16_t* pszName)
     return attrNumber(oAttributes, pszName) != 0;
 }
 
-std::string attrText(const DOMElement& oElement, const char16_t* pszName)
+bool isWord(std::u16string_view strText, std::string_view strWord)
 {
-    return attrText(CAttributes(oElement), pszName);
-}
-
-bool attrFlag(const DOMElement& oElement, const char16_t* pszName)
-{
-    return attrFlag(CAttributes(oElement), pszName);
+    return strText.size() == strWord.size() && std::equal(strText.begin(), strText.end(), strWord.begin());
 }
 
 std::string elementText(const DOMElement& oElement)

@@ -31,6 +31,9 @@ ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const c
 // A text in the server's local code page.
 std::string toLocal(const XMLCh* pszText);
 
+// A text of the local code page as the parser holds it.
+std::u16string fromLocal(const std::string& strText);
+
 // Base 10 by the C library's string-to-long rule, kept to its low 32 bits; text
 // without digits gives 0.
 std::uint32_t toNumber(const std::string& strText);
@@ -67,8 +70,32 @@ private:
 std::string   attrText(const CAttributes& oAttributes, const char16_t* pszName);
 std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName);
 bool          attrFlag(const CAttributes& oAttributes, const char16_t* pszName);
-std::string   attrText(const xercesc::DOMElement& oElement, const char16_t* pszName);
-bool          attrFlag(const xercesc::DOMElement& oElement, const char16_t* pszName);
+
+// Whether a text is this word, exact and case-sensitive. Words are plain ASCII.
+bool isWord(std::u16string_view strText, std::string_view strWord);
+
+// The row of a word table that one attribute names, or null. A row with an empty
+// word stands for a missing attribute.
+template <typename Row, std::size_t nRows>
+const Row* attrRow(const CAttributes& oAttributes, const char16_t* pszName, const Row (&arRows)[nRows])
+{
+    const std::u16string_view strText = oAttributes.value(pszName);
+    for (const Row& stRow : arRows)
+    {
+        if (isWord(strText, stRow.strWord))
+            return &stRow;
+    }
+    return nullptr;
+}
+
+// The value of that row, or the fallback.
+template <typename Value, std::size_t nWords>
+Value attrWord(const CAttributes& oAttributes, const char16_t* pszName, const StWord<Value> (&arWords)[nWords],
+               Value fallback)
+{
+    const StWord<Value>* pWord = attrRow(oAttributes, pszName, arWords);
+    return pWord == nullptr ? fallback : pWord->value;
+}
 
 // All text below an element, comments and processing instructions left out.
 std::string elementText(const xercesc::DOMElement& oElement);

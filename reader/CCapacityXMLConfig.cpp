@@ -4,7 +4,6 @@
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
@@ -12,12 +11,37 @@ namespace
 {
 constexpr const char* DC_SOURCE = "CCapacityXMLConfig";
 
+constexpr StOptionReader OPTIONS = {
+    lookupReader({DC_SOURCE, "fillOperOptionInfo", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    true,
+};
+constexpr StParameterReader PARAMETERS = {
+    lookupReader({DC_SOURCE, "fillOperParaInfo", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    true,
+    false,
+    OPTIONS,
+};
+
+EnFate fillOperation(const CAttributes& oOperation, StAsnOperation& stOperation)
+{
+    stOperation.strId        = attrText(oOperation, u"id");
+    stOperation.bIsSupported = attrFlag(oOperation, u"isSupported");
+    readParameters(PARAMETERS, oOperation.element(), stOperation.lstParam);
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<StAsnOperation> OPERATIONS = {
+    lookupReader({DC_SOURCE, "fillOperInfo", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    u"Operation",
+    fillOperation,
+};
+
 // The entry of a system object identifier, compared byte for byte, or null.
 const DOMElement* findEntry(const XercesDOMParser& oDOMParser, const std::string& strDevSysOid)
 {
     for (const DOMElement* pEntry : documentElements(oDOMParser, u"upgradecapacity"))
     {
-        if (attrText(*pEntry, u"sysoid") == strDevSysOid)
+        if (attrText(CAttributes(*pEntry), u"sysoid") == strDevSysOid)
             return pEntry;
     }
     return nullptr;
@@ -46,7 +70,7 @@ std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysO
 
     std::list<StAsnOperation> lstCapacity;
     if (const DOMElement* pEntry = findEntry(*pDOMParser, strDevSysOid))
-        fillOperInfo(pEntry, lstCapacity); // what an entry does not say stays unpruned
+        readRecords(OPERATIONS, pEntry, &lstCapacity); // what an entry does not say stays unpruned
     else
         logFail(DC_HERE, DC_RESULT_XML_ERROR,
                 "No capacity entry for sysoid :" + strDevSysOid + ", DeviceType:" + pInfo->strDevType +
@@ -85,34 +109,15 @@ std::uint32_t CCapacityXMLConfig::parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo)
 
 std::uint32_t CCapacityXMLConfig::fillOperInfo(const DOMElement* pEntry, std::list<StAsnOperation>& lstOut)
 {
-    return readRecords(DC_HERE, CElements(pEntry, u"Operation"), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const CAttributes& oOperation, StAsnOperation& stOperation)
-                       {
-                           stOperation.strId        = attrText(oOperation, u"id");
-                           stOperation.bIsSupported = attrFlag(oOperation, u"isSupported");
-                           fillOperParaInfo(oOperation.element(), stOperation.lstParam);
-                       });
+    return guarded(OPERATIONS, [&] { return readRecords(OPERATIONS, pEntry, &lstOut); });
 }
 
 std::uint32_t CCapacityXMLConfig::fillOperParaInfo(const DOMElement* pOperation, std::list<StAsnOperParamDef>& lstOut)
 {
-    return readRecords(DC_HERE, CElements(pOperation, u"Parameter"),
-                       "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [this](const CAttributes& oParameter, StAsnOperParamDef& stParam)
-                       {
-                           stParam.strId       = attrText(oParameter, u"id");
-                           stParam.strValue    = attrText(oParameter, u"value");
-                           stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
-                           fillOperOptionInfo(oParameter.element(), stParam.lstOption);
-                       });
+    return guarded(PARAMETERS, [&] { return readParameters(PARAMETERS, pOperation, lstOut); });
 }
 
 std::uint32_t CCapacityXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut)
 {
-    return readRecords(DC_HERE, optionElements(pParameter), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       [](const CAttributes& oOption, StAsnOptionInfo& stOption)
-                       {
-                           readOption(oOption, stOption);
-                           stOption.strTarget = attrText(oOption, u"target");
-                       });
+    return guarded(OPTIONS, [&] { return readOptions(OPTIONS, pParameter, lstOut); });
 }

@@ -1,14 +1,28 @@
-// See CDevTypeXMLConfig.h.
+// The device types of a module file, and the name of its module.
 #include "reader/CDevTypeXMLConfig.h"
 
-#include "common/LogLine.h"
-#include "common/XmlRead.h"
+#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
 namespace
 {
 constexpr const char* DC_SOURCE = "CDevTypeXMLConfig";
+
+EnFate fillSupportedType(const CAttributes& oDevice, std::string& strDevType)
+{
+    strDevType = attrText(oDevice, u"name");
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<std::string> SUPPORTED_TYPES = {
+    {{DC_SOURCE, "fillDevTypeInfo", __LINE__},
+     "pElm is null.",
+     "DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:",
+     "DOMElement::getElementsByTagName failed"},
+    u"dev",
+    fillSupportedType,
+};
 
 // 0 when the parser holds a document.
 std::uint32_t requireDocument(const LocationInfo& stWhere, const XercesDOMParser* pDOMParser)
@@ -22,6 +36,7 @@ std::uint32_t requireDocument(const LocationInfo& stWhere, const XercesDOMParser
 } // namespace
 
 std::uint32_t CDevTypeXMLConfig::setModuleXMLConfig(XercesDOMParser* pDOMParser, std::string& strName)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     const std::uint32_t  ulResult = requireDocument(DC_HERE, pDOMParser);
@@ -30,31 +45,31 @@ std::uint32_t CDevTypeXMLConfig::setModuleXMLConfig(XercesDOMParser* pDOMParser,
     const ElementList lstDeviceType = documentElements(*pDOMParser, u"DeviceType");
     if (lstDeviceType.empty())
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
-    strName = attrText(*lstDeviceType.front(), u"name");
+    strName = attrText(CAttributes(*lstDeviceType.front()), u"name");
     return DC_RESULT_OK;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLConfig::setDevTypeXMLConfig(XercesDOMParser* pDOMParser, StAsnModuleInfoVerXMLInfo& stModule)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     const std::uint32_t  ulResult = requireDocument(DC_HERE, pDOMParser);
     if (ulResult != DC_RESULT_OK)
         return ulResult;
     for (const DOMElement* pSupport : documentElements(*pDOMParser, u"support"))
-        fillDevTypeInfo(pSupport, &stModule.lstSupportDevType);
+        readRecords(SUPPORTED_TYPES, pSupport, &stModule.lstSupportDevType);
     return DC_RESULT_OK;
 }
-
-std::uint32_t CDevTypeXMLConfig::fillDevTypeInfo(const DOMElement* pElm, std::list<std::string>* pDevTypeLst)
+catch (...)
 {
-    if (pElm == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
-    if (pDevTypeLst == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:");
-    const CElements oDevices(pElm, u"dev");
-    if (oDevices.isMissing())
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed");
-    for (const DOMElement& oDevice : oDevices)
-        pDevTypeLst->push_back(attrText(oDevice, u"name"));
-    return DC_RESULT_OK;
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t CDevTypeXMLConfig::fillDevTypeInfo(const DOMElement* pSupport, std::list<std::string>* pLstOut)
+{
+    return guarded(SUPPORTED_TYPES, [&] { return readRecords(SUPPORTED_TYPES, pSupport, pLstOut); });
 }

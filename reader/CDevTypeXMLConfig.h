@@ -1,6 +1,7 @@
-// CDevTypeXMLConfig: reads the two sections of a module file that no device-type
-// file has: which module it belongs to, and which device types it supports.
-// Stateless; works on the caller's parser and lists: calls may run at once, each
+// CDevTypeXMLConfig: reads module files, although it bears the name of a device
+// type: the two sections that no device-type file has, which module the file belongs
+// to ("DeviceType") and which device types it supports.
+// Called by CModuleXMLResReader. Stateless; works on the caller's parser and lists: calls may run at once, each
 // with its own. Failures are logged and answer DC_RESULT_XML_ERROR.
 #ifndef OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
 #define OPERATIONXML_READER_CDEVTYPEXMLCONFIG_H
@@ -25,7 +26,7 @@ public:
     std::uint32_t setDevTypeXMLConfig(xercesc::XercesDOMParser* pDOMParser, StAsnModuleInfoVerXMLInfo& stModule);
 
     // Appends the "name" of each "dev" element below one "support" element.
-    std::uint32_t fillDevTypeInfo(const xercesc::DOMElement* pElm, std::list<std::string>* pDevTypeLst);
+    std::uint32_t fillDevTypeInfo(const xercesc::DOMElement* pSupport, std::list<std::string>* pLstOut);
 };
 
 #endif

@@ -1,6 +1,7 @@
 // The words of the configuration files and the numbers they stand for: one
 // table per enumeration, in the order in which the words are compared. What an
 // unknown word gives is written where a table is used: sections differ in it.
+// Every table has its word first, as strWord: attrRow() (common/XmlRead.h) finds it.
 #ifndef OPERATIONXML_RECORDS_WORDTABLES_H
 #define OPERATIONXML_RECORDS_WORDTABLES_H
 
@@ -81,19 +82,6 @@ inline constexpr StTaskTypeWord TASK_TYPE_WORDS[] = {
     {"ConfTransferUpgradeTask", DCAsn1ClientToServer::ConfTransferUpgradeTask,
      DCAsn1ClientToServer::ConfTransferUpgradeTask},
 };
-
-// The value of a word, or the fallback when the table does not hold it. Exact
-// and case-sensitive.
-template <typename Value, std::size_t nWords>
-Value wordValue(std::string_view strWord, const StWord<Value> (&arWords)[nWords], Value fallback)
-{
-    for (const StWord<Value>& stWord : arWords)
-    {
-        if (stWord.strWord == strWord)
-            return stWord.value;
-    }
-    return fallback;
-}
 
 // The row of a task-type name, or null.
 OPERATIONXML_API const StTaskTypeWord* findTaskType(std::string_view strName);

@@ -4,9 +4,6 @@
 
 #include "records/Vocabulary.h"
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
-
-#include <string>
 
 using namespace xercesc;
 
@@ -15,6 +12,7 @@ namespace
 constexpr const char* DC_SOURCE = "CCheckOpXMLConfig";
 
 constexpr StSection CHECK_SECTION = {
+    {DC_SOURCE, "setCheckOpConfiguration", __LINE__},
     u"CheckOperations",
     "pDOMParser is null.",
     "oAsnCheckOperationLst is null.",
@@ -23,23 +21,77 @@ constexpr StSection CHECK_SECTION = {
 
 // Both check files begin with the device type, which is not compared with anything:
 // the caller has chosen the file by it.
-constexpr StSection CHECK_FILE = {
+constexpr StSection TELNET_FILE = {
+    {DC_SOURCE, "setCheckOpConfigurationTelnet", __LINE__},
+    u"DeviceType",
+    "pDOMParser is null.",
+    "oAsnCheckOperationLst is null.",
+    "XercesDOMParser::getDocument failed.",
+};
+constexpr StSection FIXED_FILE = {
+    {DC_SOURCE, "setFixedCheckOpConfiguration", __LINE__},
     u"DeviceType",
     "pDOMParser is null.",
     "oAsnCheckOperationLst is null.",
     "XercesDOMParser::getDocument failed.",
 };
 
+// The items call themselves for their sub items.
+EnFate fillItem(const CAttributes& oItem, StAsnCheckType& stItem);
+EnFate fillTelnetItem(const CAttributes& oItem, StAsnCheckType& stItem);
+EnFate fillFixedItem(const CAttributes& oItem, StAsnCheckType& stItem);
+
+constexpr StRecordReader<StAsnCheckType> ITEMS = {
+    {{DC_SOURCE, "fillCheckType", __LINE__}, "pOperElm is null.", " pParaLst is null.", " pParaLst is null."},
+    u"Parameter",
+    fillItem,
+};
+constexpr StRecordReader<StAsnCheckType> TELNET_ITEMS = {
+    {{DC_SOURCE, "fillCheckTypeTelnet", __LINE__},
+     "pElmCheckType is null.",
+     "pCheckItemLst is null.",
+     "pParaLst is null."},
+    u"Parameter",
+    fillTelnetItem,
+};
+constexpr StRecordReader<StAsnCheckType> FIXED_ITEMS = {
+    {{DC_SOURCE, "fillFixedCheckItem", __LINE__},
+     "pElmCheckOperation is null.",
+     "pCheckItemLst is null.",
+     "pParaLst is null."},
+    u"Parameter",
+    fillFixedItem,
+};
+
+// An item that says nothing about it is integrated. The spelling is the attribute's.
+constexpr StWord<bool> INTEGRATED_WORDS[] = {{"", true}, {"1", true}};
+constexpr StWord<bool> FLAG_WORDS[]       = {{Vocabulary::TRUE_LOWER, true}, {Vocabulary::FALSE_LOWER, false}};
+
 // The check types of a telnet check file, in the order in which they run.
 constexpr const char16_t* TELNET_CHECK_TYPES[] = {u"PreCheck", u"PostCheck"};
 
-void readOperation(const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
+std::uint32_t readItems(const StRecordReader<StAsnCheckType>& stItems, const DOMElement* pElement,
+                        const char16_t* pszName, std::list<StAsnCheckType>* pLstOut)
 {
-    stOperation.enOperationLevel = readLevel(oOperation);
-    stOperation.bIsCancelable    = attrFlag(oOperation, u"isCancelable");
+    const CElements oItems(pElement, pszName);
+    std::uint32_t   ulResult = DC_RESULT_OK;
+    if (!canRead(stItems, pElement, oItems, pLstOut, ulResult))
+        return ulResult;
+    std::uint32_t ulIndex = 0; // an item that is left out takes its position all the same
+    for (const DOMElement& oItem : oItems)
+    {
+        readRecord(oItem, *pLstOut,
+                   [&](const CAttributes& oAttributes, StAsnCheckType& stItem)
+                   {
+                       stItem.ulIndex = ulIndex;
+                       return stItems.pfnFill(oAttributes, stItem);
+                   });
+        ++ulIndex;
+    }
+    return DC_RESULT_OK;
 }
 
-void readItem(const CAttributes& oItem, StAsnCheckType& stItem)
+void readItemAttributes(const CAttributes& oItem, StAsnCheckType& stItem)
 {
     stItem.strId           = attrText(oItem, u"id");
     stItem.strDescription  = attrText(oItem, u"description");
@@ -51,150 +103,166 @@ void readItem(const CAttributes& oItem, StAsnCheckType& stItem)
     stItem.strCompareParam = attrText(oItem, u"compareParam");
 }
 
-// An item that says nothing about it is integrated. The spelling is the attribute's.
 bool isIntegrated(const CAttributes& oItem)
 {
-    const std::string strIntegrated = attrText(oItem, u"integated");
-    return strIntegrated.empty() || strIntegrated == "1";
+    return attrWord(oItem, u"integated", INTEGRATED_WORDS, false);
 }
+
+EnFate fillItem(const CAttributes& oItem, StAsnCheckType& stItem)
+{
+    readItemAttributes(oItem, stItem);
+    readItems(ITEMS, oItem.element(), u"SubItem", &stItem.lstSubItem);
+    return isIntegrated(oItem) ? EnFate::Kept : EnFate::NotIntegrated;
+}
+
+EnFate fillTelnetItem(const CAttributes& oItem, StAsnCheckType& stItem)
+{
+    readItemAttributes(oItem, stItem);
+    // "checked" is these files' own word for "selected", and the last one to decide.
+    stItem.bSelected = attrWord(oItem, u"checked", FLAG_WORDS, stItem.bSelected);
+    readItems(TELNET_ITEMS, oItem.element(), u"SubItem", &stItem.lstSubItem);
+    if (!isIntegrated(oItem))
+        return EnFate::NotIntegrated;
+    return attrWord(oItem, u"GUI", FLAG_WORDS, true) ? EnFate::Kept : EnFate::HiddenInClient;
+}
+
+EnFate fillFixedItem(const CAttributes& oItem, StAsnCheckType& stItem)
+{
+    stItem.strId          = attrText(oItem, u"id");
+    stItem.strDescription = attrText(oItem, u"description");
+    stItem.bSelected      = attrFlag(oItem, u"selected");
+    return EnFate::Kept;
+}
+
+void readOperationAttributes(const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
+{
+    stOperation.enOperationLevel = readLevel(oOperation);
+    stOperation.bIsCancelable    = attrFlag(oOperation, u"isCancelable");
+}
+
+EnFate fillOperation(const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
+{
+    stOperation.strId = attrText(oOperation, u"id");
+    readOperationAttributes(oOperation, stOperation);
+    readItems(ITEMS, oOperation.element(), u"Parameter", &stOperation.lstCheckType);
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<StAsnCheckOperationDef> OPERATIONS = {
+    {{DC_SOURCE, "fillCheckOperInfo", __LINE__},
+     "pOperElm is null.",
+     "oAsnCheckOperationLst is null.",
+     "pParaLst is null."},
+    u"Operation",
+    fillOperation,
+};
+
+constexpr StReader FIXED_OPERATIONS = {
+    {DC_SOURCE, "fillFixedCheckType", __LINE__},
+    "pElmCheckType is null.",
+    "oAsnCheckOperationLst is null.",
+    "pParaLst is null.",
+};
 
 // The number of a task type of a check file. An unknown id gives -1 and keeps its
 // checks, as an operation of a server configuration file has them.
 std::int32_t readTaskType(const DOMElement& oTaskType)
 {
-    return getTaskTypeByName(attrText(oTaskType, u"id"));
+    const StTaskTypeWord* pWord = attrRow(CAttributes(oTaskType), u"id", TASK_TYPE_WORDS);
+    return pWord == nullptr ? -1 : pWord->enTaskType;
+}
+
+void readTelnetTaskType(const DOMElement& oTaskType, std::list<StAsnCheckOperationDef>& lstOut)
+{
+    const std::int32_t nTaskType = readTaskType(oTaskType);
+    for (const char16_t* pszCheckType : TELNET_CHECK_TYPES)
+    {
+        const auto fnFill = [&](const CAttributes& oCheckType, StAsnCheckOperationDef& stOperation)
+        {
+            stOperation.strId     = toLocal(pszCheckType);
+            stOperation.nTaskType = nTaskType;
+            readOperationAttributes(oCheckType, stOperation);
+            readItems(TELNET_ITEMS, oCheckType.element(), u"Parameter", &stOperation.lstCheckType);
+            return EnFate::Kept;
+        };
+        for (const DOMElement& oCheckType : CElements(&oTaskType, pszCheckType))
+            readRecord(oCheckType, lstOut, fnFill);
+    }
+}
+
+std::uint32_t readFixedOperations(const DOMElement* pTaskType, std::int32_t nTaskType,
+                                  std::list<StAsnCheckOperationDef>* pLstOut)
+{
+    return readRecords(FIXED_OPERATIONS, pTaskType, CElements(pTaskType, u"Operation"), pLstOut,
+                       [nTaskType](const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
+                       {
+                           stOperation.strId     = attrText(oOperation, u"id");
+                           stOperation.nTaskType = nTaskType;
+                           readOperationAttributes(oOperation, stOperation);
+                           readItems(FIXED_ITEMS, oOperation.element(), u"Parameter", &stOperation.lstCheckType);
+                           return EnFate::Kept;
+                       });
 }
 } // namespace
 
 std::uint32_t CCheckOpXMLConfig::setCheckOpConfiguration(XercesDOMParser*                   pDOMParser,
                                                          std::list<StAsnCheckOperationDef>* pLstOut)
 {
-    return readSections(DC_HERE, CHECK_SECTION, pDOMParser, pLstOut,
-                        [&](const DOMElement& oSection) { fillCheckOperInfo(&oSection, pLstOut); });
-}
-
-std::uint32_t CCheckOpXMLConfig::fillCheckOperInfo(const DOMElement*                  pSection,
-                                                   std::list<StAsnCheckOperationDef>* pLstOut)
-{
-    if (pSection == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pOperElm is null.");
-    if (pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "oAsnCheckOperationLst is null.");
-    return readRecords(DC_HERE, CElements(pSection, u"Operation"), "pParaLst is null.", pLstOut,
-                       [this](const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
-                       {
-                           stOperation.strId = attrText(oOperation, u"id");
-                           readOperation(oOperation, stOperation);
-                           fillCheckType(oOperation.element(), u"Parameter", &stOperation.lstCheckType);
-                       });
-}
-
-std::uint32_t CCheckOpXMLConfig::fillCheckType(const DOMElement* pElement, const char16_t* pszTagName,
-                                               std::list<StAsnCheckType>* pLstOut)
-{
-    if (pElement == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pOperElm is null.");
-    std::uint32_t ulIndex = 0; // an item that is left out takes its position all the same
-    return readRecords(DC_HERE, CElements(pElement, pszTagName), " pParaLst is null.", pLstOut,
-                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
-                       {
-                           readItem(oItem, stItem);
-                           stItem.ulIndex = ulIndex++;
-                           fillCheckType(oItem.element(), u"SubItem", &stItem.lstSubItem);
-                           return isIntegrated(oItem);
-                       });
+    return readSections(CHECK_SECTION, OPERATIONS, pDOMParser, pLstOut);
 }
 
 std::uint32_t CCheckOpXMLConfig::setCheckOpConfigurationTelnet(XercesDOMParser*                   pDOMParser,
                                                                std::list<StAsnCheckOperationDef>* pLstOut,
                                                                EnCheckReportType /*enReportType*/)
 {
-    const auto fnReadCheck = [&](const DOMElement& oTaskType, const char16_t* pszCheckType)
-    {
-        for (const DOMElement& oCheckType : CElements(&oTaskType, pszCheckType))
-        {
-            StAsnCheckOperationDef& stOperation = pLstOut->emplace_back();
-            stOperation.strId                   = toLocal(pszCheckType);
-            stOperation.nTaskType               = readTaskType(oTaskType);
-            readOperation(CAttributes(oCheckType), stOperation);
-            fillCheckTypeTelnet(&oCheckType, u"Parameter", &stOperation.lstCheckType);
-        }
-    };
-    return readSections(DC_HERE, CHECK_FILE, pDOMParser, pLstOut,
-                        [&](const DOMElement& oDeviceType)
+    return readSections(TELNET_FILE, pDOMParser, pLstOut,
+                        [pLstOut](const DOMElement& oDeviceType)
                         {
                             for (const DOMElement& oTaskType : CElements(&oDeviceType, u"TaskType"))
-                            {
-                                for (const char16_t* pszCheckType : TELNET_CHECK_TYPES)
-                                    fnReadCheck(oTaskType, pszCheckType);
-                            }
+                                readTelnetTaskType(oTaskType, *pLstOut);
                         });
-}
-
-std::uint32_t CCheckOpXMLConfig::fillCheckTypeTelnet(const DOMElement* pElmCheckType, const char16_t* pszTagName,
-                                                     std::list<StAsnCheckType>* pCheckItemLst)
-{
-    if (pElmCheckType == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElmCheckType is null.");
-    if (pCheckItemLst == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pCheckItemLst is null.");
-    std::uint32_t ulIndex = 0;
-    return readRecords(DC_HERE, CElements(pElmCheckType, pszTagName), "pParaLst is null.", pCheckItemLst,
-                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
-                       {
-                           readItem(oItem, stItem);
-                           stItem.ulIndex = ulIndex++;
-                           // "checked" is these files' own word for "selected", and the last one to decide.
-                           const std::string strChecked = attrText(oItem, u"checked");
-                           if (strChecked == Vocabulary::TRUE_LOWER || strChecked == Vocabulary::FALSE_LOWER)
-                               stItem.bSelected = strChecked == Vocabulary::TRUE_LOWER;
-                           fillCheckTypeTelnet(oItem.element(), u"SubItem", &stItem.lstSubItem);
-                           return isIntegrated(oItem) && attrText(oItem, u"GUI") != Vocabulary::FALSE_LOWER;
-                       });
 }
 
 std::uint32_t CCheckOpXMLConfig::setFixedCheckOpConfiguration(XercesDOMParser*                   pDOMParser,
                                                               std::list<StAsnCheckOperationDef>* pLstOut)
 {
-    return readSections(DC_HERE, CHECK_FILE, pDOMParser, pLstOut,
-                        [&](const DOMElement& oDeviceType)
+    return readSections(FIXED_FILE, pDOMParser, pLstOut,
+                        [pLstOut](const DOMElement& oDeviceType)
                         {
                             for (const DOMElement& oTaskType : CElements(&oDeviceType, u"TaskType"))
-                                fillFixedCheckType(&oTaskType, readTaskType(oTaskType), pLstOut);
+                                readFixedOperations(&oTaskType, readTaskType(oTaskType), pLstOut);
                         });
 }
 
-std::uint32_t CCheckOpXMLConfig::fillFixedCheckType(const DOMElement* pElmCheckType, std::int32_t nTaskType,
-                                                    std::list<StAsnCheckOperationDef>* pLstOut)
+std::uint32_t CCheckOpXMLConfig::fillCheckOperInfo(const DOMElement*                  pSection,
+                                                   std::list<StAsnCheckOperationDef>* pLstOut)
 {
-    if (pElmCheckType == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElmCheckType is null.");
-    if (pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "oAsnCheckOperationLst is null.");
-    return readRecords(DC_HERE, CElements(pElmCheckType, u"Operation"), "pParaLst is null.", pLstOut,
-                       [&](const CAttributes& oOperation, StAsnCheckOperationDef& stOperation)
-                       {
-                           stOperation.strId     = attrText(oOperation, u"id");
-                           stOperation.nTaskType = nTaskType;
-                           readOperation(oOperation, stOperation);
-                           fillFixedCheckItem(oOperation.element(), &stOperation.lstCheckType);
-                       });
+    return guarded(OPERATIONS, [&] { return readRecords(OPERATIONS, pSection, pLstOut); });
 }
 
-std::uint32_t CCheckOpXMLConfig::fillFixedCheckItem(const DOMElement*          pElmCheckOperation,
-                                                    std::list<StAsnCheckType>* pCheckItemLst)
+// The names come by value: callers are built against it.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+std::uint32_t CCheckOpXMLConfig::fillCheckType(const DOMElement* pElement, std::string strTagName,
+                                               std::list<StAsnCheckType>* pLstOut)
 {
-    if (pElmCheckOperation == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElmCheckOperation is null.");
-    if (pCheckItemLst == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pCheckItemLst is null.");
-    std::uint32_t ulIndex = 0;
-    return readRecords(DC_HERE, CElements(pElmCheckOperation, u"Parameter"), "pParaLst is null.", pCheckItemLst,
-                       [&](const CAttributes& oItem, StAsnCheckType& stItem)
-                       {
-                           stItem.strId          = attrText(oItem, u"id");
-                           stItem.strDescription = attrText(oItem, u"description");
-                           stItem.bSelected      = attrFlag(oItem, u"selected");
-                           stItem.ulIndex        = ulIndex++;
-                       });
+    return guarded(ITEMS, [&] { return readItems(ITEMS, pElement, fromLocal(strTagName).c_str(), pLstOut); });
+}
+
+std::uint32_t CCheckOpXMLConfig::fillCheckTypeTelnet(const DOMElement* pElement, std::string strTagName,
+                                                     std::list<StAsnCheckType>* pLstOut)
+{
+    return guarded(TELNET_ITEMS,
+                   [&] { return readItems(TELNET_ITEMS, pElement, fromLocal(strTagName).c_str(), pLstOut); });
+}
+// NOLINTEND(performance-unnecessary-value-param)
+
+std::uint32_t CCheckOpXMLConfig::fillFixedCheckType(const DOMElement* pTaskType, std::int32_t nTaskType,
+                                                    std::list<StAsnCheckOperationDef>* pLstOut)
+{
+    return guarded(FIXED_OPERATIONS, [&] { return readFixedOperations(pTaskType, nTaskType, pLstOut); });
+}
+
+std::uint32_t CCheckOpXMLConfig::fillFixedCheckItem(const DOMElement* pOperation, std::list<StAsnCheckType>* pLstOut)
+{
+    return guarded(FIXED_ITEMS, [&] { return readItems(FIXED_ITEMS, pOperation, u"Parameter", pLstOut); });
 }

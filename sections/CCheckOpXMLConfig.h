@@ -12,6 +12,10 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#include <cstdint>
+#include <list>
+#include <string>
+
 enum EnCheckReportType : std::int32_t; // platform/DeviceAdapter.h
 
 class OPERATIONXML_API CCheckOpXMLConfig
@@ -38,18 +42,17 @@ public:
     // Reads the elements of the name below pElement as check items, each with its
     // "SubItem" elements. Lookups take any depth: a sub item nested two levels
     // down stands under its parent and again under its grandparent.
-    std::uint32_t fillCheckType(const xercesc::DOMElement* pElement, const char16_t* pszTagName,
+    std::uint32_t fillCheckType(const xercesc::DOMElement* pElement, std::string strTagName,
                                 std::list<StAsnCheckType>* pLstOut);
 
     // The same for the items of a telnet check file, which know "checked" and "GUI" as well.
-    std::uint32_t fillCheckTypeTelnet(const xercesc::DOMElement* pElmCheckType, const char16_t* pszTagName,
-                                      std::list<StAsnCheckType>* pCheckItemLst);
+    std::uint32_t fillCheckTypeTelnet(const xercesc::DOMElement* pElement, std::string strTagName,
+                                      std::list<StAsnCheckType>* pLstOut);
 
     // Read the operations of one "TaskType" of a fixed check file, and the items of one of them.
-    std::uint32_t fillFixedCheckType(const xercesc::DOMElement* pElmCheckType, std::int32_t nTaskType,
+    std::uint32_t fillFixedCheckType(const xercesc::DOMElement* pTaskType, std::int32_t nTaskType,
                                      std::list<StAsnCheckOperationDef>* pLstOut);
-    std::uint32_t fillFixedCheckItem(const xercesc::DOMElement* pElmCheckOperation,
-                                     std::list<StAsnCheckType>* pCheckItemLst);
+    std::uint32_t fillFixedCheckItem(const xercesc::DOMElement* pOperation, std::list<StAsnCheckType>* pLstOut);
 };
 
 #endif

@@ -4,6 +4,7 @@
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's lists in document order and never removes what is already there.
 // Every failure answers DC_RESULT_XML_ERROR and is logged once, where it arises.
+// Called by the section chain (reader/), and by whoever reads a document himself.
 #ifndef OPERATIONXML_SECTIONS_CDEVOPXMLCONFIG_H
 #define OPERATIONXML_SECTIONS_CDEVOPXMLCONFIG_H
 
@@ -15,9 +16,6 @@
 
 #include <cstdint>
 #include <list>
-
-struct LocationInfo;
-struct StOperSection;
 
 class OPERATIONXML_API CDevOpXMLConfig
 {
@@ -49,12 +47,6 @@ public:
     // Whether the server's resource "BACKUP_PROGRAM_SUPPORT" is 1. Asked afresh
     // each time; a resource that cannot be read is logged and answers false.
     static bool isBackupProgramEnable();
-
-private:
-    std::uint32_t setOperations(const LocationInfo& stWhere, const StOperSection& stSection,
-                                xercesc::XercesDOMParser* pDOMParser, std::list<StAsnOperation>* pLstOut);
-    std::uint32_t fillOperations(const LocationInfo& stWhere, const StOperSection& stSection,
-                                 const xercesc::DOMElement* pSection, std::list<StAsnOperation>* pLstOut);
 };
 
 #endif

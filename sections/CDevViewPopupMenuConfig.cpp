@@ -4,7 +4,6 @@
 
 #include "platform/Settings.h"
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
@@ -12,39 +11,21 @@ namespace
 {
 constexpr const char* DC_SOURCE = "CDevViewPopupMenuConfig";
 
-constexpr StSection POPUP_MENU = {u"DeviceViewPopupMenu", nullptr, nullptr, "XercesDOMParser::getDocument failed :"};
-constexpr StSection TAB        = {u"DeviceViewTab", nullptr, nullptr, "XercesDOMParser::getDocument failed :"};
-} // namespace
+constexpr StSection POPUP_MENU = {
+    {DC_SOURCE, "setDevViewPopupMenuConfig", __LINE__},
+    u"DeviceViewPopupMenu",
+    nullptr,
+    nullptr,
+    "XercesDOMParser::getDocument failed :",
+};
+constexpr StSection TAB = {
+    {DC_SOURCE, "setDevViewTabConfig", __LINE__}, u"DeviceViewTab", nullptr, nullptr,
+    "XercesDOMParser::getDocument failed :",
+};
 
-std::uint32_t CDevViewPopupMenuConfig::setDevViewPopupMenuConfig(XercesDOMParser*           pDOMParser,
-                                                                 std::list<StAsnMenuOpDef>* pLstOut)
-{
-    return readSections(DC_HERE, POPUP_MENU, pDOMParser, pLstOut,
-                        [&](const DOMElement& oMenu) { fillDevViewPopUpMenu(&oMenu, pLstOut); });
-}
+constexpr LocationInfo FILTER = {DC_SOURCE, "JudgeFilterOndixISSUCapability", __LINE__};
 
-std::uint32_t CDevViewPopupMenuConfig::setDevViewTabConfig(XercesDOMParser*           pDOMParser,
-                                                           std::list<StAsnMenuOpDef>* pLstOut)
-{
-    return readSections(DC_HERE, TAB, pDOMParser, pLstOut,
-                        [&](const DOMElement& oTab) { fillDevViewPopUpMenu(&oTab, pLstOut); });
-}
-
-std::uint32_t CDevViewPopupMenuConfig::fillDevViewPopUpMenu(const DOMElement* pMenu, std::list<StAsnMenuOpDef>* pLstOut)
-{
-    if (pMenu == nullptr || pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR,
-                       "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:");
-    return readRecords(DC_HERE, CElements(pMenu, u"Item"), "DOMElement::getElementsByTagName failed.", pLstOut,
-                       [](const CAttributes& oItem, StAsnMenuOpDef& stEntry)
-                       {
-                           readReference(oItem, stEntry);
-                           return stEntry.enType != DCAsn1ClientToServer::OtherOperation ||
-                                  !JudgeFilterOndixISSUCapability(stEntry);
-                       });
-}
-
-bool CDevViewPopupMenuConfig::JudgeFilterOndixISSUCapability(const StAsnMenuOpDef& stEntry)
+bool isLeftOut(const StAsnMenuOpDef& stEntry)
 {
     if (stEntry.strId != "GetWeakBd")
         return false;
@@ -52,8 +33,54 @@ bool CDevViewPopupMenuConfig::JudgeFilterOndixISSUCapability(const StAsnMenuOpDe
     CDCSettingInfoTab::Instance()->getValueByParam("WDM_SUPPORT_ISSU_UPGRADE", strMode);
     const bool bOffered = strMode == "1" || strMode == "2";
     if (strMode == "0")
-        logInfo(DC_HERE, "User does not care ISSU mode."); // not the text of the other operations' filter
+        logInfo(FILTER, "User does not care ISSU mode."); // not the text of the other operations' filter
     else if (!bOffered)
-        logInfo(DC_HERE, "ISSU mode value illigle.");
+        logInfo(FILTER, "ISSU mode value illigle.");
     return !bOffered;
+}
+
+EnFate fillItem(const CAttributes& oItem, StAsnMenuOpDef& stEntry)
+{
+    const EnFate enFate = fillReference(oItem, stEntry);
+    if (stEntry.enType == DCAsn1ClientToServer::OtherOperation && isLeftOut(stEntry))
+        return EnFate::NoServiceUpgrade;
+    return enFate;
+}
+
+constexpr StRecordReader<StAsnMenuOpDef> ITEMS = {
+    {{DC_SOURCE, "fillDevViewPopUpMenu", __LINE__},
+     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
+     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
+     "DOMElement::getElementsByTagName failed."},
+    u"Item",
+    fillItem,
+};
+} // namespace
+
+std::uint32_t CDevViewPopupMenuConfig::setDevViewPopupMenuConfig(XercesDOMParser*           pDOMParser,
+                                                                 std::list<StAsnMenuOpDef>* pLstOut)
+{
+    return readSections(POPUP_MENU, ITEMS, pDOMParser, pLstOut);
+}
+
+std::uint32_t CDevViewPopupMenuConfig::setDevViewTabConfig(XercesDOMParser*           pDOMParser,
+                                                           std::list<StAsnMenuOpDef>* pLstOut)
+{
+    return readSections(TAB, ITEMS, pDOMParser, pLstOut);
+}
+
+std::uint32_t CDevViewPopupMenuConfig::fillDevViewPopUpMenu(const DOMElement* pMenu, std::list<StAsnMenuOpDef>* pLstOut)
+{
+    return guarded(ITEMS, [&] { return readRecords(ITEMS, pMenu, pLstOut); });
+}
+
+bool CDevViewPopupMenuConfig::JudgeFilterOndixISSUCapability(const StAsnMenuOpDef& stEntry)
+try
+{
+    return isLeftOut(stEntry);
+}
+catch (...)
+{
+    logThrown(FILTER, DC_RESULT_XML_ERROR);
+    return true; // as with a setting that is not there
 }

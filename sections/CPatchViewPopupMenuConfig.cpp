@@ -2,7 +2,6 @@
 #include "sections/CPatchViewPopupMenuConfig.h"
 
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
@@ -11,40 +10,50 @@ namespace
 constexpr const char* DC_SOURCE = "CPatchViewPopupMenuConfig";
 
 constexpr StSection PATCH_VIEW_SECTION = {
+    {DC_SOURCE, "setPatchViewPopupMenuConfig", __LINE__},
     u"PatchViewPopupMenu",
     "Invalid para. NULL pointer.pDOMParser",
     "Invalid para. NULL pointer. pAsnPatchViewMenuOpList",
     "XercesDOMParser::getDocument failed :",
+};
+
+constexpr StRecordReader<StAsnMenuOpDef> ITEMS = {
+    lookupReader({DC_SOURCE, "fillMenuOperLst", __LINE__}, "DOMElement::getElementsByTagName failed :",
+                 DC_RESULT_OK), // a patch type without entries is no failure
+    u"Item",
+    fillReference,
+};
+
+EnFate fillPatch(const CAttributes& oPatch, StAsnPatchTypeMenuDef& stMenu)
+{
+    stMenu.enPatchType = readPatchType(oPatch);
+    readRecords(ITEMS, oPatch.element(), &stMenu.lstMenuOp);
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<StAsnPatchTypeMenuDef> PATCHES = {
+    {{DC_SOURCE, "fillPatchTypeInfo", __LINE__},
+     "Invalid para. NULL pointer. pOperElm.",
+     "Invalid para. NULL pointer. pAsnPatchViewMenuOpList",
+     "Invalid para. NULL pointer. pParaLst"},
+    u"Patch",
+    fillPatch,
 };
 } // namespace
 
 std::uint32_t CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig(XercesDOMParser*                  pDOMParser,
                                                                      std::list<StAsnPatchTypeMenuDef>* pLstOut)
 {
-    return readSections(DC_HERE, PATCH_VIEW_SECTION, pDOMParser, pLstOut,
-                        [&](const DOMElement& oSection) { fillPatchTypeInfo(&oSection, pLstOut); });
+    return readSections(PATCH_VIEW_SECTION, PATCHES, pDOMParser, pLstOut);
 }
 
 std::uint32_t CPatchViewPopupMenuConfig::fillPatchTypeInfo(const DOMElement*                 pSection,
                                                            std::list<StAsnPatchTypeMenuDef>* pLstOut)
 {
-    if (pSection == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Invalid para. NULL pointer. pOperElm.");
-    if (pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Invalid para. NULL pointer. pAsnPatchViewMenuOpList");
-    return readRecords(DC_HERE, CElements(pSection, u"Patch"), "Invalid para. NULL pointer. pParaLst", pLstOut,
-                       [this](const CAttributes& oPatch, StAsnPatchTypeMenuDef& stMenu)
-                       {
-                           stMenu.enPatchType = readPatchType(oPatch);
-                           fillMenuOperLst(oPatch.element(), &stMenu.lstMenuOp);
-                       });
+    return guarded(PATCHES, [&] { return readRecords(PATCHES, pSection, pLstOut); });
 }
 
 std::uint32_t CPatchViewPopupMenuConfig::fillMenuOperLst(const DOMElement* pPatch, std::list<StAsnMenuOpDef>* pLstOut)
 {
-    if (pPatch == nullptr || pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    readRecords(DC_HERE, CElements(pPatch, u"Item"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                readReference<StAsnMenuOpDef>);
-    return DC_RESULT_OK; // also when the lookup failed: a patch type without entries is no failure
+    return guarded(ITEMS, [&] { return readRecords(ITEMS, pPatch, pLstOut); });
 }

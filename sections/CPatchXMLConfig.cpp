@@ -2,7 +2,6 @@
 #include "sections/CPatchXMLConfig.h"
 
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
 
 using namespace xercesc;
 
@@ -11,51 +10,67 @@ namespace
 constexpr const char* DC_SOURCE = "CPatchXMLConfig";
 
 constexpr StSection PATCH_STATE_SECTION = {
+    {DC_SOURCE, "setPatchStateConfiguraion", __LINE__},
     u"PatchStateConfiguration",
     "Invalid para. NULL pointer.pDOMParser",
     "Invalid para. NULL pointer. pAsnPatchStateConfigLst",
     "XercesDOMParser::getDocument failed :",
 };
+
+constexpr StRecordReader<StAsnPatchItem> ITEMS = {
+    lookupReader({DC_SOURCE, "fillPatchItem", __LINE__},
+                 "DOMElement::getElementsByTagName failed :", DC_RESULT_OK), // a state without items is no failure
+    u"Item",
+    fillReference,
+};
+
+EnFate fillState(const CAttributes& oState, StAsnPatchStateDef& stState)
+{
+    stState.strName = attrText(oState, u"name");
+    readRecords(ITEMS, oState.element(), &stState.lstPatchItem);
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<StAsnPatchStateDef> STATES = {
+    lookupReader({DC_SOURCE, "fillPatchState", __LINE__},
+                 "DOMElement::getElementsByTagName failed :", DC_RESULT_OK), // nor is a patch without states
+    u"State",
+    fillState,
+};
+
+EnFate fillPatch(const CAttributes& oPatch, StAsnPatchDef& stPatch)
+{
+    stPatch.enPatchType = readPatchType(oPatch);
+    readRecords(STATES, oPatch.element(), &stPatch.lstPatchState);
+    return EnFate::Kept;
+}
+
+constexpr StRecordReader<StAsnPatchDef> PATCHES = {
+    {{DC_SOURCE, "fillPatchType", __LINE__},
+     "DOMElement::getElementsByTagName failed :",
+     "Invalid para. NULL pointer. pAsnPatchStateConfigLst",
+     "Invalid para. NULL pointer. pParaLst1"},
+    u"Patch",
+    fillPatch,
+};
 } // namespace
 
 std::uint32_t CPatchXMLConfig::setPatchStateConfiguraion(XercesDOMParser* pDOMParser, std::list<StAsnPatchDef>* pLstOut)
 {
-    return readSections(DC_HERE, PATCH_STATE_SECTION, pDOMParser, pLstOut,
-                        [&](const DOMElement& oSection) { fillPatchType(&oSection, pLstOut); });
+    return readSections(PATCH_STATE_SECTION, PATCHES, pDOMParser, pLstOut);
 }
 
 std::uint32_t CPatchXMLConfig::fillPatchType(const DOMElement* pSection, std::list<StAsnPatchDef>* pLstOut)
 {
-    if (pSection == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    if (pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Invalid para. NULL pointer. pAsnPatchStateConfigLst");
-    return readRecords(DC_HERE, CElements(pSection, u"Patch"), "Invalid para. NULL pointer. pParaLst1", pLstOut,
-                       [this](const CAttributes& oPatch, StAsnPatchDef& stPatch)
-                       {
-                           stPatch.enPatchType = readPatchType(oPatch);
-                           fillPatchState(oPatch.element(), &stPatch.lstPatchState);
-                       });
+    return guarded(PATCHES, [&] { return readRecords(PATCHES, pSection, pLstOut); });
 }
 
 std::uint32_t CPatchXMLConfig::fillPatchState(const DOMElement* pPatch, std::list<StAsnPatchStateDef>* pLstOut)
 {
-    if (pPatch == nullptr || pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    readRecords(DC_HERE, CElements(pPatch, u"State"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                [this](const CAttributes& oState, StAsnPatchStateDef& stState)
-                {
-                    stState.strName = attrText(oState, u"name");
-                    fillPatchItem(oState.element(), &stState.lstPatchItem);
-                });
-    return DC_RESULT_OK; // also when the lookup failed: a patch without states is no failure
+    return guarded(STATES, [&] { return readRecords(STATES, pPatch, pLstOut); });
 }
 
 std::uint32_t CPatchXMLConfig::fillPatchItem(const DOMElement* pState, std::list<StAsnPatchItem>* pLstOut)
 {
-    if (pState == nullptr || pLstOut == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
-    readRecords(DC_HERE, CElements(pState, u"Item"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                readReference<StAsnPatchItem>);
-    return DC_RESULT_OK; // likewise for a state without items
+    return guarded(ITEMS, [&] { return readRecords(ITEMS, pState, pLstOut); });
 }

@@ -2,9 +2,6 @@
 #include "sections/CUpgradeOpXMLConfig.h"
 
 #include "sections/ItemRead.h"
-#include "sections/SectionRead.h"
-
-#include <algorithm>
 
 using namespace xercesc;
 
@@ -13,67 +10,89 @@ namespace
 constexpr const char* DC_SOURCE = "CUpgradeOpXMLConfig";
 
 constexpr StSection UPGRADE_SECTION = {
-    u"UpgradeOperation",
-    "pDOMParser is null.",
+    {DC_SOURCE, "setUpgradeOperXMLConfig", __LINE__}, u"UpgradeOperation", "pDOMParser is null.",
     "DOMElement::getElementsByTagName failed :", // a missing list is told like a missing element
     "XercesDOMParser::getDocument failed :",
+};
+
+constexpr StOptionReader OPTIONS = {
+    lookupReader({DC_SOURCE, "fillOperOptionInfo", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    false,
+    nullptr,
+    EnFate::LookupFailed,
+};
+constexpr StParameterReader PARAMETERS = {
+    lookupReader({DC_SOURCE, "fillSubParaType", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    false,
+    false,
+    OPTIONS,
+};
+
+EnFate fillSubOperation(const CAttributes& oSubOperation, StAsnUpgradeSubOperationDef& stSubOperation)
+{
+    stSubOperation.strId            = attrText(oSubOperation, u"id");
+    stSubOperation.enOperationLevel = readLevel(oSubOperation);
+    attrText(oSubOperation, u"operDescription"); // read, and in no record
+    const std::uint32_t ulResult = readParameters(PARAMETERS, oSubOperation.element(), stSubOperation.lstParameter);
+    return ulResult == DC_RESULT_OK ? EnFate::Kept : EnFate::LookupFailed;
+}
+
+constexpr StRecordReader<StAsnUpgradeSubOperationDef> SUB_OPERATIONS = {
+    lookupReader({DC_SOURCE, "fillSubOperType", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    u"SubOperation",
+    fillSubOperation,
+};
+
+EnFate fillOperation(const CAttributes& oOperation, StAsnUpgradeOperationDef& stOperation)
+{
+    stOperation.strId            = attrText(oOperation, u"id");
+    stOperation.enOperationLevel = readLevel(oOperation);
+    const std::uint32_t ulResult = readRecords(SUB_OPERATIONS, oOperation.element(), &stOperation.lstSubOperation);
+    return ulResult == DC_RESULT_OK ? EnFate::Kept : EnFate::UpgradeLacksStep;
+}
+
+constexpr StRecordReader<StAsnUpgradeOperationDef> OPERATIONS = {
+    lookupReader({DC_SOURCE, "fillUpgradeOperInfo", __LINE__}, "DOMElement::getElementsByTagName failed :"),
+    u"Operation",
+    fillOperation,
 };
 } // namespace
 
 std::uint32_t CUpgradeOpXMLConfig::setUpgradeOperXMLConfig(XercesDOMParser*                     pDOMParser,
                                                            std::list<StAsnUpgradeOperationDef>* pLstOut)
 {
-    return readSections(DC_HERE, UPGRADE_SECTION, pDOMParser, pLstOut,
-                        [&](const DOMElement& oSection) { fillUpgradeOperInfo(&oSection, pLstOut); });
+    return readSections(UPGRADE_SECTION, OPERATIONS, pDOMParser, pLstOut);
 }
 
 std::uint32_t CUpgradeOpXMLConfig::fillUpgradeOperInfo(const DOMElement*                    pSection,
                                                        std::list<StAsnUpgradeOperationDef>* pLstOut)
 {
-    return readRecords(DC_HERE, CElements(pSection, u"Operation"), "DOMElement::getElementsByTagName failed :", pLstOut,
-                       [this](const CAttributes& oOperation, StAsnUpgradeOperationDef& stOperation)
-                       {
-                           stOperation.strId            = attrText(oOperation, u"id");
-                           stOperation.enOperationLevel = readLevel(oOperation);
-                           // An upgrade that lacks a step must not be offered: it is dropped as a whole.
-                           return fillSubOperType(oOperation.element(), u"SubOperation", stOperation.lstSubOperation) ==
-                                  DC_RESULT_OK;
-                       });
+    return guarded(OPERATIONS, [&] { return readRecords(OPERATIONS, pSection, pLstOut); });
 }
 
-std::uint32_t CUpgradeOpXMLConfig::fillSubOperType(const DOMElement* pOperation, const char16_t* pszTagName,
+// The names come by value: callers are built against it.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+std::uint32_t CUpgradeOpXMLConfig::fillSubOperType(const DOMElement* pOperation, std::string strTagName,
                                                    std::list<StAsnUpgradeSubOperationDef>& lstOut)
 {
-    std::uint32_t       ulBelow = DC_RESULT_OK;
-    const std::uint32_t ulHere  = readRecords(
-         DC_HERE, CElements(pOperation, pszTagName), "DOMElement::getElementsByTagName failed :", &lstOut,
-         [&](const CAttributes& oSubOperation, StAsnUpgradeSubOperationDef& stSubOperation)
-         {
-            stSubOperation.strId            = attrText(oSubOperation, u"id");
-            stSubOperation.enOperationLevel = readLevel(oSubOperation); // "operDescription" is in no record
-            ulBelow =
-                std::max(ulBelow, fillSubParaType(oSubOperation.element(), u"Parameter", stSubOperation.lstParameter));
-        });
-    return std::max(ulHere, ulBelow);
+    return guarded(SUB_OPERATIONS,
+                   [&]
+                   {
+                       const std::u16string strName = fromLocal(strTagName);
+                       return readRecords(SUB_OPERATIONS, pOperation, CElements(pOperation, strName.c_str()), &lstOut,
+                                          fillSubOperation);
+                   });
 }
 
-std::uint32_t CUpgradeOpXMLConfig::fillSubParaType(const DOMElement* pSubOperation, const char16_t* pszTagName,
+std::uint32_t CUpgradeOpXMLConfig::fillSubParaType(const DOMElement* pSubOperation, std::string strTagName,
                                                    std::list<StAsnOperParamDef>& lstOut)
 {
-    std::uint32_t       ulBelow = DC_RESULT_OK;
-    const std::uint32_t ulHere =
-        readRecords(DC_HERE, CElements(pSubOperation, pszTagName), "DOMElement::getElementsByTagName failed :", &lstOut,
-                    [&](const CAttributes& oParameter, StAsnOperParamDef& stParam)
-                    {
-                        stParam.bIsRequired = attrFlag(oParameter, u"isRequired");
-                        stParam.strId       = attrText(oParameter, u"id"); // these have no "value" and no "selected"
-                        ulBelow = std::max(ulBelow, fillOperOptionInfo(oParameter.element(), stParam.lstOption));
-                    });
-    return std::max(ulHere, ulBelow);
+    return guarded(PARAMETERS,
+                   [&] { return readParameters(PARAMETERS, pSubOperation, lstOut, fromLocal(strTagName).c_str()); });
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 std::uint32_t CUpgradeOpXMLConfig::fillOperOptionInfo(const DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut)
 {
-    return readRecords(DC_HERE, optionElements(pParameter), "DOMElement::getElementsByTagName failed :", &lstOut,
-                       readOption);
+    return guarded(OPTIONS, [&] { return readOptions(OPTIONS, pParameter, lstOut); });
 }

@@ -11,6 +11,10 @@
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#include <cstdint>
+#include <list>
+#include <string>
+
 class OPERATIONXML_API CUpgradeOpXMLConfig
 {
 public:
@@ -24,11 +28,12 @@ public:
                                       std::list<StAsnUpgradeOperationDef>* pLstOut);
 
     // Read the sub-operations of one operation, the parameters of one
-    // sub-operation, and the options of one parameter. A failure below the element
-    // is passed up, so that the whole operation is dropped.
-    std::uint32_t fillSubOperType(const xercesc::DOMElement* pOperation, const char16_t* pszTagName,
+    // sub-operation, and the options of one parameter. An element whose content
+    // cannot be looked up is dropped and fails the read of its siblings, so that in
+    // the end the whole operation is dropped.
+    std::uint32_t fillSubOperType(const xercesc::DOMElement* pOperation, std::string strTagName,
                                   std::list<StAsnUpgradeSubOperationDef>& lstOut);
-    std::uint32_t fillSubParaType(const xercesc::DOMElement* pSubOperation, const char16_t* pszTagName,
+    std::uint32_t fillSubParaType(const xercesc::DOMElement* pSubOperation, std::string strTagName,
                                   std::list<StAsnOperParamDef>& lstOut);
     std::uint32_t fillOperOptionInfo(const xercesc::DOMElement* pParameter, std::list<StAsnOptionInfo>& lstOut);
 };

@@ -33,30 +33,6 @@ TEST(WordTablesTest, TaskTypesHaveTwoNumbers)
     }
 }
 
-TEST(WordTablesTest, WordsCompareExactly)
-{
-    const struct
-    {
-        const char*  pszWord;
-        std::int32_t nLevel;     // falls back to DeviceLevel
-        std::int32_t nOperation; // falls back to UnknownOperation
-        std::int32_t nIsolation; // its own three kinds
-    } CASES[] = {
-        {"DeviceLevel", 0, 6, 6},     {"BoardLevel", 1, 6, 6},      {"Both", 2, 6, 6},
-        {"Both ", 0, 6, 6},           {"boardlevel", 0, 6, 6},      {"", 0, 6, 6},
-        {"DeviceOperation", 0, 0, 0}, {"TaskOperation", 0, 1, 1},   {"PatchOperation", 0, 2, 6},
-        {"CheckOperation", 0, 3, 6},  {"CustomOperation", 0, 4, 6}, {"OtherOperation", 0, 5, 6},
-        {"BoardOperation", 0, 6, 7},  {"Operation", 0, 6, 6},
-    };
-    for (const auto& stCase : CASES)
-    {
-        SCOPED_TRACE(stCase.pszWord);
-        EXPECT_EQ(stCase.nLevel, wordValue(stCase.pszWord, OPERATION_LEVEL_WORDS, DeviceLevel));
-        EXPECT_EQ(stCase.nOperation, wordValue(stCase.pszWord, TYPE_REF_WORDS, UnknownOperation));
-        EXPECT_EQ(stCase.nIsolation, wordValue(stCase.pszWord, ISOLATION_TYPE_REF_WORDS, UnknownOperation));
-    }
-}
-
 TEST(WordTablesTest, FixedChecksAreOnAtExactlyOne)
 {
     CTempServerRoot oRoot;

@@ -74,6 +74,10 @@ private:
     static Text of(const StAsnUpgradeSubOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstParameter); }
     static Text of(const StAsnUpgradeOperationDef& r) { return joined(r.strId, r.enOperationLevel, r.lstSubOperation); }
     static Text of(const StAsnMenuOpDef& r) { return joined(r.enType, r.strId); }
+    static Text of(const StAsnPatchItem& r) { return joined(r.strId, r.enType); }
+    static Text of(const StAsnPatchStateDef& r) { return joined(r.strName, r.lstPatchItem); }
+    static Text of(const StAsnPatchDef& r) { return joined(r.enPatchType, r.lstPatchState); }
+    static Text of(const StAsnPatchTypeMenuDef& r) { return joined(r.enPatchType, r.lstMenuOp); }
     static Text of(const StAsnTaskOperationDef& r)
     {
         return joined(r.enType, r.strId, r.strDependsOn, r.strOperDescription, r.strIsSelect, r.strIsPauseBeforeOP);
@@ -88,7 +92,8 @@ private:
     }
 };
 
-// A section as a table names it: reads a snippet, answers the records.
+// A section as a table names it: reads a snippet, answers the records. They come
+// after what stands in the list already, which stays as it is.
 using SectionReader = std::function<std::string(const std::string& strXml)>;
 
 template <typename Parser, typename Record>
@@ -97,9 +102,13 @@ SectionReader section(std::uint32_t (Parser::*pfnSet)(xercesc::XercesDOMParser*,
     return [pfnSet](const std::string& strXml)
     {
         CParsedXml        oXml(strXml);
-        std::list<Record> lstRecord;
+        std::list<Record> lstRecord(1);
+        const std::string strBefore = CRecordText::list(lstRecord);
         EXPECT_EQ(0u, (Parser().*pfnSet)(oXml.parser(), &lstRecord));
-        return CRecordText::list(lstRecord);
+        std::list<Record> lstAppended;
+        lstAppended.splice(lstAppended.begin(), lstRecord, std::next(lstRecord.begin()), lstRecord.end());
+        EXPECT_EQ(strBefore, CRecordText::list(lstRecord));
+        return CRecordText::list(lstAppended);
     };
 }
 

@@ -7,6 +7,8 @@
 #include "sections/CDevViewPopupMenuConfig.h"
 #include "sections/CIsolationViewPopupMenuConfig.h"
 #include "sections/COtherOpXMLConfig.h"
+#include "sections/CPatchViewPopupMenuConfig.h"
+#include "sections/CPatchXMLConfig.h"
 #include "sections/CTaskXMLConfig.h"
 #include "sections/CUpgradeOpXMLConfig.h"
 
@@ -40,7 +42,9 @@ const SectionReader UPGRADE = within("UpgradeOperation", &CUpgradeOpXMLConfig::s
 const SectionReader MENU    = within("DeviceViewPopupMenu", &CDevViewPopupMenuConfig::setDevViewPopupMenuConfig);
 const SectionReader ISOLATION =
     within("DeviceViewPopupMenu", &CIsolationViewPopupMenuConfig::setIsolationViewPopupMenuConfig);
-const SectionReader TASK_TYPE = section(&CTaskXMLConfig::setTaskConfiguration);
+const SectionReader PATCH_STATE = within("PatchStateConfiguration", &CPatchXMLConfig::setPatchStateConfiguraion);
+const SectionReader PATCH_MENU  = within("PatchViewPopupMenu", &CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig);
+const SectionReader TASK_TYPE   = section(&CTaskXMLConfig::setTaskConfiguration);
 
 struct StReadCase
 {
@@ -76,8 +80,28 @@ const StReadCase CASES[] = {
      "0||[p|v|1||[o|1|t]|[6|s||||]|[], ||0||[]|[]|[]]"},
 
     // What dumps of whole files do not show: words that are read here otherwise, attributes that are not read.
-    {"DeviceLevelUnlessKnown", TASK, "<Operation operationLevel='BoardLevel'/><Operation operationLevel='both'/>",
-     "|0|1|[]|0|0, |0|0|[]|0|0"},
+    // Words compare exactly, and an unknown one reads as the first of its kind.
+    {"Levels", TASK,
+     "<Operation operationLevel='BoardLevel'/><Operation operationLevel='Both'/><Operation operationLevel='both'/>"
+     "<Operation operationLevel='Both '/>",
+     "|0|1|[]|0|0, |0|2|[]|0|0, |0|0|[]|0|0, |0|0|[]|0|0"},
+    {"Availability", CUSTOM,
+     "<Operation AvailableIn='Tab'/><Operation AvailableIn='createTaskDialog'/><Operation AvailableIn="
+     "'modifyTaskDialog'/><Operation AvailableIn='viewTaskDialog'/><Operation AvailableIn='PopupMenu'/><Operation "
+     "AvailableIn='tab'/><Operation/>",
+     "|||0|1, |||0|2, |||0|3, |||0|4, |||0|0, |||0|0, |||0|0"},
+    {"PatchTypes", PATCH_STATE,
+     "<Patch type='ColdPatch'><State name='n'><Item id='i' type='PatchOperation'/></State></Patch>"
+     "<Patch type='HotPatch'/><Patch type='hotpatch'/><Patch type='Cold'/><Patch/>",
+     "1|[n|[i|2]], 0|[], 0|[], 0|[], 0|[]"},
+    {"PatchTypesOfTheMenu", PATCH_MENU, "<Patch type='hotpatch'/><Patch type='ColdPatch'><Item/></Patch><Patch/>",
+     "0|[], 1|[6|], 0|[]"},
+    {"Kinds", PATCH_MENU,
+     "<Patch><Item type='DeviceOperation'/><Item type='TaskOperation'/><Item type='PatchOperation'/><Item "
+     "type='CheckOperation'/><Item type='CustomOperation'/><Item type='OtherOperation'/><Item type='BoardOperation'/>"
+     "<Item type='deviceoperation'/></Patch>",
+     "0|[0|, 1|, 2|, 3|, 4|, 5|, 6|, 6|]"},
+    {"KindsOfAState", PATCH_STATE, "<Patch><State><Item type='BoardOperation'/></State></Patch>", "0|[|[|6]]"},
     {"OtherParameter", OTHER,
      "<OtherOperation><Parameter selected='s'><Option value='4294967297' target='t'/></Parameter></OtherOperation>",
      "|0|[||0||[|1|]]"},
@@ -89,8 +113,10 @@ const StReadCase CASES[] = {
      "<Item id='a'/></DeviceViewPopupMenu><G><DeviceViewPopupMenu><R><Item id='b'/></R></DeviceViewPopupMenu></G>"
      "<DeviceViewPopupMenu>",
      "6|a, 6|b"},
-    {"IsolationKinds", ISOLATION, "<Item type='BoardOperation'/><Item type='OtherOperation' id='GetWeakBd'/>",
-     "7|, 6|GetWeakBd"},
+    {"IsolationKinds", ISOLATION,
+     "<Item type='TaskOperation'/><Item type='DeviceOperation'/><Item type='BoardOperation'/><Item "
+     "type='OtherOperation' id='GetWeakBd'/>",
+     "1|, 0|, 7|, 6|GetWeakBd"},
     {"TaskTypesOfTheTaskConfiguration", TASK_TYPE,
      "<TaskType id='PackageDowngrade'/><TaskType id='packagedowngrade'/><TaskType id='PackageDiffusionDowngrade'/>"
      "<TaskType id='OpticalModuleUpgrade'/><TaskType id='NuboMeterUpgrade'/>",
@@ -137,6 +163,25 @@ const StReadCase CASES[] = {
      "<Parameter checked='1'/><Parameter selected='1'/></PostCheck></TaskType>",
      "PostCheck|0|2|[||||0||1|0|0|[]|, ||||0||0|0|1|[]|, ||||0||0|0|2|[]|, ||||0||1|0|3|[]|]|0"},
 };
+
+// A caller names the elements by any text, in the local code page.
+TEST(SectionReadTest, TagNameIsTheCallers)
+{
+    CParsedXml                             oXml("<Prüfung id='p'/><Schritt id='s'><Wert id='w'/></Schritt>");
+    std::string                            strTagName = "Prüfung";
+    std::list<StAsnCheckType>              lstItem;
+    std::list<StAsnCheckType>              lstTelnetItem;
+    std::list<StAsnUpgradeSubOperationDef> lstStep;
+    std::list<StAsnOperParamDef>           lstParam;
+    CCheckOpXMLConfig().fillCheckType(oXml.root(), strTagName, &lstItem);
+    CCheckOpXMLConfig().fillCheckTypeTelnet(oXml.root(), strTagName, &lstTelnetItem);
+    CUpgradeOpXMLConfig().fillSubOperType(oXml.root(), "Schritt", lstStep);
+    CUpgradeOpXMLConfig().fillSubParaType(oXml.root(), "Wert", lstParam);
+    EXPECT_EQ("p||||0||0|0|0|[]|", CRecordText::list(lstItem));
+    EXPECT_EQ(lstItem, lstTelnetItem);
+    EXPECT_EQ("s|0|[]", CRecordText::list(lstStep));
+    EXPECT_EQ("w||0||[]", CRecordText::list(lstParam));
+}
 
 TEST(SectionReadTest, MakesTheseRecords)
 {
