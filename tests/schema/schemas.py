@@ -12,7 +12,7 @@ import tempfile
 import unittest
 import xml.etree.ElementTree as ElementTree
 
-from model import XS, Schema
+from model import XS
 
 XMLLINT, SOURCE = sys.argv[1:3]
 SCHEMAS = os.path.join(SOURCE, "schema")
@@ -41,9 +41,10 @@ DELIBERATE = (
 
 # Edits of an example file: kind, end of the path, what is replaced where it stands first,
 # by what, and a part of what is said; None where the edited file is as valid.
-LX, CLOCK, QUILL = "/LX_2400_S_ServerConfiguration.xml", "clock_sync/ServerConfiguration.xml", "_V4.2_ServerConfiguration.xml"
-CONFIG, TELNET, FIXED = ("server-configuration", LX), ("telnet-check", ".xml"), ("fixed-check", ".xml")
-MODULE, CAPACITY, RULES = ("module", CLOCK), ("capacity", QUILL), ("file-check", ".xml")
+CONFIG = ("server-configuration", "/LX_2400_S_ServerConfiguration.xml")
+MODULE = ("module", "clock_sync/ServerConfiguration.xml")
+CAPACITY = ("capacity", "_V4.2_ServerConfiguration.xml")
+TELNET, FIXED, RULES = ("telnet-check", ".xml"), ("fixed-check", ".xml"), ("file-check", ".xml")
 ALARMS = ("alarm-explanations", "en_US/kivo/fm/dc_tbl_alm_exp_info.xml")
 TRANSFER = ("transfer-registrations", "en_US/kivo/fm/dc_tbl_RegInfo.xml")
 UNEXPECTED, NOT_ALLOWED, MISSING = "This element is not expected", "is not allowed", "is required but missing"
