@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # What a schema allows, as data: every element by its path from the root, with the
-# elements that may stand directly below it and its attributes with their words.
+# elements that may stand directly below it and its attributes with their kinds and words.
 # For the tests; run by hand it prints the same as text:
 #   model.py SCHEMA…
 # Knows what the schemas of this project use, and stops at anything else.
@@ -11,6 +11,9 @@ import xml.etree.ElementTree as ElementTree
 XS = "{http://www.w3.org/2001/XMLSchema}"
 UNREAD = "{urn:operationXml:schema}unread"
 GLOBAL = ("element", "complexType", "simpleType", "group", "attributeGroup")
+
+# Types of attributes that are no text, and what the readers call them.
+KINDS = {"flag": "flag", "number": "number", "signedNumber": "number"}
 
 
 class Schema:
@@ -56,8 +59,10 @@ class Schema:
                     below.append(part)
                 children[part.get("name")] = UNREAD in part.attrib
             elif kind == "attribute":
-                attributes[part.get("name")] = {"words": sorted(self._words(part)), "unread": UNREAD in part.attrib,
-                                                "required": part.get("use") == "required"}
+                words = sorted(self._words(part))
+                attributes[part.get("name")] = {"kind": "word" if words else KINDS.get(part.get("type"), "text"),
+                                                "words": words, "required": part.get("use") == "required",
+                                                "unread": UNREAD in part.attrib}
             elif kind in ("group", "attributeGroup"):
                 self._content(self.components[kind][part.get("ref")], children, attributes, below)
             elif kind == "extension":
@@ -87,8 +92,8 @@ def main():
         for names, element in sorted(Schema(path).elements.items()):
             print("  " + "/".join(names) + (" (unread)" if element["unread"] else ""))
             for name, attribute in sorted(element["attributes"].items()):
-                print("    @" + name, "|".join(attribute["words"]), "required" if attribute["required"] else "",
-                      "unread" if attribute["unread"] else "")
+                print("    @" + name, "|".join(attribute["words"]) or attribute["kind"],
+                      *(mark for mark in ("required", "unread") if attribute[mark]))
             if element["children"]:
                 print("    >", *sorted(element["children"]))
 
