@@ -3,6 +3,7 @@
 
 #include "platform/Paths.h"
 #include "standalone/ServerRoot.h"
+#include "tools/opxml/commands/UnreadElements.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Terminal.h"
@@ -79,15 +80,18 @@ void requireTable(const CAlarmTable& oTable)
 
 int printMistakes(const CAlarmTable& oTable, bool bJson)
 {
-    const std::string strFile = shortPath(oTable.path());
+    const std::string        strFile    = shortPath(oTable.path());
+    std::vector<std::string> lstMistake = oTable.problems();
+    for (const StReadProblem& stUnread : findUnreadInTable(oTable.path()))
+        lstMistake.push_back(problemText(stUnread));
     if (bJson)
-        print(jsonText({{"file", strFile}, {"mistakes", oTable.problems()}}) + "\n");
-    else if (oTable.problems().empty())
-        print(printable(strFile) + ": no mistakes\n");
+        print(jsonText({{"file", strFile}, {"mistakes", lstMistake}}) + "\n");
+    else if (lstMistake.empty())
+        printLine(strFile + ": no mistakes");
     else
-        for (const std::string& strProblem : oTable.problems())
-            print(fmt::format("{}: {}\n", printable(strFile), printable(strProblem)));
-    return oTable.problems().empty() ? EXIT_YES : EXIT_NO;
+        for (const std::string& strMistake : lstMistake)
+            printLine(strFile + ": " + strMistake);
+    return lstMistake.empty() ? EXIT_YES : EXIT_NO;
 }
 
 std::uint64_t readId(const std::string& strWhat, const std::string& strText)

@@ -26,7 +26,8 @@ void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOpti
 // Throws CTrouble with the reason when the table was not read.
 void requireTable(const CAlarmTable& oTable);
 
-// Prints what the table's load passed over; EXIT_NO when there is any.
+// Prints what the table's load passed over, and what it did not look at; EXIT_NO
+// when there is any.
 int printMistakes(const CAlarmTable& oTable, bool bJson);
 
 // A whole unsigned decimal number; throws CTrouble, naming what was asked for.

@@ -3,6 +3,7 @@
 #include "filecheck/ParseXMLFile.h"
 #include "standalone/LogSink.h"
 #include "tools/opxml/commands/Command.h"
+#include "tools/opxml/commands/UnreadElements.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
@@ -110,20 +111,25 @@ int runFileCheck(const StGlobalOptions& stGlobal, const StFileCheckOptions& stOp
 {
     openLog(stGlobal);
     requireFile(stOptions.strFile);
-    const StRules stRules = readRules(stOptions.strFile);
+    StRules stRules = readRules(stOptions.strFile);
+    for (const StReadProblem& stUnread : findUnreadInRules(stOptions.strFile))
+        stRules.lstProblem.push_back(problemText(stUnread));
 
     std::vector<std::string> lstFinding;
     for (const auto* pLst : {&stRules.lstFailure, &stRules.lstProblem})
     {
         for (const std::string& strFinding : *pLst)
-            lstFinding.push_back(printable(stOptions.strFile + ": " + strFinding));
+            lstFinding.push_back(stOptions.strFile + ": " + strFinding);
     }
     if (stOptions.bJson)
         print(rulesJson(stOptions.strFile, stRules, !stOptions.bCheck));
     else if (stOptions.bCheck && lstFinding.empty())
-        print(printable(stOptions.strFile) + ": no mistakes\n");
+        printLine(stOptions.strFile + ": no mistakes");
     else if (stOptions.bCheck)
-        print(fmt::format("{}\n", fmt::join(lstFinding, "\n")));
+    {
+        for (const std::string& strFinding : lstFinding)
+            printLine(strFinding);
+    }
     else
     {
         if (!stRules.mapType.empty())
