@@ -38,6 +38,13 @@ void addProblem(std::vector<std::string>* pLstProblem, const std::string& strPro
         pLstProblem->push_back(strProblem);
 }
 
+// A missing "value" is an empty text, as the DOM has it, and not null.
+const XMLCh* valueOf(const DOMElement& oElement)
+{
+    const std::u16string_view strValue = CAttributes(oElement).value(u"value");
+    return strValue.data() == nullptr ? u"" : strValue.data();
+}
+
 const DOMElement* firstOf(const CElements& oElements)
 {
     return oElements.isEmpty() ? nullptr : &*oElements.begin();
@@ -91,7 +98,7 @@ std::uint32_t ParseXMLFile::ReadUncompressedType(const DOMElement* pElement, Typ
 {
     if (pElement == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "uncompressed_type is not exist in the file_check.xml ");
-    const XMLCh* pszValue = pElement->getAttribute(u"value");
+    const XMLCh* pszValue = valueOf(*pElement);
     if (pszValue == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR,
                        "Attribute value of element <uncompressed_type> is invalid in the file_check.xml");
@@ -126,7 +133,7 @@ std::uint32_t ParseXMLFile::GetXMLParam(const DOMElement* pElement, const char16
     const DOMElement* pParam = firstOf(oElements);
     if (pParam == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Node Element is not exist in the file_check.xml file");
-    const XMLCh* pszValue = pParam->getAttribute(u"value");
+    const XMLCh* pszValue = valueOf(*pParam);
     if (pszValue == nullptr)
     {
         // Names "file_suffix" for every parameter and still succeeds. A missing

@@ -145,20 +145,16 @@ TEST_F(ModuleReadTest, FailingCallsEndNoMoreThanTheyMust)
 
 TEST_F(ModuleReadTest, MissingInputIsNamed)
 {
-    CParsedXml                oXml("");
     const auto                pNoDocument = CXmlParser::create();
     std::string               strName;
     StAsnModuleInfoVerXMLInfo stModule;
     CDevTypeXMLConfig         oConfig;
     EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setModuleXMLConfig(nullptr, strName));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.setDevTypeXMLConfig(pNoDocument.get(), stModule));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(nullptr, &stModule.lstSupportDevType));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, oConfig.fillDevTypeInfo(oXml.root(), nullptr));
     EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, m_oReader.initialize("/none.xml", nullptr));
     EXPECT_EQ(DC_RESULT_XML_ERROR, m_oReader.initialize("/", nullptr));
     EXPECT_EQ("E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: \n"
-              "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\nE 3B0004EE [DCServer]pElm is null.\n"
-              "E 3B0004EE [DCServer]DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:\n"
+              "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\n"
               "E 3B0004EC [DCServer]Server config File :/none.xml not exist.\n"
               "E 3B0004EE [DCServer] pXmlParser is null :\n",
               logText());

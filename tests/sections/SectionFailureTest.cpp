@@ -4,6 +4,8 @@
 #include "ForeignXml.h"
 #include "RecordText.h"
 #include "platform/DeviceAdapter.h"
+#include "reader/CCapacityXMLConfig.h"
+#include "reader/CDevTypeXMLConfig.h"
 #include "records/ResultCodes.h"
 #include "sections/CCheckOpXMLConfig.h"
 #include "sections/CCustomOpXMLConfig.h"
@@ -152,6 +154,11 @@ const StFailureCase CASES[] = {
      "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", "Invalid para. NULL pointer. pParaLst"},
     {CALL(CPatchViewPopupMenuConfig, fillMenuOperLst), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
     {CALL(CTaskXMLConfig, fillTaskOperInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CCapacityXMLConfig, fillOperInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CCapacityXMLConfig, fillOperParaInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CCapacityXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
+    {CALL(CDevTypeXMLConfig, fillDevTypeInfo), "pElm is null.",
+     "DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:", "DOMElement::getElementsByTagName failed"},
     {CALL(CTaskXMLConfig, fillTaskFeatureConfigInfo), "DOMElement::getElementsByTagName failed:", nullptr,
      "DOMElement::getElementsByTagName failed:"},
 };

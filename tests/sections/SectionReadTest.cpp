@@ -1,6 +1,7 @@
 // What each section makes of its XML: whole records, grouped by rule.
 #include "RecordText.h"
 #include "platform/DeviceAdapter.h"
+#include "reader/CCapacityXMLConfig.h"
 #include "sections/CCheckOpXMLConfig.h"
 #include "sections/CCustomOpXMLConfig.h"
 #include "sections/CDevOpXMLConfig.h"
@@ -46,6 +47,15 @@ const SectionReader PATCH_STATE = within("PatchStateConfiguration", &CPatchXMLCo
 const SectionReader PATCH_MENU  = within("PatchViewPopupMenu", &CPatchViewPopupMenuConfig::setPatchViewPopupMenuConfig);
 const SectionReader TASK_TYPE   = section(&CTaskXMLConfig::setTaskConfiguration);
 
+// The operations of a capacity entry, which stand directly in it.
+const SectionReader CAPACITY = [](const std::string& strXml)
+{
+    CParsedXml                oXml(strXml);
+    std::list<StAsnOperation> lstOperation;
+    EXPECT_EQ(0u, CCapacityXMLConfig().fillOperInfo(oXml.root(), lstOperation));
+    return CRecordText::list(lstOperation);
+};
+
 struct StReadCase
 {
     const char*   pszName;
@@ -55,19 +65,12 @@ struct StReadCase
 };
 
 const StReadCase CASES[] = {
-    // Every attribute reaches its field, and the element after a full one starts afresh.
+    // What a section reads of an element, and what it does not. That every attribute reaches its field is
+    // compared on the example server.
     {"PatchIsNeverCancelable", PATCH, "<Operation id='Load' operationLevel='BoardLevel' isCancelable='1'/>",
      "Load|0|1|[]|0|0"},
-    {"Check", CHECK,
-     "<Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'><Parameter id='cpu' description='d' "
-     "cmdKey='k' subItemFrom='s' selected='1' isCompare='1' compareType='-1' compareParam='p'><SubItem id='sub' "
-     "compareType='4'/></Parameter></Operation><Operation/>",
-     "PreCheck|1|-1|[cpu|d|k|s|-1|p|1|1|0|[sub||||4||0|0|0|[]|]|]|1, |0|-1|[]|0"},
-    {"TelnetFile", TELNET,
-     "<TaskType id='PackageDowngrade'><PostCheck/><PreCheck operationLevel='Both' isCancelable='1'><Parameter "
-     "id='cpu' description='d' cmdKey='k' subItemFrom='s' isCompare='1' compareType='2' compareParam='p' "
-     "checked='true' GUI='true'><SubItem id='sub'/></Parameter></PreCheck></TaskType>",
-     "PreCheck|2|9|[cpu|d|k|s|2|p|1|1|0|[sub||||0||0|0|0|[]|]|]|1, PostCheck|0|9|[]|0"},
+    {"PreChecksComeFirst", TELNET, "<TaskType id='PackageDowngrade'><PostCheck/><PreCheck/></TaskType><TaskType/>",
+     "PreCheck|0|9|[]|0, PostCheck|0|9|[]|0"},
     {"FixedFile", FIXED,
      "<TaskType id='PatchUpdate'><Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'><Parameter "
      "id='power' description='d' selected='1' cmdKey='not read'/><Parameter id='fan'/></Operation><Operation "
@@ -79,7 +82,11 @@ const StReadCase CASES[] = {
      "</TaskFeatureConfiguration></Parameter><Parameter/></TaskType>",
      "0||[p|v|1||[o|1|t]|[6|s||||]|[], ||0||[]|[]|[]]"},
 
-    // What dumps of whole files do not show: words that are read here otherwise, attributes that are not read.
+    {"Capacity", CAPACITY,
+     "<Operation id='o' isSupported='2' isCancelable='1'><Parameter id='p' value='v' isRequired='1' selected='s'>"
+     "<option id='x' value='3' target='t'/></Parameter></Operation>",
+     "o|0|0|[p|v|1||[x|3|t]]|0|1"},
+
     // Words compare exactly, and an unknown one reads as the first of its kind.
     {"Levels", TASK,
      "<Operation operationLevel='BoardLevel'/><Operation operationLevel='Both'/><Operation operationLevel='both'/>"

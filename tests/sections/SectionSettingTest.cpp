@@ -1,5 +1,6 @@
 // Entries that depend on the server's settings and resources.
 #include "RecordText.h"
+#include "records/ResultCodes.h"
 #include "sections/CDevOpXMLConfig.h"
 #include "sections/CDevViewPopupMenuConfig.h"
 #include "sections/COtherOpXMLConfig.h"
@@ -83,5 +84,40 @@ TEST(SectionSettingTest, ProgramFileFollowsTheResource)
                       "value='14'/><Option id='progfile' value='15'/></Parameter></Operation></DeviceOperation>"));
         EXPECT_THAT(logLinesWithPlace(), ElementsAreArray(stCase.lstLog));
     }
+}
+
+// A platform call that throws ends the outermost operation, which keeps whole records alone: below it
+// the results of readers are passed over, so one that stopped there would leave a part out silently.
+TEST(SectionSettingTest, ThrownInTheMiddleEndsTheWholeOperation)
+{
+    CTempServerRoot oRoot;
+    oRoot.open("INSERT INTO resource VALUES ('BACKUP_PROGRAM_SUPPORT', '1');");
+    const std::string          strOption    = "<Option id='PROGFILE' value='15'/>";
+    const std::string          strOperation = "<Operation><Parameter>" + strOption + "</Parameter></Operation>";
+    CParsedXml                 oXml("<DeviceOperation>" + strOperation + strOperation + "</DeviceOperation>");
+    const StAsnMenuOpDef       stEntry = {DCAsn1ClientToServer::OtherOperation, "GetWeakBd"};
+    const std::exception_ptr   pThrown = std::make_exception_ptr(std::bad_alloc());
+    std::list<StAsnOperation>  lstOperation;
+    std::list<StAsnOptionInfo> lstOption;
+    {
+        const standalone::CFaultPoint oFault("CSysCommonFunc::readResourceFile", 2, pThrown);
+        EXPECT_EQ(DC_RESULT_XML_ERROR, CDevOpXMLConfig().setDevOperXMLConfig(oXml.parser(), &lstOperation));
+        EXPECT_EQ("|0|0|[||0||[PROGFILE|15|]]|0|0", CRecordText::list(lstOperation));
+    }
+    const standalone::CFaultPoint oResource("CSysCommonFunc::readResourceFile", 0, pThrown);
+    const standalone::CFaultPoint oSetting("CDCSettingInfoTab::getValueByParam", 0, pThrown);
+    EXPECT_EQ(DC_RESULT_XML_ERROR, CDevOpXMLConfig().fillOperOptionInfo(oXml.root(), lstOption));
+    EXPECT_THAT(lstOption, testing::IsEmpty());
+    EXPECT_FALSE(CDevOpXMLConfig::isBackupProgramEnable());
+    EXPECT_TRUE(CDevViewPopupMenuConfig::JudgeFilterOndixISSUCapability(stEntry));
+    EXPECT_TRUE(COtherOpXMLConfig::JudgeFilterOndixISSUCapability(stEntry.strId));
+    EXPECT_THAT(logLinesWithPlace(),
+                testing::ElementsAre(
+                    "E 3B0004EE CDevOpXMLConfig::setDevOperXMLConfig [DCServer]Memory ran out.",
+                    "E 3B0004EE CDevOpXMLConfig::fillOperOptionInfo [DCServer]Memory ran out.",
+                    "E 3B0004EE CDevOpXMLConfig::isBackupProgramEnable [DCServer]Memory ran out.",
+                    "E 3B0004EE CDevViewPopupMenuConfig::JudgeFilterOndixISSUCapability [DCServer]Memory ran out.",
+                    "I COtherOpXMLConfig::JudgeFilterOndixISSUCapability [DCServer]ISSU item is configed.",
+                    "E 3B0004EE COtherOpXMLConfig::JudgeFilterOndixISSUCapability [DCServer]Memory ran out."));
 }
 } // namespace
