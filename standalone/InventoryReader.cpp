@@ -5,10 +5,10 @@
 #include "standalone/InventoryScript.h"
 #include "standalone/InventoryTables.h"
 #include "standalone/Sqlite.h"
-#include "standalone/TextFile.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <fstream>
 #include <sys/stat.h>
 #include <system_error>
 
@@ -16,7 +16,8 @@ namespace standalone
 {
 namespace
 {
-constexpr std::size_t DATABASE_SIZE_LIMIT = 256u << 20;
+constexpr std::size_t DATABASE_MEGABYTES = 256;
+constexpr std::size_t SCRIPT_MEGABYTES   = 64;
 
 // More than any inventory of a size can hold, and little enough for memory.
 constexpr std::size_t BASE_ROWS     = 100'000;
@@ -31,16 +32,29 @@ bool standsThere(const std::string& strPath)
     return ::lstat(strPath.c_str(), &stStatus) == 0;
 }
 
-std::size_t databaseSize(const std::string& strPath)
+// Of a regular file: a pipe or device in its place is refused without waiting for it.
+std::size_t fileSize(const std::string& strPath, std::size_t nLimitMegabytes)
 {
     struct ::stat stStatus = {};
     if (::stat(strPath.c_str(), &stStatus) != 0)
         throw CInventoryError("cannot be read: " + std::generic_category().message(errno));
     if (!S_ISREG(stStatus.st_mode))
         throw CInventoryError("not a file");
-    if (static_cast<std::size_t>(stStatus.st_size) > DATABASE_SIZE_LIMIT)
-        throw CInventoryError("larger than 256 MB");
+    if (static_cast<std::size_t>(stStatus.st_size) > nLimitMegabytes << 20)
+        throw CInventoryError("larger than " + std::to_string(nLimitMegabytes) + " MB");
     return static_cast<std::size_t>(stStatus.st_size);
+}
+
+// What is written behind it meanwhile is not read.
+std::string readScript(const std::string& strPath)
+{
+    std::string   strText(fileSize(strPath, SCRIPT_MEGABYTES), '\0');
+    std::ifstream oFile(strPath, std::ios::binary);
+    if (!oFile.is_open())
+        throw CInventoryError("cannot be read: " + std::generic_category().message(errno));
+    if (!oFile.read(strText.data(), static_cast<std::streamsize>(strText.size())))
+        throw CInventoryError("cannot be read whole");
+    return strText;
 }
 
 void bindText(sqlite3_stmt* pStatement, const char* pszText)
@@ -92,7 +106,7 @@ void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
 
 void readDatabase(const std::string& strPath, StInventory& stInventory)
 {
-    const std::size_t nSize = databaseSize(strPath);
+    const std::size_t nSize = fileSize(strPath, DATABASE_MEGABYTES);
     const CHeapLimit  oLimit(nSize);
     CSqlite           oDb = CSqlite::openFile(strPath);
     oDb.startClock(nSize);
@@ -133,9 +147,10 @@ StInventory readInventory(const std::string& strFolder)
     }
     if (!standsThere(strScript))
         throw CInventoryError(strFolder + ": no inventory: neither server.db nor server.sql is there");
-    const std::string strText = readTextFile(strScript);
-    const CHeapLimit  oLimit(strText.size());
-    CSqlite           oDb = runInventoryScript(strScript, strText);
+    std::string strText;
+    namingFile(strScript, [&] { strText = readScript(strScript); });
+    const CHeapLimit oLimit(strText.size());
+    CSqlite          oDb = runInventoryScript(strScript, strText);
     namingFile(strScript, [&] { readTables(oDb, strText.size(), stInventory); });
     return stInventory;
 }

@@ -14,7 +14,7 @@ namespace standalone
 namespace
 {
 constexpr int LOCK_WAIT_MS    = 1000;
-constexpr int STEPS_PER_CHECK = 20;
+constexpr int STEPS_PER_CHECK = 100;
 
 constexpr std::size_t MESSAGE_SHOWN = 200;
 
@@ -133,19 +133,15 @@ CSqlite CSqlite::openMemory(std::size_t nInventorySize)
 
 void CSqlite::startClock(std::size_t nInventorySize)
 {
-    const auto oTime   = BASE_TIME + std::chrono::milliseconds(nInventorySize / BYTES_PER_MILLISECOND);
-    m_pClock->oEnd     = std::chrono::steady_clock::now() + oTime;
-    m_pClock->oWorkEnd = workDone() + oTime;
-    m_pClock->bBroken  = false;
+    m_pClock->oEnd    = workDone() + BASE_TIME + std::chrono::milliseconds(nInventorySize / BYTES_PER_MILLISECOND);
+    m_pClock->bBroken = false;
     sqlite3_progress_handler(m_pDb.get(), STEPS_PER_CHECK, &CSqlite::onProgress, m_pClock.get());
 }
 
 int CSqlite::onProgress(void* pClock) noexcept
 {
     StClock& stClock = *static_cast<StClock*>(pClock);
-    // On a busy machine time passes without work being done; asking for the work
-    // done is the dearer question.
-    stClock.bBroken = std::chrono::steady_clock::now() > stClock.oEnd && workDone() > stClock.oWorkEnd;
+    stClock.bBroken  = workDone() > stClock.oEnd;
     return stClock.bBroken ? 1 : 0;
 }
 

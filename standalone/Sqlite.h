@@ -79,9 +79,8 @@ private:
     // Stays where it is: SQLite holds its address.
     struct StClock
     {
-        std::chrono::steady_clock::time_point oEnd;
-        std::chrono::nanoseconds              oWorkEnd{0};
-        bool                                  bBroken = false;
+        std::chrono::nanoseconds oEnd{0};
+        bool                     bBroken = false;
     };
 
     CSqlite(const std::string& strName, int nFlags);

@@ -4,6 +4,8 @@
 
 #include "platform/Settings.h"
 
+#include <sys/stat.h>
+
 namespace
 {
 TEST(DatabaseFile, NamesTableAndColumn)
@@ -57,21 +59,25 @@ TEST(DatabaseFile, CutAnywhereIsRefused)
     }
     std::filesystem::resize_file(strPath, 0);
     EXPECT_EQ("/server.db: table device_type is missing", openProblem(oRoot));
-}
-
-TEST(DatabaseFile, OtherThingsInItsPlaceAreRefused)
-{
-    CTempServerRoot   oRoot;
-    const std::string strPath = oRoot.path() + "/server.db";
-    oRoot.write("server.sql", "");
     oRoot.write("server.db", std::string(5000, 'x'));
     EXPECT_EQ("/server.db: file is not a database", openProblem(oRoot));
-    std::filesystem::remove(strPath);
-    std::filesystem::create_directory(strPath);
-    EXPECT_EQ("/server.db: not a file", openProblem(oRoot));
-    std::filesystem::remove(strPath);
-    std::filesystem::create_symlink("nowhere", strPath);
-    EXPECT_EQ("/server.db: cannot be read: No such file or directory", openProblem(oRoot));
+}
+
+TEST(InventoryFile, OtherThingsInItsPlaceAreRefusedWithoutWaiting)
+{
+    for (const std::string strName : {"/server.db", "/server.sql"})
+    {
+        CTempServerRoot   oRoot;
+        const std::string strPath = oRoot.path() + strName;
+        ASSERT_EQ(0, ::mkfifo(strPath.c_str(), 0600));
+        EXPECT_EQ(strName + ": not a file", openProblem(oRoot));
+        std::filesystem::remove(strPath);
+        std::filesystem::create_directory(strPath);
+        EXPECT_EQ(strName + ": not a file", openProblem(oRoot));
+        std::filesystem::remove(strPath);
+        std::filesystem::create_symlink("nowhere", strPath);
+        EXPECT_EQ(strName + ": cannot be read: No such file or directory", openProblem(oRoot));
+    }
 }
 
 TEST(DatabaseFile, WinsOverTheScriptAndStaysAlone)
