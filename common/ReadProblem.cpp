@@ -1,6 +1,13 @@
 // How a problem is told to people.
 #include "common/ReadProblem.h"
 
+#include <atomic>
+
+namespace
+{
+std::atomic<ReadListener> g_pfnListener{nullptr};
+} // namespace
+
 std::string problemText(const StReadProblem& stProblem)
 {
     std::string strPlace;
@@ -19,4 +26,15 @@ std::string problemWithFile(const StReadProblem& stProblem)
     if (!stProblem.isSet() || stProblem.strFile.empty())
         return problemText(stProblem);
     return stProblem.strFile + ": " + problemText(stProblem);
+}
+
+void setReadListener(ReadListener pfnListener)
+{
+    g_pfnListener.store(pfnListener);
+}
+
+void tellReadListener(const StReadProblem& stProblem)
+{
+    if (const ReadListener pfnListener = g_pfnListener.load())
+        pfnListener(stProblem);
 }

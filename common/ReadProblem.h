@@ -27,4 +27,11 @@ OPERATIONXML_API std::string problemText(const StReadProblem& stProblem);
 // The same with the file in front: "FILE: line 12, column 7: TEXT".
 OPERATIONXML_API std::string problemWithFile(const StReadProblem& stProblem);
 
+// For opxml alone, whose log names the file beside the line of whoever finds that
+// there is no document: called after every file that was parsed, on the thread that
+// did, with what was wrong with it or with nothing. Null, as it is at first, ends it.
+using ReadListener = void (*)(const StReadProblem& stProblem);
+OPERATIONXML_API void setReadListener(ReadListener pfnListener);
+void                  tellReadListener(const StReadProblem& stProblem);
+
 #endif

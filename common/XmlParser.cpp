@@ -214,6 +214,7 @@ void CXmlParser::parseFile(const std::string& strPath)
     }
     if (m_stProblem.isSet())
         m_stProblem.strFile = strPath;
+    tellReadListener(m_stProblem);
 }
 
 void CXmlParser::parseText(std::string_view strXml)

@@ -5,6 +5,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <string>
 #include <string_view>
 
 namespace standalone
@@ -61,6 +65,17 @@ void appendEscaped(std::string& strOut, std::string_view strText)
         nAt += strCharacter.size();
     }
 }
+
+std::string utcTime(std::chrono::system_clock::time_point oTime)
+{
+    const auto        oSinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(oTime.time_since_epoch());
+    const std::time_t nSeconds    = oSinceEpoch.count() / 1000;
+    std::tm           stUtc       = {};
+    ::gmtime_r(&nSeconds, &stUtc);
+    std::array<char, 32> aText = {};
+    const std::size_t    nSize = std::strftime(aText.data(), aText.size(), "%Y-%m-%dT%H:%M:%S.", &stUtc);
+    return std::string(aText.data(), nSize) + std::to_string(1000 + oSinceEpoch.count() % 1000).substr(1) + "Z";
+}
 } // namespace
 
 std::string readableLine(const StLogLine& stLine)
@@ -75,18 +90,23 @@ std::string readableLine(const StLogLine& stLine)
     appendEscaped(strOut, stLine.strText);
     strOut.append(" (").append(stLine.stWhere.pszFile).append("::").append(stLine.stWhere.pszFunction);
     strOut.append(":").append(std::to_string(stLine.stWhere.nLine)).append(")");
+    if (!stLine.strAbout.empty())
+        appendEscaped(strOut.append(" "), stLine.strAbout);
     return strOut;
 }
 
 std::string jsonLine(const StLogLine& stLine)
 {
     nlohmann::ordered_json oLine;
+    oLine["time"]     = utcTime(stLine.oTime);
     oLine["level"]    = stLine.bError ? "error" : "info";
     oLine["code"]     = stLine.ulCode;
     oLine["text"]     = stLine.strText;
     oLine["file"]     = stLine.stWhere.pszFile;
     oLine["function"] = stLine.stWhere.pszFunction;
     oLine["line"]     = stLine.stWhere.nLine;
+    if (!stLine.strAbout.empty())
+        oLine["about"] = stLine.strAbout;
     return oLine.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 } // namespace standalone

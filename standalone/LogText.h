@@ -14,7 +14,7 @@ namespace standalone
 // that no text of a file can drive the terminal.
 std::string readableLine(const StLogLine& stLine);
 
-// {"level":"error","code":989857004,"text":"...","file":"...","function":"...","line":12};
+// {"time":"2031-05-09T07:30:00.250Z","level":"error","code":989857004,"text":"...","file":"...","function":"...","line":12};
 // bytes that are not UTF-8 become U+FFFD.
 std::string jsonLine(const StLogLine& stLine);
 } // namespace standalone

@@ -13,13 +13,16 @@
 #include <spdlog/sinks/stdout_color_sinks.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <stdlib.h>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 using namespace standalone;
@@ -34,11 +37,12 @@ struct StSinks
 {
     std::atomic<unsigned> nWanted{0};
 
-    std::mutex                            oMutex; // guards what follows, and is held while a line is written
-    EnConsoleLevel                        enConsole = EnConsoleLevel::Off;
-    std::shared_ptr<spdlog::logger>       pConsole;
-    std::shared_ptr<spdlog::logger>       pJson;
-    std::function<void(const StLogLine&)> fnListener;
+    std::mutex                             oMutex; // guards what follows, and is held while a line is written
+    EnConsoleLevel                         enConsole = EnConsoleLevel::Off;
+    std::shared_ptr<spdlog::logger>        pConsole;
+    std::shared_ptr<spdlog::logger>        pJson;
+    std::function<void(const StLogLine&)>  fnListener;
+    std::map<std::thread::id, std::string> mapNote; // of setLogNote
 
     CListener<const LocationInfo&> oTrace;
     CListener<std::string&>        oFilter;
@@ -80,16 +84,22 @@ std::shared_ptr<spdlog::logger> makeConsole()
     const bool  bNoColor   = pszNoColor != nullptr && *pszNoColor != '\0';
     return makeLogger(std::make_shared<spdlog::sinks::stderr_color_sink_st>(bNoColor ? spdlog::color_mode::never
                                                                                      : spdlog::color_mode::automatic),
-                      "%^%l%$ %v");
+                      "%H:%M:%S.%e %^%l%$ %v");
 }
 
-void write(const StLogLine& stLine)
+void write(StLogLine stLine)
 {
     StSinks&                          stSinks = sinks();
     const std::lock_guard<std::mutex> oGuard(stSinks.oMutex);
-    const auto                        enLevel = stLine.bError ? spdlog::level::err : spdlog::level::info;
+    if (const auto itNote = stSinks.mapNote.find(std::this_thread::get_id());
+        stLine.bError && itNote != stSinks.mapNote.end())
+    {
+        stLine.strAbout = std::move(itNote->second);
+        stSinks.mapNote.erase(itNote);
+    }
+    const auto enLevel = stLine.bError ? spdlog::level::err : spdlog::level::info;
     if (stSinks.enConsole == EnConsoleLevel::All || (stLine.bError && stSinks.enConsole == EnConsoleLevel::Errors))
-        stSinks.pConsole->log(enLevel, spdlog::string_view_t(readableLine(stLine)));
+        stSinks.pConsole->log(stLine.oTime, {}, enLevel, spdlog::string_view_t(readableLine(stLine)));
     if (stSinks.pJson)
         stSinks.pJson->log(enLevel, spdlog::string_view_t(jsonLine(stLine)));
     if (stSinks.fnListener)
@@ -102,7 +112,7 @@ void writeSafely(bool bError, std::uint32_t ulCode, const std::string& strText, 
     try
     {
         if ((sinks().nWanted.load(std::memory_order_relaxed) & (bError ? WANT_ERRORS : WANT_INFO)) != 0)
-            write({bError, ulCode, strText, stWhere});
+            write({bError, ulCode, strText, stWhere, {}, std::chrono::system_clock::now()});
     }
     catch (const std::exception& oProblem)
     {
@@ -146,6 +156,16 @@ bool standalone::setJsonLog(const std::string& strPath, std::string& strError)
     stSinks.pJson = std::move(pJson);
     updateWanted(stSinks);
     return true;
+}
+
+void standalone::setLogNote(const std::string& strAbout)
+{
+    StSinks&                          stSinks = sinks();
+    const std::lock_guard<std::mutex> oGuard(stSinks.oMutex);
+    if (strAbout.empty())
+        stSinks.mapNote.erase(std::this_thread::get_id());
+    else
+        stSinks.mapNote[std::this_thread::get_id()] = strAbout;
 }
 
 void standalone::setLogListener(std::function<void(const StLogLine&)> fnListener)

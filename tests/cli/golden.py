@@ -18,6 +18,8 @@ VARYING = (
     (re.compile(r"\d+\.\d{3} s, \d+\.\d MB/s"), "N s, N MB/s"),
     (re.compile(r'("megabytes"|"seconds"|"megabytesPerSecond"): [0-9.e+-]+'), r"\1: N"),
     (re.compile(r'"line":\d+'), '"line":N'),
+    (re.compile(r'"time":"\d{4}(-\d\d){2}T\d\d(:\d\d){2}\.\d{3}Z"'), '"time":"T"'),
+    (re.compile(r"\b\d\d(:\d\d){2}\.\d{3} (?=(error|info) )"), "TIME "),
 )
 
 

@@ -6,18 +6,21 @@
 
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
+#include <sstream>
 #include <thread>
 
 namespace
 {
 constexpr LocationInfo HERE("CSource", "load", 12);
 
-std::vector<std::string> linesOf(const std::string& strPath)
+// The lines of a log, its times as TIME.
+std::vector<std::string> linesOf(std::istream&& oLog)
 {
-    std::ifstream            oFile(strPath);
+    static const std::regex  TIME(R"((\d{4}-\d\d-\d\dT)?\d\d:\d\d:\d\d\.\d{3}Z?)");
     std::vector<std::string> lstLine;
-    for (std::string strLine; std::getline(oFile, strLine);)
-        lstLine.push_back(strLine);
+    for (std::string strLine; std::getline(oLog, strLine);)
+        lstLine.push_back(std::regex_replace(strLine, TIME, "TIME"));
     return lstLine;
 }
 
@@ -36,13 +39,22 @@ protected:
 TEST_F(JsonLogTest, WritesOneObjectALine)
 {
     LogProcess::Error(0x3B0004EC, "[DCServer]Invalid \"para\".\n\x01", HERE);
+    standalone::setLogNote("a.xml: line 3");
     LogProcess::Info("[DCServer]é\xE9{}%s", HERE);
-    EXPECT_THAT(
-        linesOf(m_strPath),
-        testing::ElementsAre(R"({"level":"error","code":989857004,"text":"[DCServer]Invalid \"para\".\n\u0001",)"
-                             R"("file":"CSource","function":"load","line":12})",
-                             "{\"level\":\"info\",\"code\":0,\"text\":\"[DCServer]é\xEF\xBF\xBD{}%s\","
-                             "\"file\":\"CSource\",\"function\":\"load\",\"line\":12}"));
+    LogProcess::Error(1, "broken", HERE);
+    standalone::setLogNote("taken back");
+    standalone::setLogNote("");
+    LogProcess::Error(1, "broken", HERE);
+    EXPECT_THAT(linesOf(std::ifstream(m_strPath)),
+                testing::ElementsAre(
+                    R"({"time":"TIME","level":"error","code":989857004,"text":"[DCServer]Invalid \"para\".\n\u0001",)"
+                    R"("file":"CSource","function":"load","line":12})",
+                    "{\"time\":\"TIME\",\"level\":\"info\",\"code\":0,\"text\":\"[DCServer]é\xEF\xBF\xBD{}%s\","
+                    "\"file\":\"CSource\",\"function\":\"load\",\"line\":12}",
+                    R"({"time":"TIME","level":"error","code":1,"text":"broken","file":"CSource","function":"load",)"
+                    R"("line":12,"about":"a.xml: line 3"})",
+                    R"({"time":"TIME","level":"error","code":1,"text":"broken","file":"CSource","function":"load",)"
+                    R"("line":12})"));
 }
 
 TEST_F(JsonLogTest, ThreadsKeepLinesWholeAndInTheListenersOrder)
@@ -59,7 +71,7 @@ TEST_F(JsonLogTest, ThreadsKeepLinesWholeAndInTheListenersOrder)
     for (std::thread& oThread : lstThread)
         oThread.join();
     std::vector<std::string> lstWritten;
-    for (const std::string& strLine : linesOf(m_strPath))
+    for (const std::string& strLine : linesOf(std::ifstream(m_strPath)))
         lstWritten.push_back("E 00000001 " + nlohmann::json::parse(strLine).at("text").get<std::string>());
     EXPECT_EQ(800u, lstWritten.size());
     EXPECT_EQ(logLines(), lstWritten);
@@ -70,7 +82,7 @@ TEST_F(JsonLogTest, AFileThatCannotBeOpenedLeavesTheOldOne)
     EXPECT_FALSE(standalone::setJsonLog(m_oFolder.path() + "/none/log", m_strError));
     EXPECT_THAT(m_strError, testing::HasSubstr("there is no folder " + m_oFolder.path() + "/none"));
     LogProcess::Info("still here", HERE);
-    EXPECT_EQ(1u, linesOf(m_strPath).size());
+    EXPECT_EQ(1u, linesOf(std::ifstream(m_strPath)).size());
 }
 
 TEST_F(JsonLogTest, AFullDiskStopsNobodyAndIsSaidOnce)
@@ -92,8 +104,8 @@ TEST(ConsoleLog, EscapesWhatDrivesATerminal)
     LogProcess::Info("wanted", HERE);
     standalone::setConsoleLog(standalone::EnConsoleLevel::Off);
     LogProcess::Error(1, "off", HERE);
-    EXPECT_EQ("error 0x3B0004EC a\\tb\\n\\x1B[31m\\xC2\\x9B\\xE9 é{} (CSource::load:12)\n"
-              "info wanted (CSource::load:12)\n",
-              testing::internal::GetCapturedStderr());
+    EXPECT_THAT(linesOf(std::istringstream(testing::internal::GetCapturedStderr())),
+                testing::ElementsAre("TIME error 0x3B0004EC a\\tb\\n\\x1B[31m\\xC2\\x9B\\xE9 é{} (CSource::load:12)",
+                                     "TIME info wanted (CSource::load:12)"));
 }
 } // namespace

@@ -1,11 +1,14 @@
 // See Command.h.
 #include "tools/opxml/commands/Command.h"
 
+#include "common/ReadProblem.h"
 #include "standalone/LogSink.h"
 #include "standalone/ServerRoot.h"
 
 void openLog(const StGlobalOptions& stOptions)
 {
+    if (!stOptions.strLogFile.empty() || stOptions.bVerbose)
+        setReadListener([](const StReadProblem& stProblem) { standalone::setLogNote(problemWithFile(stProblem)); });
     std::string strError;
     if (!stOptions.strLogFile.empty() && !standalone::setJsonLog(stOptions.strLogFile, strError))
         throw CTrouble(strError);
