@@ -3,6 +3,7 @@
 #include "alarm/InitAlarmInfo.h"
 #include "tools/opxml/commands/AlarmTables.h"
 #include "tools/opxml/output/DevTypes.h"
+#include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
@@ -23,20 +24,6 @@ struct StWanted
     bool                     bList = false;
     StAlarmOptions           stOptions;
 };
-
-char lowerLetter(char cChar)
-{
-    return cChar >= 'A' && cChar <= 'Z' ? static_cast<char>(cChar - 'A' + 'a') : cChar;
-}
-
-// Case is folded for ASCII letters only; UTF-8 texts contain each other byte by byte.
-bool mentions(const std::string& strText, const std::string& strPart)
-{
-    return std::search(strText.begin(), strText.end(), strPart.begin(), strPart.end(),
-                       [](char cLeft, char cRight)
-                       { return lowerLetter(cLeft) == lowerLetter(cRight); }) != strText.end() ||
-           strPart.empty();
-}
 
 std::vector<AlarmStaticInfo> findAlarms(const InitAlarmInfo& oTable, const std::string& strPart)
 {

@@ -34,6 +34,7 @@ void describeTool(CLI::App& oApp, StTool& stTool)
     addDumpCommand(oApp, stTool);
     addQueryCommand(oApp, stTool);
     addModulesCommand(oApp, stTool);
+    addDevicesCommand(oApp, stTool);
     addAlarmCommand(oApp, stTool);
     addTransferCommand(oApp, stTool);
     addFileCheckCommand(oApp, stTool);

@@ -13,6 +13,11 @@
 
 namespace
 {
+char lowerLetter(char cChar)
+{
+    return cChar >= 'A' && cChar <= 'Z' ? static_cast<char>(cChar - 'A' + 'a') : cChar;
+}
+
 std::string lowerCase(std::string strText)
 {
     std::transform(strText.begin(), strText.end(), strText.begin(),
@@ -38,6 +43,14 @@ std::size_t editDistance(const std::string& strLeft, const std::string& strRight
     return lstRow.back();
 }
 } // namespace
+
+bool mentions(const std::string& strText, const std::string& strPart)
+{
+    return std::search(strText.begin(), strText.end(), strPart.begin(), strPart.end(),
+                       [](char cLeft, char cRight)
+                       { return lowerLetter(cLeft) == lowerLetter(cRight); }) != strText.end() ||
+           strPart.empty();
+}
 
 std::string resultName(std::uint32_t ulResult)
 {
@@ -72,7 +85,7 @@ std::string nearestNames(const std::string& strMisspelt, const std::vector<std::
     for (const std::string& strName : lstName)
     {
         const std::size_t nDistance = editDistance(strWanted, lowerCase(strName));
-        if (nDistance <= std::max<std::size_t>(2, strWanted.size() / 2))
+        if (!strName.empty() && nDistance <= std::max<std::size_t>(2, strWanted.size() / 2))
             lstNear.emplace_back(nDistance, strName);
     }
     std::sort(lstNear.begin(), lstNear.end());

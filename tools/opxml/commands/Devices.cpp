@@ -1,0 +1,99 @@
+// See Devices.h.
+#include "tools/opxml/commands/Devices.h"
+
+#include "database/CXMLConfigDatabase.h"
+#include "records/ResultCodes.h"
+#include "records/Vocabulary.h"
+#include "standalone/DeviceList.h"
+#include "tools/opxml/output/DevTypes.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <list>
+#include <map>
+#include <utility>
+
+namespace
+{
+// What the store and the load say about each key.
+struct StKeyState
+{
+    bool                       bHeld = false;
+    std::list<StAsnDevVersion> lstVersion; // of all its configurations
+    const StDevTypeLoad*       pLoad = nullptr;
+};
+using KeyStates = std::map<std::string, StKeyState>;
+
+KeyStates gatherKeys(const StLoadReport& stReport)
+{
+    KeyStates mapState;
+    CXMLConfigDatabase::getInstance()->visitDevTypes(
+        [&mapState](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+        {
+            StKeyState& stState = mapState[strKey];
+            stState.bHeld       = !lstInfo.empty();
+            for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+                stState.lstVersion.insert(stState.lstVersion.end(), pInfo->lstDevVersion.begin(),
+                                          pInfo->lstDevVersion.end());
+        });
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        StKeyState& stState = mapState[stLoad.strKey];
+        if (stState.pLoad == nullptr || stLoad.ulResult == 0 || !stState.bHeld)
+            stState.pLoad = &stLoad; // the last one that succeeded, else the last
+    }
+    return mapState;
+}
+
+void findConfiguration(StServedDevice& stDevice, const KeyStates& mapState)
+{
+    const std::string strVersion =
+        stDevice.strDevTypeVer + (stDevice.bTelnet ? std::string(Vocabulary::TELNET_SUFFIX) : "");
+    stDevice.strKey    = CXMLConfigDatabase::trans2TelnetDevType(stDevice.strDevType, strVersion);
+    const auto itState = mapState.find(stDevice.strKey);
+    if (itState == mapState.end() || itState->second.pLoad == nullptr)
+    {
+        stDevice.strProblem = fmt::format("no configuration \"{}\" is registered", stDevice.strKey);
+        return;
+    }
+    const StKeyState& stState = itState->second;
+    stDevice.strSource        = sourceText(stState.pLoad->stOrigin.enSource);
+    stDevice.bByVersion       = std::any_of(stState.lstVersion.begin(), stState.lstVersion.end(),
+                                            [&stDevice](const StAsnDevVersion& stVersion)
+                                            {
+                                          return stVersion.strSoftVersion == stDevice.stVersion.strSoftVersion &&
+                                                 stVersion.strPatchVersion == stDevice.stVersion.strPatchVersion;
+                                      });
+    if (!stState.bHeld)
+        stDevice.strProblem = failureText(*stState.pLoad);
+}
+} // namespace
+
+std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport)
+{
+    const KeyStates             mapState = gatherKeys(stReport);
+    std::vector<StServedDevice> lstDevice;
+    for (const standalone::StListedDevice& stListed : standalone::listDevices())
+    {
+        StServedDevice& stDevice = lstDevice.emplace_back();
+        stDevice.stInfo          = stListed.stInfo;
+        stDevice.stVersion       = stListed.stVersion;
+        if (CDCDeviceInfoDB::getDevTypeAndVersionName(stListed.stInfo.ulDeviceID, stDevice.strDevType,
+                                                      stDevice.strDevTypeVer) != DC_RESULT_OK)
+        {
+            stDevice.strProblem = fmt::format("type {}, version {}, is not installed", stListed.stInfo.ulDeviceTypeID,
+                                              stListed.stInfo.ulDeviceTypeVersionID);
+            continue;
+        }
+        stDevice.bTelnet = CXMLConfigDatabase::bTelnetToDev(stListed.stInfo);
+        findConfiguration(stDevice, mapState);
+    }
+    return lstDevice;
+}
+
+std::string versionText(const StAsnDevVersion& stVersion)
+{
+    return stVersion.strPatchVersion.empty() ? stVersion.strSoftVersion
+                                             : stVersion.strSoftVersion + " " + stVersion.strPatchVersion;
+}

@@ -1,0 +1,32 @@
+// The devices of the inventory with the configuration that serves each: for opxml
+// devices, and for the commands that take a device in place of a type.
+#ifndef OPERATIONXML_TOOLS_OPXML_COMMANDS_DEVICES_H
+#define OPERATIONXML_TOOLS_OPXML_COMMANDS_DEVICES_H
+
+#include "database/LoadReport.h"
+#include "platform/DeviceDatabase.h"
+#include "records/RootRecords.h"
+
+#include <string>
+#include <vector>
+
+struct StServedDevice
+{
+    StDeviceInfo    stInfo;
+    StAsnDevVersion stVersion;          // what it runs
+    std::string     strDevType;         // empty when its type is not installed
+    std::string     strDevTypeVer;      // of the registry, without "_telnet"
+    bool            bTelnet = false;    // managed over telnet
+    std::string     strKey;             // storage key of the configuration that serves it
+    std::string     strSource;          // where that came from, in words
+    bool            bByVersion = false; // the key holds a configuration that names stVersion
+    std::string     strProblem;         // why there is no configuration; empty: there is one
+};
+
+// All of them by id. Loads the database.
+std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport);
+
+// "V4.2 P03", or "" when the inventory does not say.
+std::string versionText(const StAsnDevVersion& stVersion);
+
+#endif
