@@ -17,6 +17,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "SectionRead.h" EXCLUDE
             PATTERN "TaskRead.h" EXCLUDE
             PATTERN "SectionChain.h" EXCLUDE
+            PATTERN "ConfigSearch.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
 install(FILES common/XmlParser.h common/XmlLimits.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)

@@ -24,8 +24,9 @@ std::uint32_t CXMLConfigDatabase::readAndStoreModuleXMLConfig()
     strModulePath += "ne_script/importscript";
     m_pModuleInfoMap = std::make_unique<ModuleInfoMap>(); // the map of an earlier read is freed
     CModuleXMLResReader oModuleXMLReader;
-    const std::uint32_t ulResult = oModuleXMLReader.parseXMLOfDirs(strModulePath, *m_pModuleInfoMap);
-    m_stLoadReport.lstModule     = oModuleXMLReader.files();
+    const std::uint32_t ulResult    = oModuleXMLReader.parseXMLOfDirs(strModulePath, *m_pModuleInfoMap);
+    m_stLoadReport.lstModule        = oModuleXMLReader.files();
+    m_stLoadReport.lstModuleProblem = oModuleXMLReader.problems();
     if (ulResult != DC_RESULT_OK)
         return logCall(DC_HERE, ulResult, "oModuleXMLReader.parseXMLOfDirs(strModulePath, m_pModuleInfoMap)");
     return DC_RESULT_OK;

@@ -1,9 +1,13 @@
 // Reading one capacity entry; pruning stands in CapacityPrune.cpp.
 #include "reader/CCapacityXMLConfig.h"
 
+#include "common/Guarded.h"
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "sections/ItemRead.h"
+
+#include <memory>
+#include <utility>
 
 using namespace xercesc;
 
@@ -59,6 +63,18 @@ std::string versionText(const StAsnDevTypeVerXMLInfo& stInfo)
 
 std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysOid, XercesDOMParser* pDOMParser,
                                                    StAsnDevTypeVerXMLInfo*& pInfo)
+try
+{
+    StCommonRead stRead = {CDocumentSource::plain(), false, {}};
+    return parseCapacityXML(strDevSysOid, pDOMParser, pInfo, stRead);
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysOid, XercesDOMParser* pDOMParser,
+                                                   StAsnDevTypeVerXMLInfo*& pInfo, StCommonRead& stRead)
 {
     const _TraceFunction oTrace(DC_HERE);
     if (pDOMParser == nullptr)
@@ -69,19 +85,26 @@ std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysO
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "XercesDOMParser::getDocument failed :");
 
     std::list<StAsnOperation> lstCapacity;
-    if (const DOMElement* pEntry = findEntry(*pDOMParser, strDevSysOid))
+    const DOMElement*         pEntry = findEntry(*pDOMParser, strDevSysOid);
+    stRead.bHasEntry                 = pEntry != nullptr;
+    if (pEntry != nullptr)
         readRecords(OPERATIONS, pEntry, &lstCapacity); // what an entry does not say stays unpruned
     else
         logFail(DC_HERE, DC_RESULT_XML_ERROR,
                 "No capacity entry for sysoid :" + strDevSysOid + ", DeviceType:" + pInfo->strDevType +
                     versionText(*pInfo));
-    const std::uint32_t ulResult = parseCommonXML(pInfo);
-    if (ulResult == DC_RESULT_OK)
-        combineXMLInfo(pInfo, lstCapacity);
-    return ulResult;
+    const std::uint32_t ulResult = parseCommonXML(pInfo, stRead);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    // A record that is narrowed half-way must not be taken for whole.
+    std::unique_ptr<StAsnDevTypeVerXMLInfo> pRecord(std::exchange(pInfo, nullptr));
+    combineXMLInfo(pRecord.get(), lstCapacity);
+    pInfo = pRecord.release();
+    return DC_RESULT_OK;
 }
 
 std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysOid, const std::string& strFilePath)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     if (!NS_UTIL::IsExists(strFilePath))
@@ -96,15 +119,33 @@ std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysO
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "XercesDOMParser::getDocument failed :");
     return findEntry(*pParser, strDevSysOid) == nullptr ? DC_RESULT_XML_ERROR : DC_RESULT_OK;
 }
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CCapacityXMLConfig::parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo)
+try
+{
+    StCommonRead stRead = {CDocumentSource::plain(), false, {}};
+    return parseCommonXML(pInfo, stRead);
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t CCapacityXMLConfig::parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo, StCommonRead& stRead)
 {
     const _TraceFunction oTrace(DC_HERE);
     if (pInfo == nullptr)
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA, "Pointer is  NULL");
     CDevTypeXMLResReader oReader(pInfo->strDevType, pInfo->strDevTypeVer, false);
+    oReader.readFrom(stRead.oSource);
     oReader.initializeCheck(); // a separate check file holds for every version
-    return oReader.parseCommonXML(pInfo);
+    const std::uint32_t ulResult = oReader.parseCommonXML(pInfo);
+    stRead.stProblem             = oReader.problem();
+    return ulResult;
 }
 
 std::uint32_t CCapacityXMLConfig::fillOperInfo(const DOMElement* pEntry, std::list<StAsnOperation>& lstOut)

@@ -7,6 +7,7 @@
 #define OPERATIONXML_READER_CCAPACITYXMLCONFIG_H
 
 #include "platform/Export.h"
+#include "reader/DocumentSource.h"
 #include "records/RootRecords.h"
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
@@ -14,6 +15,15 @@
 #include <cstdint>
 #include <list>
 #include <string>
+
+// How the common file that a narrowed version stands on is read, and what is told
+// of it beside the record.
+struct StCommonRead
+{
+    CDocumentSource& oSource;
+    bool             bHasEntry = false; // the capacity document has an entry of the identifier
+    StReadProblem    stProblem;         // of the common or the check file
+};
 
 class OPERATIONXML_API CCapacityXMLConfig
 {
@@ -58,6 +68,14 @@ public:
                                 const std::list<StAsnOperation>&    lstCapacity);
     void combineTaskConfiguration(std::list<StAsnTaskConfigInfoOperation>& lstTask,
                                   const std::list<StAsnOperation>&         lstCapacity);
+
+private:
+    friend class CDevTypeXMLResReader;
+
+    // The same as those above; these let exceptions through.
+    std::uint32_t parseCapacityXML(const std::string& strDevSysOid, xercesc::XercesDOMParser* pDOMParser,
+                                   StAsnDevTypeVerXMLInfo*& pInfo, StCommonRead& stRead);
+    std::uint32_t parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo, StCommonRead& stRead);
 };
 
 #endif

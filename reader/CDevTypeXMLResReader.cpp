@@ -1,26 +1,18 @@
-// Finding and parsing one device type's files, and filling one record from them.
-// The capacity mode stands in CapacityRead.cpp.
+// Filling one record from one device type's files. How the files are found stands
+// in ConfigSearch.cpp, the capacity mode in CapacityRead.cpp.
 #include "reader/CDevTypeXMLResReader.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
-#include "database/CXMLConfigDatabase.h"
-#include "platform/Paths.h"
+#include "reader/ConfigSearch.h"
 #include "reader/SectionChain.h"
-#include "records/Vocabulary.h"
 #include "sections/CCheckOpXMLConfig.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace
 {
 constexpr const char* DC_SOURCE = "CDevTypeXMLResReader";
-
-std::uint32_t logMissingFile(const LocationInfo& stWhere, const std::string& strPath)
-{
-    // The code a missing file is logged under, not the one that is returned for it.
-    return logFail(stWhere, DC_RESULT_INVALID_PARA, "Server config File :" + strPath + " not exist.");
-}
 } // namespace
 
 CDevTypeXMLResReader::CDevTypeXMLResReader(const std::string& strDevType, const std::string& strDevTypeVer,
@@ -32,127 +24,60 @@ CDevTypeXMLResReader::CDevTypeXMLResReader(const std::string& strDevType, const 
 CDevTypeXMLResReader::~CDevTypeXMLResReader() = default;
 
 std::uint32_t CDevTypeXMLResReader::readDevTypeVerXMLFile(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     if (!lstInfo.empty())
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA, "Invalid para.");
     if (m_bCapacityMode)
         return parseCapacityXML(lstInfo);
-    StAsnDevTypeVerXMLInfo* pAsnDevTypeVerXMLInfo = nullptr;
-    const std::uint32_t     ulResult              = parseNormalXML(pAsnDevTypeVerXMLInfo);
+    std::list<StAsnDevTypeVerXMLInfo*> lstRead(1); // its node first: a record without one would have no owner
+    const std::uint32_t                ulResult = parseNormalXML(lstRead.front());
     if (ulResult != DC_RESULT_OK)
         return logCall(DC_HERE, ulResult, "parseNormalXML(pAsnDevTypeVerXMLInfo)");
-    lstInfo.push_back(pAsnDevTypeVerXMLInfo);
+    lstInfo.splice(lstInfo.end(), lstRead);
     return DC_RESULT_OK;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLResReader::initialize(const std::string& strSoftVersion, const std::string& strPatchVersion,
                                                bool bUseCommon)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
+    const LocationInfo   stWhere = DC_HERE;
+    m_stConfig                   = {};
+    m_stConfig = configSearch::findConfig(&stWhere, m_strDevType, m_strDevTypeVer, {strSoftVersion, strPatchVersion},
+                                          bUseCommon);
+    return m_stConfig.isFound() ? parseConfig(stWhere) : m_stConfig.ulResult;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t CDevTypeXMLResReader::parseConfig(const LocationInfo& stWhere)
+{
+    m_stFixedCheck = {};
+    m_pSource->parse(m_stConfig.strFile, m_pXmlParser);
     if (m_pXmlParser == nullptr)
-        m_pXmlParser = CXmlParser::create();
-    m_stOrigin = {};
-    StDeviceType  oStDeviceType;
-    std::uint32_t ulResult = searchOwnDeviceType(DC_HERE, oStDeviceType);
-    if (ulResult == DC_RESULT_OK)
-        ulResult = chooseConfigFile(DC_HERE, oStDeviceType, strSoftVersion, strPatchVersion, bUseCommon);
-    if (ulResult != DC_RESULT_OK)
-        return ulResult;
-    if (!NS_UTIL::IsExists(m_stOrigin.strFile))
-    {
-        logMissingFile(DC_HERE, m_stOrigin.strFile);
-        ulResult = useTelnetTwin(DC_HERE);
-        if (ulResult != DC_RESULT_OK)
-            return ulResult;
-    }
-    if (m_pXmlParser == nullptr)
-        return logFail(DC_HERE, DC_RESULT_PARSER_NULL,
-                       "m_pXmlParser == NULL, Server config File :" + m_stOrigin.strFile);
-    parseConfigFile();
+        return logFail(stWhere, DC_RESULT_PARSER_NULL,
+                       "m_pXmlParser == NULL, Server config File :" + m_stConfig.strFile);
+    m_stConfig.stProblem = m_pXmlParser->problem(); // without a document the sections report it
     return DC_RESULT_OK;
-}
-
-std::uint32_t CDevTypeXMLResReader::searchOwnDeviceType(const LocationInfo& stWhere, StDeviceType& oStDeviceType)
-{
-    const std::uint32_t ulResult =
-        CDeviceAdapterInterface::getInstance()->searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType);
-    if (ulResult == DC_RESULT_OK)
-        return DC_RESULT_OK;
-    return logCall(stWhere, ulResult,
-                   "CDeviceAdapterInterface::getInstance()->searchDeviceType(m_strDevType, m_strDevTypeVer, "
-                   "oStDeviceType)");
-}
-
-std::uint32_t CDevTypeXMLResReader::chooseConfigFile(const LocationInfo& stWhere, const StDeviceType& oStDeviceType,
-                                                     const std::string& strSoftVersion,
-                                                     const std::string& strPatchVersion, bool bUseCommon)
-{
-    if (bUseCommon && oStDeviceType.enConfigFileType == EnConfigFileCommon)
-    {
-        m_stOrigin = {EnConfigSource::CommonFile, CXMLConfigDatabase::getCommonDevTypeXMLFileName(true), ""};
-        return DC_RESULT_OK;
-    }
-    if (!strSoftVersion.empty() || !strPatchVersion.empty())
-    {
-        m_stOrigin = {
-            EnConfigSource::OwnFile,
-            CXMLConfigDatabase::getDevTypeXMLFileName(m_strDevType, strSoftVersion, strPatchVersion, true, ""), ""};
-        return DC_RESULT_OK;
-    }
-    std::string         strFilePath;
-    const std::uint32_t ulResult =
-        CDeviceAdapterInterface::getInstance()->getServerConfigFile(m_strDevType, strFilePath);
-    if (ulResult != DC_RESULT_OK)
-        return logCall(stWhere, ulResult,
-                       "CDeviceAdapterInterface::getInstance()->getServerConfigFile(m_strDevType, strFilePath)");
-    m_stOrigin = {EnConfigSource::OwnFile, std::move(strFilePath), ""};
-    return DC_RESULT_OK;
-}
-
-std::uint32_t CDevTypeXMLResReader::useTelnetTwin(const LocationInfo& stWhere)
-{
-    const std::string   strDevTypeTemp = m_strDevType + std::string(Vocabulary::TELNET_SUFFIX);
-    std::string         strFilePath;
-    const std::uint32_t ulResult =
-        CDeviceAdapterInterface::getInstance()->getServerConfigFile(strDevTypeTemp, strFilePath);
-    if (ulResult == DC_RESULT_OK && NS_UTIL::IsExists(strFilePath))
-    {
-        m_stOrigin = {EnConfigSource::TelnetTwin, std::move(strFilePath), ""};
-        return DC_RESULT_OK;
-    }
-    m_stOrigin.enSource   = EnConfigSource::None;
-    m_stOrigin.strProblem = "the file is not there";
-    if (ulResult != DC_RESULT_OK)
-        return logCall(stWhere, ulResult,
-                       "CDeviceAdapterInterface::getInstance()->getServerConfigFile(strDevTypeTemp, strFilePath)");
-    logMissingFile(stWhere, strFilePath);
-    return DC_RESULT_FILE_NOT_EXIST;
-}
-
-void CDevTypeXMLResReader::parseConfigFile()
-{
-    // A document that cannot be parsed is no document; the sections report it.
-    m_pXmlParser->parseFile(m_stOrigin.strFile);
-    m_stOrigin.strProblem = problemText(m_pXmlParser->problem());
-}
-
-void CDevTypeXMLResReader::parseCheckFile(std::unique_ptr<CXmlParser>& pParser, const std::string& strFilePath)
-{
-    if (pParser == nullptr)
-        pParser = CXmlParser::create();
-    if (pParser == nullptr)
-        return; // the check sections report a missing parser
-    pParser->parseFile(strFilePath);
-    if (pParser->problem().isSet())
-        m_stOrigin.strProblem = problemWithFile(pParser->problem());
 }
 
 std::uint32_t CDevTypeXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDOMParser, StAsnDevTypeVerXMLInfo* pInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     if (pInfo == nullptr)
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA, "NULL pointer");
+    if (m_bCheckUnknown)
+        return DC_RESULT_XML_ERROR; // logged then: what checks a type has must not depend on a call that threw
     const StSectionLists stLists = {pInfo->stOperationConfig, pInfo->stViewConfig, pInfo->lstTaskConfigInfoOperation,
                                     true};
     return runSectionChain(pDOMParser, stLists,
@@ -164,43 +89,55 @@ std::uint32_t CDevTypeXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pD
                                    m_pCheckXmlParser.get(), &lstCheckOperation, m_enReportType);
                            });
 }
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CDevTypeXMLResReader::SetCheckOpConfiguration(xercesc::XercesDOMParser* pDOMParser,
                                                             StAsnDevTypeVerXMLInfo*   pInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     if (pInfo == nullptr)
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA, "NULL pointer");
     std::list<StAsnCheckOperationDef>& lstCheckOperation = pInfo->stOperationConfig.lstCheckOperation;
-    const std::string                  strFixedCheckFile = CDeviceAdapterInterface::getInstance()->initXMLPath() +
-                                          "/access_snmp/fixedcheck/" + pInfo->strDevType +
-                                          std::string(Vocabulary::XML_SUFFIX);
-    if (isFixedCheckEnabled() && NS_UTIL::IsExists(strFixedCheckFile))
-    {
-        parseCheckFile(m_pFixedCheckXmlParser, strFixedCheckFile);
-        return CCheckOpXMLConfig().setFixedCheckOpConfiguration(m_pFixedCheckXmlParser.get(), &lstCheckOperation);
-    }
-    return CCheckOpXMLConfig().setCheckOpConfiguration(pDOMParser, &lstCheckOperation);
+    m_stFixedCheck                                       = configSearch::findFixedCheckFile(pInfo->strDevType);
+    if (!m_stFixedCheck.isFound())
+        return CCheckOpXMLConfig().setCheckOpConfiguration(pDOMParser, &lstCheckOperation);
+    m_pSource->parse(m_stFixedCheck.strFile, m_pFixedCheckXmlParser);
+    if (m_pFixedCheckXmlParser != nullptr) // the check sections report a missing parser
+        m_stFixedCheck.stProblem = m_pFixedCheckXmlParser->problem();
+    return CCheckOpXMLConfig().setFixedCheckOpConfiguration(m_pFixedCheckXmlParser.get(), &lstCheckOperation);
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLResReader::initializeCheck()
+try
 {
     const _TraceFunction oTrace(DC_HERE);
-    std::string          strFilePath;
-    const std::uint32_t  ulResult =
-        CDeviceAdapterInterface::getInstance()->getCheckFileAndType(m_strDevType, strFilePath, m_enReportType);
-    if (ulResult != DC_RESULT_OK)
-        logCall(DC_HERE, ulResult,
-                "CDeviceAdapterInterface::getInstance()->getCheckFileAndType(strDevType, strFilePath, "
-                "m_enReportType): DeviceType = " +
-                    m_strDevType);
-    if (strFilePath.empty())
-        return DC_RESULT_FILE_NOT_EXIST;
-    parseCheckFile(m_pCheckXmlParser, strFilePath);
-    return ulResult;
+    const LocationInfo   stWhere = DC_HERE;
+    m_bCheckUnknown              = true; // until the file is parsed
+    m_stCheck                    = configSearch::findCheckFile(&stWhere, m_strDevType, m_enReportType);
+    if (m_stCheck.isFound())
+    {
+        m_pSource->parse(m_stCheck.strFile, m_pCheckXmlParser);
+        if (m_pCheckXmlParser != nullptr)
+            m_stCheck.stProblem = m_pCheckXmlParser->problem();
+    }
+    m_bCheckUnknown = false;
+    return m_stCheck.isFound() ? m_stCheck.ulResult : DC_RESULT_FILE_NOT_EXIST;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLResReader::getCheckOperFromXml(std::list<StAsnCheckOperationDef>* pLstOut)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     const std::uint32_t  ulResult = initialize("", "", true);
@@ -208,10 +145,17 @@ std::uint32_t CDevTypeXMLResReader::getCheckOperFromXml(std::list<StAsnCheckOper
         return logFail(DC_HERE, ulResult, "CDevTypeXMLResReader::initialize failed");
     if (initializeCheck() == DC_RESULT_FILE_NOT_EXIST)
         return CCheckOpXMLConfig().setCheckOpConfiguration(m_pXmlParser.get(), pLstOut);
+    if (m_bCheckUnknown)
+        return DC_RESULT_XML_ERROR;
     return CCheckOpXMLConfig().setCheckOpConfigurationTelnet(m_pCheckXmlParser.get(), pLstOut, m_enReportType);
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLResReader::initializeXMLInfo(const StAsnDevVersion& stVersion, StAsnDevTypeVerXMLInfo*& pInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     if (pInfo != nullptr)
@@ -223,8 +167,13 @@ std::uint32_t CDevTypeXMLResReader::initializeXMLInfo(const StAsnDevVersion& stV
     pInfo = pNew.release();
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CDevTypeXMLResReader::parseNormalXML(StAsnDevTypeVerXMLInfo*& pInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
     const std::uint32_t  ulResult = initialize("", "", true);
@@ -232,24 +181,23 @@ std::uint32_t CDevTypeXMLResReader::parseNormalXML(StAsnDevTypeVerXMLInfo*& pInf
         return logCall(DC_HERE, ulResult, "initialize(\"\", \"\", true)");
     return fillRecord(pInfo);
 }
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CDevTypeXMLResReader::parseCommonXML(StAsnDevTypeVerXMLInfo*& pInfo)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
-    if (m_pXmlParser == nullptr)
-        m_pXmlParser = CXmlParser::create();
-    m_stOrigin = {EnConfigSource::CommonFile, CXMLConfigDatabase::getCommonDevTypeXMLFileName(true), ""};
-    if (!NS_UTIL::IsExists(m_stOrigin.strFile))
-    {
-        m_stOrigin.strProblem = "the file is not there";
-        logMissingFile(DC_HERE, m_stOrigin.strFile);
-        return DC_RESULT_FILE_NOT_EXIST;
-    }
-    if (m_pXmlParser == nullptr)
-        return logFail(DC_HERE, DC_RESULT_PARSER_NULL,
-                       "m_pXmlParser == NULL, Server config File :" + m_stOrigin.strFile);
-    parseConfigFile();
-    return fillRecord(pInfo);
+    const LocationInfo   stWhere = DC_HERE;
+    m_stConfig                   = configSearch::findCommonFile(&stWhere);
+    const std::uint32_t ulResult = m_stConfig.isFound() ? parseConfig(stWhere) : m_stConfig.ulResult;
+    return ulResult == DC_RESULT_OK ? fillRecord(pInfo) : ulResult;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CDevTypeXMLResReader::fillRecord(StAsnDevTypeVerXMLInfo*& pInfo)
@@ -267,19 +215,18 @@ std::uint32_t CDevTypeXMLResReader::fillRecord(StAsnDevTypeVerXMLInfo*& pInfo)
     return ulResult;
 }
 
-void CDevTypeXMLResReader::compareAndAdd(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StAsnDevTypeVerXMLInfo*& pInfo,
-                                         const StAsnDevVersion& stVersion)
+StReadProblem CDevTypeXMLResReader::problem() const
 {
-    if (pInfo == nullptr)
-        return;
-    const auto itEqual =
-        std::find_if(lstInfo.begin(), lstInfo.end(),
-                     [pInfo](const StAsnDevTypeVerXMLInfo* pOther) { return pOther != nullptr && *pOther == *pInfo; });
-    if (itEqual == lstInfo.end())
+    // In the order in which the files cost the read its result.
+    for (const StPlannedFile* pFile : {&m_stConfig, &m_stCheck, &m_stFixedCheck})
     {
-        lstInfo.push_back(pInfo);
-        return;
+        if (pFile->stProblem.isSet())
+            return pFile->stProblem;
     }
-    (*itEqual)->lstDevVersion.push_back(stVersion);
-    delete std::exchange(pInfo, nullptr);
+    return {};
+}
+
+StConfigOrigin CDevTypeXMLResReader::origin() const
+{
+    return m_bCapacityMode ? m_stCapacity : StConfigOrigin{m_stConfig.enSource, m_stConfig.strFile, problem(), {}};
 }

@@ -5,14 +5,18 @@
 // Records handed out through a
 // list or pointer belong to the caller; a read that fails hands out none.
 // Failures are logged where they arise; codes of the device adapter and of the
-// section parsers are passed up unchanged.
+// section parsers are passed up unchanged. An exception (memory that runs out, a
+// platform call that throws) ends in the operation as DC_RESULT_XML_ERROR.
+//
+// Every read has two halves: the plan names its files (ConfigPlan.h), and records
+// are filled from their documents, which come through a source (DocumentSource.h).
 #ifndef OPERATIONXML_READER_CDEVTYPEXMLRESREADER_H
 #define OPERATIONXML_READER_CDEVTYPEXMLRESREADER_H
 
-#include "common/XmlParser.h"
 #include "platform/DeviceAdapter.h"
 #include "platform/Export.h"
-#include "reader/ConfigOrigin.h"
+#include "reader/ConfigPlan.h"
+#include "reader/DocumentSource.h"
 #include "records/RootRecords.h"
 
 #include <cstdint>
@@ -79,37 +83,42 @@ public:
     void compareAndAdd(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StAsnDevTypeVerXMLInfo*& pInfo,
                        const StAsnDevVersion& stVersion);
 
-    // Where the last read took its configuration from.
-    const StConfigOrigin& origin() const { return m_stOrigin; }
+    // Where the last read took its configuration from, or why there is none.
+    StConfigOrigin origin() const;
+
+    // From now on documents come from this source, which must outlive the reader.
+    void readFrom(CDocumentSource& oSource) { m_pSource = &oSource; }
 
 private:
-    // These log under the name of the operation that calls them.
-    std::uint32_t chooseConfigFile(const LocationInfo& stWhere, const StDeviceType& oStDeviceType,
-                                   const std::string& strSoftVersion, const std::string& strPatchVersion,
-                                   bool bUseCommon);
-    std::uint32_t useTelnetTwin(const LocationInfo& stWhere);
-    void          parseConfigFile();
-    void          parseCheckFile(std::unique_ptr<CXmlParser>& pParser, const std::string& strFilePath);
-    std::uint32_t fillRecord(StAsnDevTypeVerXMLInfo*& pInfo);
+    friend class CCapacityXMLConfig; // its common file is read by a reader of its own
 
-    std::uint32_t searchOwnDeviceType(const LocationInfo& stWhere, StDeviceType& oStDeviceType);
+    // These log under the name of the operation that calls them.
+    std::uint32_t parseConfig(const LocationInfo& stWhere);
+    std::uint32_t fillRecord(StAsnDevTypeVerXMLInfo*& pInfo);
+    StReadProblem problem() const;
+
     std::uint32_t readUnversioned(const StDeviceType& oStDeviceType, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
     std::uint32_t readVersions(const LocationInfo& stWhere, const StDeviceType& oStDeviceType,
                                const std::list<StAsnDevVersion>&   lstVersion,
                                std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
-    std::uint32_t readVersion(const LocationInfo& stWhere, const StDeviceType& oStDeviceType,
-                              const StCapacityInfo& stCapacity, const StAsnDevVersion& stAsnDevVersion,
-                              StAsnDevTypeVerXMLInfo*& pInfo);
+    std::uint32_t readVersion(const LocationInfo& stWhere, const StDeviceType& oStDeviceType, bool bFullConfig,
+                              const StAsnDevVersion& stAsnDevVersion, StAsnDevTypeVerXMLInfo*& pInfo,
+                              StVersionLoad& stLoad);
     void          raiseCapacityMissing(const LocationInfo& stWhere, const StAsnDevVersion& stAsnDevVersion);
 
-    std::unique_ptr<CXmlParser> m_pXmlParser;           // the server configuration file; reused by every parse
-    std::unique_ptr<CXmlParser> m_pCheckXmlParser;      // the telnet check file; once set, it stays
-    std::unique_ptr<CXmlParser> m_pFixedCheckXmlParser; // the fixed-check file, parsed afresh for each record
+    std::shared_ptr<CXmlParser> m_pXmlParser;           // the server configuration file; reused by every parse
+    std::shared_ptr<CXmlParser> m_pCheckXmlParser;      // the telnet check file; once set, it stays
+    std::shared_ptr<CXmlParser> m_pFixedCheckXmlParser; // the fixed-check file, parsed afresh for each record
     EnCheckReportType           m_enReportType = EnCheckReportNone;
     std::string                 m_strDevType;
     std::string                 m_strDevTypeVer;
     bool                        m_bCapacityMode;
-    StConfigOrigin              m_stOrigin;
+    bool                        m_bCheckUnknown = false; // looking for the check file ended in an exception
+    StPlannedFile               m_stConfig;              // the plan of the read that runs, or ran last
+    StPlannedFile               m_stCheck;
+    StPlannedFile               m_stFixedCheck;
+    StConfigOrigin              m_stCapacity; // of the last capacity read; no source before one
+    CDocumentSource*            m_pSource = &CDocumentSource::plain();
 };
 
 #endif

@@ -1,6 +1,7 @@
 // See CModuleXMLResReader.h.
 #include "reader/CModuleXMLResReader.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "common/XmlLimits.h"
 #include "platform/FileSystem.h"
@@ -13,6 +14,7 @@
 #include <cerrno>
 #include <map>
 #include <string_view>
+#include <system_error>
 
 namespace
 {
@@ -26,21 +28,57 @@ bool isModuleFile(const std::string& strFilePath)
            strFilePath.find("ServerConfiguration.XML") != std::string::npos;
 }
 
-// The names in an open folder, sorted; a read error ends them.
-std::vector<std::string> readNames(DIR* pDir)
+// An open folder; closed on every path.
+class CFolder
 {
-    std::vector<std::string> lstName;
-    dirent                   stEntry = {};
-    dirent*                  pEntry  = nullptr;
-    while (KIVO_OS::readdir_r(pDir, &stEntry, &pEntry, UTF8) == 0 && pEntry != nullptr)
+public:
+    explicit CFolder(const std::string& strFolder)
+        : m_pDir(KIVO_OS::opendir(strFolder.c_str(), UTF8)), m_nErrno(m_pDir == nullptr ? errno : 0)
     {
-        std::string strName = pEntry->d_name;
-        if (strName != "." && strName != "..")
-            lstName.push_back(std::move(strName));
     }
-    std::sort(lstName.begin(), lstName.end());
-    return lstName;
-}
+    ~CFolder()
+    {
+        try
+        {
+            close();
+        }
+        catch (...) // of a platform that throws, while another exception is on its way
+        {
+            m_pDir = nullptr;
+        }
+    }
+    CFolder(const CFolder&)            = delete;
+    CFolder& operator=(const CFolder&) = delete;
+
+    bool isOpen() const { return m_pDir != nullptr; }
+    int  error() const { return m_nErrno; }
+
+    // The names in it, sorted; a read error ends them.
+    std::vector<std::string> readNames() const
+    {
+        std::vector<std::string> lstName;
+        dirent                   stEntry = {};
+        dirent*                  pEntry  = nullptr;
+        while (KIVO_OS::readdir_r(m_pDir, &stEntry, &pEntry, UTF8) == 0 && pEntry != nullptr)
+        {
+            std::string strName = pEntry->d_name;
+            if (strName != "." && strName != "..")
+                lstName.push_back(std::move(strName));
+        }
+        std::sort(lstName.begin(), lstName.end());
+        return lstName;
+    }
+
+    void close()
+    {
+        if (DIR* pDir = std::exchange(m_pDir, nullptr))
+            KIVO_OS::closedir(pDir);
+    }
+
+private:
+    DIR* m_pDir; // null when it could not be opened
+    int  m_nErrno;
+};
 
 // Every naming merges the whole module once more, so a small file could fill the
 // memory. The name that passes the limit, or null.
@@ -54,46 +92,65 @@ const std::string* findNamedTooOften(const std::list<std::string>& lstDevType)
     }
     return nullptr;
 }
+
+std::uint32_t requireFile(const LocationInfo& stWhere, const std::string& strPath)
+{
+    if (NS_UTIL::IsExists(strPath))
+        return DC_RESULT_OK;
+    logFail(stWhere, DC_RESULT_INVALID_PARA, "Server config File :" + strPath + " not exist.");
+    return DC_RESULT_FILE_NOT_EXIST; // missing files are logged under another code everywhere
+}
 } // namespace
 
 std::uint32_t CModuleXMLResReader::parseXMLOfDirs(const std::string& strFolder, ModuleInfoMap& mapModule)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
-    DIR*                 pDir   = KIVO_OS::opendir(strFolder.c_str(), UTF8);
-    const int            nErrno = errno;
-    if (pDir == nullptr)
+    CFolder              oFolder(strFolder);
+    if (!oFolder.isOpen())
+    {
+        m_lstProblem.push_back({strFolder, 0, 0, std::generic_category().message(oFolder.error())});
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
                        "CModuleXMLResReader::parseXMLOfDirs(): open dir failed! dirname: " + strFolder +
-                           ", errno: " + std::to_string(nErrno));
-    const std::vector<std::string> lstName = readNames(pDir);
-    KIVO_OS::closedir(pDir); // before going deeper: a deep tree must not use up descriptors
+                           ", errno: " + std::to_string(oFolder.error()));
+    }
+    const std::vector<std::string> lstName = oFolder.readNames();
+    oFolder.close(); // before going deeper: a deep tree must not use up descriptors
     if (!isFirstVisit(strFolder))
         return DC_RESULT_OK;
     for (const std::string& strName : lstName)
-    {
-        const std::string strFilePath = strFolder + "/" + strName;
-        struct stat       oStatbuf    = {};
-        const int         nStatus     = KIVO_OS::stat(strFilePath.c_str(), &oStatbuf, UTF8);
-        if (nStatus != 0)
-        {
-            logCall(DC_HERE, static_cast<std::uint32_t>(nStatus),
-                    "KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): " + strFilePath);
-            continue;
-        }
-        if (S_ISDIR(oStatbuf.st_mode))
-        {
-            const std::uint32_t ulResult = parseXMLOfDirs(strFilePath, mapModule);
-            if (ulResult != DC_RESULT_OK)
-                logCall(DC_HERE, ulResult, "parseXMLOfDirs(strFilePath, pModuleInfoMap): " + strFilePath);
-        }
-        else if (isModuleFile(strFilePath))
-        {
-            const std::uint32_t ulResult = parseModuleXML(strFilePath, mapModule);
-            if (ulResult != DC_RESULT_OK)
-                logCall(DC_HERE, ulResult, "parseModuleXML(strFilePath, pModuleInfoMap): " + strFilePath);
-        }
-    }
+        readEntry(DC_HERE, strFolder + "/" + strName, mapModule);
     return DC_RESULT_OK;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+void CModuleXMLResReader::readEntry(const LocationInfo& stWhere, const std::string& strFilePath,
+                                    ModuleInfoMap& mapModule)
+{
+    struct stat oStatbuf = {};
+    const int   nStatus  = KIVO_OS::stat(strFilePath.c_str(), &oStatbuf, UTF8);
+    const int   nErrno   = errno;
+    if (nStatus != 0)
+    {
+        m_lstProblem.push_back({strFilePath, 0, 0, std::generic_category().message(nErrno)});
+        logCall(stWhere, static_cast<std::uint32_t>(nStatus),
+                "KIVO_OS::stat(strFilePath.c_str(), &oStatbuf): " + strFilePath);
+    }
+    else if (S_ISDIR(oStatbuf.st_mode))
+    {
+        const std::uint32_t ulResult = parseXMLOfDirs(strFilePath, mapModule);
+        if (ulResult != DC_RESULT_OK)
+            logCall(stWhere, ulResult, "parseXMLOfDirs(strFilePath, pModuleInfoMap): " + strFilePath);
+    }
+    else if (isModuleFile(strFilePath))
+    {
+        const std::uint32_t ulResult = parseModuleXML(strFilePath, mapModule);
+        if (ulResult != DC_RESULT_OK)
+            logCall(stWhere, ulResult, "parseModuleXML(strFilePath, pModuleInfoMap): " + strFilePath);
+    }
 }
 
 bool CModuleXMLResReader::isFirstVisit(const std::string& strFolder)
@@ -107,35 +164,61 @@ bool CModuleXMLResReader::isFirstVisit(const std::string& strFolder)
 }
 
 std::uint32_t CModuleXMLResReader::parseModuleXML(const std::string& strPath, ModuleInfoMap& mapModule)
+try
 {
-    const _TraceFunction              oTrace(DC_HERE);
-    const std::unique_ptr<CXmlParser> pXmlParser = CXmlParser::create();
+    const _TraceFunction oTrace(DC_HERE);
+    StModuleLoad&        stLoad = m_lstFile.emplace_back();
+    stLoad.strFile              = strPath;
+    stLoad.ulResult             = DC_RESULT_XML_ERROR; // unless it is read to the end
     m_strName.clear();
-    std::uint32_t ulResult = initialize(strPath, pXmlParser.get());
+    std::shared_ptr<CXmlParser> pXmlParser;
+    std::uint32_t               ulResult = initialize(strPath, pXmlParser);
     if (ulResult != DC_RESULT_OK)
         logCall(DC_HERE, ulResult, "initialize(strPath, pXmlParser)");
     else
         ulResult = setDevXMLConfig(pXmlParser.get(), mapModule);
-    m_lstFile.push_back(
-        {strPath, m_strName, pXmlParser == nullptr ? "" : problemText(pXmlParser->problem()), ulResult});
+    stLoad.strName  = m_strName;
+    stLoad.ulResult = ulResult;
+    if (pXmlParser != nullptr)
+        stLoad.stProblem = pXmlParser->problem();
     return ulResult;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CModuleXMLResReader::initialize(const std::string& strPath, CXmlParser* pXmlParser)
+try
 {
     const _TraceFunction oTrace(DC_HERE);
-    if (!NS_UTIL::IsExists(strPath))
-    {
-        logFail(DC_HERE, DC_RESULT_INVALID_PARA, "Server config File :" + strPath + " not exist.");
-        return DC_RESULT_FILE_NOT_EXIST; // missing files are logged under another code everywhere
-    }
+    const std::uint32_t  ulResult = requireFile(DC_HERE, strPath);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
     if (pXmlParser == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, " pXmlParser is null :");
     pXmlParser->parseFile(strPath);
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t CModuleXMLResReader::initialize(const std::string& strPath, std::shared_ptr<CXmlParser>& pXmlParser)
+{
+    const _TraceFunction oTrace(DC_HERE);
+    const std::uint32_t  ulResult = requireFile(DC_HERE, strPath);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    m_pSource->parse(strPath, pXmlParser);
+    if (pXmlParser == nullptr)
+        return logFail(DC_HERE, DC_RESULT_XML_ERROR, " pXmlParser is null :");
+    return DC_RESULT_OK;
+}
 
 std::uint32_t CModuleXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDOMParser, ModuleInfoMap& mapModule)
+try
 {
     const _TraceFunction      oTrace(DC_HERE);
     StAsnModuleInfoVerXMLInfo stModule;
@@ -158,4 +241,8 @@ std::uint32_t CModuleXMLResReader::setDevXMLConfig(xercesc::XercesDOMParser* pDO
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
                        "DeviceType name is already taken by another file :" + m_strName);
     return DC_RESULT_OK;
+}
+catch (...)
+{
+    return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }

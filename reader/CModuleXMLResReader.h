@@ -3,13 +3,14 @@
 // Used once, by the start-up load, under the database's mutex; takes no lock
 // itself: a reader, its map and a parser handed in belong to one thread. The map
 // is the caller's. A bad file or folder is logged and costs
-// nothing else.
+// nothing else; one that memory runs out over, or a platform call that throws, is a
+// bad one (DC_RESULT_XML_ERROR).
 #ifndef OPERATIONXML_READER_CMODULEXMLRESREADER_H
 #define OPERATIONXML_READER_CMODULEXMLRESREADER_H
 
-#include "common/XmlParser.h"
 #include "platform/Export.h"
 #include "reader/ConfigOrigin.h"
+#include "reader/DocumentSource.h"
 #include "records/ModuleRecords.h"
 
 #include <cstdint>
@@ -17,6 +18,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+struct LocationInfo;
 
 class OPERATIONXML_API CModuleXMLResReader
 {
@@ -40,12 +43,22 @@ public:
     // Every file met so far, and what came of it.
     const std::vector<StModuleLoad>& files() const { return m_lstFile; }
 
+    // Every folder and entry so far that could not be looked into.
+    const std::vector<StReadProblem>& problems() const { return m_lstProblem; }
+
+    // As CDevTypeXMLResReader::readFrom.
+    void readFrom(CDocumentSource& oSource) { m_pSource = &oSource; }
+
 private:
-    bool isFirstVisit(const std::string& strFolder);
+    std::uint32_t initialize(const std::string& strPath, std::shared_ptr<CXmlParser>& pXmlParser);
+    void          readEntry(const LocationInfo& stWhere, const std::string& strFilePath, ModuleInfoMap& mapModule);
+    bool          isFirstVisit(const std::string& strFolder);
 
     std::set<std::pair<unsigned long, unsigned long>> m_setFolder; // device and inode of every folder entered
     std::vector<StModuleLoad>                         m_lstFile;
+    std::vector<StReadProblem>                        m_lstProblem;
     std::string                                       m_strName; // of the file being read
+    CDocumentSource*                                  m_pSource = &CDocumentSource::plain();
 };
 
 #endif

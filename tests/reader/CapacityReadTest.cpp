@@ -41,8 +41,11 @@ protected:
     // Reads the type; "1,2: Save,Backup;" of each record.
     std::string read(std::uint32_t ulResult = 0)
     {
-        COwnedRecords oRead;
-        EXPECT_EQ(ulResult, CDevTypeXMLResReader("C", "V", true).readDevTypeVerXMLFile(oRead.lstInfo));
+        COwnedRecords        oRead;
+        CDevTypeXMLResReader oReader("C", "V", true);
+        EXPECT_EQ(ulResult, oReader.readDevTypeVerXMLFile(oRead.lstInfo));
+        m_stOrigin = oReader.origin();
+        EXPECT_EQ(!oRead.lstInfo.empty(), m_stOrigin.enSource == EnConfigSource::Capacity);
         std::string strText;
         for (const StAsnDevTypeVerXMLInfo* pInfo : oRead.lstInfo)
         {
@@ -53,10 +56,35 @@ protected:
         }
         return strText;
     }
+
+    // What the last read says of itself: "1 narrowed;2 failed FILE: problem;" and the type's own problem.
+    std::string report() const
+    {
+        const char* OUTCOMES[] = {"narrowed", "full", "not narrowed", "no record", "failed"};
+        std::string strText;
+        for (const StVersionLoad& stLoad : m_stOrigin.lstVersion)
+        {
+            const char* pszOutcome = OUTCOMES[static_cast<int>(stLoad.enOutcome)];
+            EXPECT_EQ(stLoad.isFailed(), stLoad.stProblem.isSet());
+            strText += stLoad.strSoftVersion + " " + pszOutcome + problem(stLoad.stProblem) + ";";
+        }
+        return strText + problem(m_stOrigin.stProblem);
+    }
+
+    std::string problem(const StReadProblem& stProblem) const
+    {
+        const std::string strText = problemWithFile(stProblem);
+        const bool        bFile   = strText.rfind(m_oRoot.configFolder(), 0) == 0;
+        return (strText.empty() ? "" : " ") + (bFile ? strText.substr(m_oRoot.configFolder().size()) : strText);
+    }
+
+    StConfigOrigin m_stOrigin;
 };
 
 TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
 {
+    const std::string COMMON   = "Common_ServerConfiguration.xml";
+    const std::string DOCUMENT = "C_2_ServerConfiguration.xml";
     const std::string LEFT_OUT = " [DCServer]Version is left out, DeviceType:C, SoftVersion:2, PatchVersion:\n";
     const std::string MISSING_DOCUMENT =
         "E 3B0004EC [DCServer]Server config File :ROOT/common/dc/conf/dc/devtype_xmlconf/C_2_ServerConfiguration.xml "
@@ -73,6 +101,8 @@ TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
         "m_pXmlParser, pAsnDevTypeVerXMLInfo)\n"
         "E 3B0004EE [DCServer]CCapacityXMLConfig::parseCapacityXML failed\nE 3B0004EE" +
         LEFT_OUT;
+    const std::string NO_ENTRY =
+        "E 3B0004EE [DCServer]No capacity entry for sysoid :1.2, DeviceType:C, SoftVersion:2, PatchVersion:\n";
     const std::string NO_RECORD =
         "I [DCServer]Version has no capacity record, DeviceType:C, SoftVersion:2, PatchVersion:\n"
         "E 3B000D21 [DCServer] The capacity XML file is not exist for DeviceType:C\n";
@@ -83,19 +113,37 @@ TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
         const char*   pszCapacity;
         const char*   pszSaveDenied; // versions with a document that denies "Save"
         const char*   pszBackupDenied;
-        const char*   pszTorn;
+        std::string   strTorn; // a file
         std::uint32_t ulResult;
         const char*   pszRead;
+        const char*   pszReport;
         std::string   strLog;
     } CASES[] = {
-        {"two configurations", "5 4 3 2 1", "1 2 3 4 5", "531", "42", "", 0, "5,3,1, Backup;4,2, Save;", ""},
-        {"full configuration", "1 2 3", "3* 2 1*", "2", "", "", 0, "1,3, Save,Full;2, Backup;", ""},
-        {"document missing", "1 2 3", "1 2 3", "13", "", "", 0, "1,3, Backup;", MISSING_DOCUMENT},
-        {"document broken", "1 2 3", "1 2 3", "13", "", "2", 0, "1,3, Backup;", BROKEN_DOCUMENT},
-        {"no capacity record", "1 2", "1", "12", "", "", 0, "1, Backup;", NO_RECORD},
-        {"no version readable", "2", "2", "", "", "", 0x3B0F0001, "", MISSING_DOCUMENT},
-        {"nothing to offer", "2", "", "2", "", "", 0, "", NO_RECORD},
-        {"no version in service", "", "1", "1", "", "", 0, " Save,Full;", ""},
+        {"two configurations", "5 4 3 2 1", "1 2 3 4 5", "531", "42", "", 0, "5,3,1, Backup;4,2, Save;",
+         "5 narrowed;4 narrowed;3 narrowed;2 narrowed;1 narrowed;", ""},
+        {"full configuration", "1 2 3", "3* 2 1*", "2", "", "", 0, "1,3, Save,Full;2, Backup;",
+         "1 full;2 narrowed;3 full;", ""},
+        {"document missing", "1 2 3", "1 2 3", "13", "", "", 0, "1,3, Backup;",
+         "1 narrowed;2 failed C_2_ServerConfiguration.xml: the file is not there;3 narrowed;", MISSING_DOCUMENT},
+        {"document broken", "1 2 3", "1 2 3", "13", "", DOCUMENT, 0, "1,3, Backup;",
+         "1 narrowed;2 failed C_2_ServerConfiguration.xml: line 1, column 4: input ended before all started tags were "
+         "ended; last tag started is 'C';3 narrowed;",
+         BROKEN_DOCUMENT},
+        {"entry missing", "1 2", "1 2", "1", "", "", 0, "1, Backup;2, Save,Backup;",
+         "1 narrowed;2 not narrowed C_2_ServerConfiguration.xml: no entry for sysoid \"1.2\";", NO_ENTRY},
+        {"common file broken", "1 2", "1* 2", "2", "", COMMON, 0, "1, Save,Full;",
+         "1 full;2 failed Common_ServerConfiguration.xml: line 1, column 4: input ended before all started tags were "
+         "ended; last tag started is 'C';",
+         BROKEN_DOCUMENT},
+        {"no capacity record", "1 2", "1", "12", "", "", 0, "1, Backup;",
+         "1 narrowed;2 no record the version has no capacity record;", NO_RECORD},
+        {"no version readable", "2", "2", "", "", "", 0x3B0F0001, "",
+         "2 failed C_2_ServerConfiguration.xml: the file is not there; C_2_ServerConfiguration.xml: the file is not "
+         "there",
+         MISSING_DOCUMENT},
+        {"nothing to offer", "2", "", "2", "", "", 0, "",
+         "2 no record the version has no capacity record; no version in service has a capacity record", NO_RECORD},
+        {"no version in service", "", "1", "1", "", "", 0, " Save,Full;", "", ""},
     };
     for (const auto& stCase : CASES)
     {
@@ -107,37 +155,16 @@ TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
             writeCapacity(cVersion, "Save");
         for (const char cVersion : std::string(stCase.pszBackupDenied))
             writeCapacity(cVersion, "Backup");
-        for (const char cVersion : std::string(stCase.pszTorn))
-            m_oRoot.writeConfig(fmt::format("C_{}_ServerConfiguration.xml", cVersion), "<C>");
+        if (stCase.strLog == NO_ENTRY)
+            writeCapacity('2', "Save", "1.2.3");
+        if (!stCase.strTorn.empty())
+            m_oRoot.writeConfig(stCase.strTorn, "<C>");
         EXPECT_EQ(stCase.pszRead, read(stCase.ulResult));
+        EXPECT_EQ(stCase.pszReport, report());
         EXPECT_EQ(stCase.strLog, logText());
     }
-}
-
-TEST_F(CCapacityTest, VersionWithoutAnEntryKeepsTheWholeConfiguration)
-{
-    openCapacity("1 2", "1 2");
-    writeCapacity('1', "Save", "1.2.3");
-    writeCapacity('2', "Save");
-    EXPECT_EQ("1, Save,Backup;2, Backup;", read());
-    EXPECT_EQ("E 3B0004EE [DCServer]No capacity entry for sysoid :1.2, DeviceType:C, SoftVersion:1, PatchVersion:\n",
-              logText());
-}
-
-TEST_F(CCapacityTest, CommonFileServesWhereThereIsNoVersionInformation)
-{
     openCapacity("", "", "UPDATE device_type SET config_file_type = 1;");
-    EXPECT_EQ(" Save,Backup;", read());
-}
-
-// The record that the common file could not fill is destroyed under the reader.
-TEST_F(CCapacityTest, BrokenCommonFileCostsTheVersionsThatNeedIt)
-{
-    openCapacity("1 2", "1 2*");
-    writeCapacity('1', "Save");
-    m_oRoot.writeConfig("Common_ServerConfiguration.xml", "<C>");
-    EXPECT_EQ("2, Save,Full;", read());
-    EXPECT_EQ("E 3B0004EE [DCServer]Version is left out, DeviceType:C, SoftVersion:1, PatchVersion:", log().back());
+    EXPECT_EQ(" Save,Backup;", read()); // the common file serves where there is no version information
 }
 
 TEST_F(CCapacityTest, EveryDeviceOfAVersionWithoutARecordRaisesTheEvent)
@@ -160,17 +187,18 @@ TEST_F(CCapacityTest, EveryDeviceOfAVersionWithoutARecordRaisesTheEvent)
 
 TEST_F(CCapacityTest, FailingPlatformCallsAreNamed)
 {
-    openCapacity("2", "2");
-    writeCapacity('2', "Save");
+    openCapacity("2", "");
     const struct
     {
         const char*   pszCall;
         std::uint32_t ulResult;
         const char*   pszLog;
     } CASES[] = {
-        {"CDCCapacityManagerDB::readCapacity", DC_RESULT_FILE_NOT_EXIST,
-         "E 3B000D21 [DCServer]readCapacity failed\n"
+        {"CDCCapacityManagerDB::readCapacity", DC_RESULT_FILE_NOT_EXIST, "E 3B000D21 [DCServer]readCapacity failed\n"},
+        {"CDCDeviceInfoDB::getDevInfo", 0, // asked for the version without a record
          "I [DCServer]Version has no capacity record, DeviceType:C, SoftVersion:2, PatchVersion:\n"
+         "E 00000007 Call Function return Error:CDCDeviceInfoDB::getDevInfo(m_strDevType, m_strDevTypeVer, "
+         "stAsnDevVersion, lstDeviceInfo)\n"
          "E 3B000D21 [DCServer] The capacity XML file is not exist for DeviceType:C\n"},
         {"CDeviceAdapterInterface::searchDeviceType", 7,
          "E 00000007 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
@@ -198,13 +226,14 @@ TEST_F(CCapacityTest, DocumentsCanBeReadAlone)
     EXPECT_EQ(0u, oCapacity.parseCapacityXML("1.2", strFile));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oCapacity.parseCapacityXML("1.20", strFile));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oCapacity.parseCapacityXML("1.2", m_oRoot.configFolder()));
-    EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, oCapacity.parseCapacityXML("1.2", strFile + "x"));
     clearLog();
+    EXPECT_EQ(DC_RESULT_FILE_NOT_EXIST, oCapacity.parseCapacityXML("1.2", "/none.xml"));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oCapacity.parseCapacityXML("1.2", nullptr, pInfo));
     EXPECT_EQ(DC_RESULT_INVALID_PARA, oCapacity.parseCapacityXML("1.2", pNoDocument.get(), pNone));
     EXPECT_EQ(DC_RESULT_XML_ERROR, oCapacity.parseCapacityXML("1.2", pNoDocument.get(), pInfo));
     oCapacity.combineXMLInfo(nullptr, {});
-    EXPECT_EQ("E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL:\n"
+    EXPECT_EQ("E 3B0004EC [DCServer]Server config File :/none.xml not exist.\n"
+              "E 3B0004EE [DCServer]DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL:\n"
               "E 3B0004EC [DCServer]Pointer is  NULL\n"
               "E 3B0004EE [DCServer]XercesDOMParser::getDocument failed :\n",
               logText());

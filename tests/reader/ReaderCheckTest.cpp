@@ -3,6 +3,25 @@
 #include "reader/CDevTypeXMLResReader.h"
 #include "records/ResultCodes.h"
 
+#include <dlfcn.h>
+
+namespace
+{
+std::uint32_t g_ulCheckFileResult = 0; // what the adapter answers with the path of a check file
+}
+
+// In place of the stand-alone adapter's, which answers a code or a path, never both.
+std::uint32_t CDeviceAdapterInterface::getCheckFileAndType(const std::string& strDevType, std::string& strFilePath,
+                                                           EnCheckReportType& enReportType)
+{
+    using Original = std::uint32_t (*)(CDeviceAdapterInterface*, const std::string&, std::string&, EnCheckReportType&);
+    static const auto s_fnOriginal = reinterpret_cast<Original>(
+        ::dlsym(RTLD_NEXT, "_ZN23CDeviceAdapterInterface19getCheckFileAndTypeERKNSt7__cxx1112basic_stringIcSt11char_"
+                           "traitsIcESaIcEEERS5_R17EnCheckReportType"));
+    const std::uint32_t ulResult = s_fnOriginal(this, strDevType, strFilePath, enReportType);
+    return g_ulCheckFileResult != 0 ? g_ulCheckFileResult : ulResult;
+}
+
 namespace
 {
 TEST_F(CServerTest, ChecksComeFromTheFirstSourceThatApplies)
@@ -45,6 +64,20 @@ TEST_F(CServerTest, ChecksComeFromTheFirstSourceThatApplies)
         }
     }
     EXPECT_EQ("", logText());
+}
+
+// A failing adapter that names a file all the same: the file counts.
+TEST_F(CServerTest, FailingAdapterDoesNotHideTheFileThatItNames)
+{
+    m_oRoot.writeConfig("A.xml", "<C><CheckOperations><Operation id='Own'/></CheckOperations></C>");
+    m_oRoot.write("check.xml", "<C><DeviceType><TaskType><PreCheck/></TaskType></DeviceType></C>");
+    open("INSERT INTO check_file VALUES ('A', 'check.xml', 1);");
+    std::list<StAsnCheckOperationDef> lstCheck;
+    g_ulCheckFileResult = 7;
+    EXPECT_EQ(7u, CDevTypeXMLResReader("A", "V1", false).initializeCheck());
+    EXPECT_EQ(0u, CDevTypeXMLResReader("A", "V1", false).getCheckOperFromXml(&lstCheck));
+    g_ulCheckFileResult = 0;
+    EXPECT_EQ("PreCheck", ids(lstCheck));
 }
 
 TEST_F(CServerTest, AdapterFailuresBeforeTheCheckFileAreLogged)

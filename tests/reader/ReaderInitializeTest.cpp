@@ -1,7 +1,10 @@
-// Which file a device type is read from, and what is said when there is none.
+// Which file a device type is read from, what is said when there is none, and that
+// the plan names what a read takes.
 #include "ServerFixture.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "records/ResultCodes.h"
+
+#include <set>
 
 namespace
 {
@@ -41,8 +44,8 @@ TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
         {"common", ON_COMMON, "own.xml Common_ServerConfiguration.xml", "", "", true, 0, From::CommonFile, COMMON, ""},
         {"before versions", ON_COMMON, COMMON + " " + VERSION, "S+", "P", true, 0, From::CommonFile, COMMON, ""},
         {"common not asked for", ON_COMMON, "own.xml", "", "", false, 0, From::OwnFile, "own.xml", ""},
-        {"of a version", "", VERSION, "S+", "P", false, 0, From::OwnFile, VERSION, ""},
-        {"of a patch alone", "", PATCH, "", "P", false, 0, From::OwnFile, PATCH, ""},
+        {"of a version", "", VERSION, "S+", "P", false, 0, From::CapacityDocument, VERSION, ""},
+        {"of a patch alone", "", PATCH, "", "P", false, 0, From::CapacityDocument, PATCH, ""},
         {"twin", TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml", missing("own.xml")},
         {"of a common type", ON_COMMON + TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml",
          missing(COMMON)},
@@ -70,6 +73,82 @@ TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
         EXPECT_EQ(stCase.enSource, oReader.origin().enSource);
         EXPECT_THAT(oReader.origin().strFile, testing::EndsWith(stCase.strFile));
         EXPECT_EQ(stCase.strLog, logText());
+    }
+}
+
+// Notes what is asked for, and hands over documents that somebody else parsed.
+class CNotingSource : public CDocumentSource
+{
+public:
+    void parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser) override
+    {
+        setFile.insert(strFile);
+        pParser = CXmlParser::create();
+        pParser->parseText(strDocument);
+    }
+
+    std::set<std::string> setFile;
+    std::string           strDocument;
+};
+
+TEST_F(CServerTest, ThePlanNamesTheFilesOfARead)
+{
+    const std::string RECORDS = "INSERT INTO version_in_service (device_type, device_type_version, soft_version) "
+                                "VALUES ('X 1', 'V', '1'), ('X 1', 'V', '2'), ('X 1', 'V', '3');"
+                                "INSERT INTO capacity (device_type, device_type_version, soft_version, full_config) "
+                                "VALUES ('X 1', 'V', '1', 0), ('X 1', 'V', '3', 1);";
+    const std::string FIXED   = "INSERT INTO config_item VALUES ('DC', 'FIXED_CHECK_ITEM', 1);";
+    const std::string CHECK   = "INSERT INTO check_file VALUES ('X 1', 'check.xml', 1);";
+    const struct
+    {
+        std::string strSql;
+        bool        bCapacity;
+        const char* pszFiles; // their names, in the order of the plan
+    } CASES[] = {
+        {"", false, "own.xml"},
+        {ON_COMMON + FIXED, false, "Common_ServerConfiguration.xml X 1.xml"},
+        {TWIN + "UPDATE config_file SET path = 'none.xml' WHERE device_type = 'X 1';" + CHECK + FIXED, false,
+         "twin.xml check.xml"},
+        {RECORDS + CHECK, true, "Common_ServerConfiguration.xml check.xml X_1_1_ServerConfiguration.xml own.xml"},
+        {ON_COMMON, true, "Common_ServerConfiguration.xml"},
+    };
+    m_oRoot.write("xml/access_snmp/fixedcheck/X 1.xml", "");
+    for (const char* pszFile :
+         {"own.xml", "twin.xml", "Common_ServerConfiguration.xml", "X_1_1_ServerConfiguration.xml"})
+        m_oRoot.writeConfig(pszFile, ""); // whatever they hold: the documents come from the source
+    for (const auto& stCase : CASES)
+    {
+        SCOPED_TRACE(stCase.strSql);
+        m_oRoot.open("INSERT INTO device_type (name, version) VALUES ('X 1', 'V');"
+                     "INSERT INTO config_file VALUES ('X 1', '" +
+                     FOLDER + "own.xml');" + stCase.strSql);
+        clearLog();
+        const StConfigPlan         stPlan     = makeConfigPlan("X 1", "V", stCase.bCapacity);
+        std::vector<StPlannedFile> lstPlanned = {stPlan.stConfig, stPlan.stCheck, stPlan.stFixedCheck};
+        for (const StVersionPlan& stVersion : stPlan.lstVersion)
+            lstPlanned.push_back(stVersion.stFile);
+        std::set<std::string> setPlanned;
+        std::string           strFiles;
+        for (const StPlannedFile& stFile : lstPlanned)
+        {
+            if (!stFile.isFound())
+                continue;
+            setPlanned.insert(stFile.strFile);
+            strFiles += (strFiles.empty() ? "" : " ") + std::filesystem::path(stFile.strFile).filename().string();
+        }
+        EXPECT_EQ(stCase.pszFiles, strFiles);
+        EXPECT_EQ("", logText());
+
+        CNotingSource oSource;
+        oSource.strDocument =
+            "<C><upgradecapacity sysoid=''/><DeviceOperation><Operation id='Save'/></DeviceOperation></C>";
+        CDevTypeXMLResReader oReader("X 1", "V", stCase.bCapacity);
+        oReader.readFrom(oSource);
+        oReader.initializeCheck();
+        COwnedRecords oRead;
+        EXPECT_EQ(0u, oReader.readDevTypeVerXMLFile(oRead.lstInfo));
+        EXPECT_EQ(setPlanned, oSource.setFile);
+        EXPECT_EQ("Save", ids(oRead.lstInfo.front()->stOperationConfig.lstDevOperation));
     }
 }
 } // namespace

@@ -33,30 +33,42 @@ TEST_F(ReaderRecordTest, ReadsOneRecordUnderTheReadersNames)
 }
 
 // A failing section ends the read: nothing is handed out and nothing after it is
-// read. The check file fails between the sections of the configuration file.
+// read. The check file fails between the sections of the configuration file, and
+// is the one that is named.
 TEST_F(ReaderRecordTest, FailingSectionLeavesNoRecord)
 {
+    const std::string GOOD = deviceFile({"Save"});
+    const std::string DEVICE =
+        "E 3B0004EE CDevOpXMLConfig::setDevOperXMLConfig [DCServer]XercesDOMParser::getDocument failed :";
+    const std::string CHECK =
+        "E 3B0004EE CCheckOpXMLConfig::setCheckOpConfigurationTelnet [DCServer]XercesDOMParser::getDocument failed.";
     const struct
     {
-        const char* pszConfig;
-        const char* pszCheckFile;
+        std::string strConfig;
+        const char* pszCheckFile; // null: not there
         std::string strLine;
+        const char* pszProblem;
     } CASES[] = {
-        {"<C><DeviceOperation>", "<C/>",
-         "E 3B0004EE CDevOpXMLConfig::setDevOperXMLConfig [DCServer]XercesDOMParser::getDocument failed :"},
-        {"<C><DeviceOperation><Operation/></DeviceOperation></C>", "",
-         "E 3B0004EE CCheckOpXMLConfig::setCheckOpConfigurationTelnet [DCServer]XercesDOMParser::getDocument failed."},
+        {"<C><DeviceOperation>", "<C/>", DEVICE, "A.xml: line 1, column 21: input ended"},
+        {"<C>", "<C>", DEVICE, "A.xml: line 1, column 4: input ended"},
+        {GOOD, "<C>\n <D>", CHECK, "check.xml: line 2, column 5: input ended"},
+        {GOOD, nullptr, CHECK, "check.xml: No such file or directory"},
     };
     open("INSERT INTO check_file VALUES ('A', 'check.xml', 1);");
     for (const auto& stCase : CASES)
     {
         clearLog();
-        m_oRoot.writeConfig("A.xml", stCase.pszConfig);
-        m_oRoot.write("check.xml", stCase.pszCheckFile);
+        m_oRoot.writeConfig("A.xml", stCase.strConfig);
+        if (stCase.pszCheckFile != nullptr)
+            m_oRoot.write("check.xml", stCase.pszCheckFile);
+        else
+            std::filesystem::remove(m_oRoot.path() + "/check.xml");
         EXPECT_EQ(0u, m_oReader.initializeCheck());
         std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
         EXPECT_EQ(DC_RESULT_XML_ERROR, m_oReader.readDevTypeVerXMLFile(lstInfo));
         EXPECT_THAT(lstInfo, testing::IsEmpty());
+        EXPECT_THAT(problemWithFile(m_oReader.origin().stProblem),
+                    testing::HasSubstr("/" + std::string(stCase.pszProblem)));
         auto* pInfo = new StAsnDevTypeVerXMLInfo; // the reader's from here on
         EXPECT_EQ(DC_RESULT_XML_ERROR, m_oReader.parseNormalXML(pInfo));
         EXPECT_EQ(nullptr, pInfo);

@@ -80,8 +80,8 @@ bool isRegistered(const StModules& stModules, const std::string& strType)
 // Why a file is no module, in words.
 std::string moduleFailure(const StModules& stModules, const StModuleLoad& stLoad)
 {
-    if (!stLoad.strProblem.empty())
-        return stLoad.strProblem;
+    if (stLoad.stProblem.isSet())
+        return problemText(stLoad.stProblem);
     for (const StModuleLoad& stOther : stModules.stReport.lstModule)
     {
         if (&stOther == &stLoad)

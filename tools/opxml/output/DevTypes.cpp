@@ -46,6 +46,9 @@ std::string sourceText(EnConfigSource enSource)
     case EnConfigSource::Capacity:
         return "capacity";
     case EnConfigSource::None:
+    case EnConfigSource::CapacityDocument: // these three are never where a whole type comes from
+    case EnConfigSource::CheckFile:
+    case EnConfigSource::FixedCheckFile:
         break;
     }
     return "none";
@@ -53,12 +56,12 @@ std::string sourceText(EnConfigSource enSource)
 
 std::string failureText(const StDevTypeLoad& stLoad)
 {
-    std::string strText = "failed: ";
-    if (!stLoad.stOrigin.strFile.empty())
-        strText += shortPath(stLoad.stOrigin.strFile) + ": ";
-    if (!stLoad.stOrigin.strProblem.empty())
-        return strText + stLoad.stOrigin.strProblem;
-    return strText + "result " + resultText(stLoad.ulResult);
+    const StReadProblem& stProblem = stLoad.stOrigin.stProblem;
+    const std::string&   strFile   = stProblem.strFile.empty() ? stLoad.stOrigin.strFile : stProblem.strFile;
+    std::string          strText   = "failed: ";
+    if (!strFile.empty())
+        strText += shortPath(strFile) + ": ";
+    return strText + (stProblem.isSet() ? problemText(stProblem) : "result " + resultText(stLoad.ulResult));
 }
 
 std::string shortPath(const std::string& strPath)

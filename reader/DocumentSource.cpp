@@ -1,0 +1,16 @@
+// See DocumentSource.h.
+#include "reader/DocumentSource.h"
+
+void CDocumentSource::parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser)
+{
+    if (pParser == nullptr || pParser.use_count() > 1)
+        pParser = CXmlParser::create();
+    if (pParser != nullptr)
+        pParser->parseFile(strFile);
+}
+
+CDocumentSource& CDocumentSource::plain()
+{
+    static CDocumentSource s_oSource; // without state: any number of readers may use it at once
+    return s_oSource;
+}
