@@ -6,6 +6,7 @@
 
 #include <xercesc/util/Janitor.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/TransService.hpp>
 
 #include <algorithm>
@@ -128,7 +129,9 @@ std::string toLocal(const XMLCh* pszText)
 
 std::u16string fromLocal(const std::string& strText)
 {
-    const ArrayJanitor<XMLCh> oXml(XMLString::transcode(strText.c_str()));
+    // Given back to the memory manager that it came from.
+    MemoryManager* const      pMemory = XMLPlatformUtils::fgMemoryManager;
+    const ArrayJanitor<XMLCh> oXml(XMLString::transcode(strText.c_str(), pMemory), pMemory);
     return oXml.get() == nullptr ? u"" : oXml.get();
 }
 
