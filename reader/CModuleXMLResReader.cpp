@@ -80,6 +80,17 @@ private:
     int  m_nErrno;
 };
 
+// The file that has given a module its name.
+std::string fileOf(const std::vector<StModuleLoad>& lstFile, const std::string& strName)
+{
+    for (const StModuleLoad& stLoad : lstFile)
+    {
+        if (stLoad.ulResult == DC_RESULT_OK && stLoad.strName == strName)
+            return stLoad.strFile;
+    }
+    return "another file"; // read by somebody else into the same map
+}
+
 // Every naming merges the whole module once more, so a small file could fill the
 // memory. The name that passes the limit, or null.
 const std::string* findNamedTooOften(const std::list<std::string>& lstDevType)
@@ -171,6 +182,7 @@ try
     stLoad.strFile              = strPath;
     stLoad.ulResult             = DC_RESULT_XML_ERROR; // unless it is read to the end
     m_strName.clear();
+    m_strWhy.clear();
     std::shared_ptr<CXmlParser> pXmlParser;
     std::uint32_t               ulResult = initialize(strPath, pXmlParser);
     if (ulResult != DC_RESULT_OK)
@@ -181,6 +193,8 @@ try
     stLoad.ulResult = ulResult;
     if (pXmlParser != nullptr)
         stLoad.stProblem = pXmlParser->problem();
+    if (!stLoad.stProblem.isSet() && !m_strWhy.empty())
+        stLoad.stProblem = {strPath, 0, 0, m_strWhy};
     return ulResult;
 }
 catch (...)
@@ -228,8 +242,11 @@ try
     if (ulResult != DC_RESULT_OK)
         return ulResult;
     if (const std::string* pNamedTooOften = findNamedTooOften(stModule.lstSupportDevType))
+    {
+        m_strWhy = "device type \"" + *pNamedTooOften + "\" is named too many times";
         return logFail(DC_HERE, DC_RESULT_XML_ERROR,
                        "DeviceType is named too many times by one file :" + *pNamedTooOften);
+    }
     const StSectionLists stLists = {stModule.stOperationConfig, stModule.stViewConfig,
                                     stModule.lstTaskConfigInfoOperation, false};
     ulResult                     = runSectionChain(pDOMParser, stLists,
@@ -238,8 +255,11 @@ try
     if (ulResult != DC_RESULT_OK)
         return ulResult;
     if (!mapModule.emplace(m_strName, std::move(stModule)).second)
+    {
+        m_strWhy = "its name \"" + m_strName + "\" is taken by " + fileOf(m_lstFile, m_strName) + ", which is kept";
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA,
                        "DeviceType name is already taken by another file :" + m_strName);
+    }
     return DC_RESULT_OK;
 }
 catch (...)

@@ -58,6 +58,7 @@ private:
     std::vector<StModuleLoad>                         m_lstFile;
     std::vector<StReadProblem>                        m_lstProblem;
     std::string                                       m_strName; // of the file being read
+    std::string                                       m_strWhy;  // why its records are not taken
     CDocumentSource*                                  m_pSource = &CDocumentSource::plain();
 };
 

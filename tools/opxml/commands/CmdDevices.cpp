@@ -3,6 +3,7 @@
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/commands/Devices.h"
+#include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Progress.h"
 #include "tools/opxml/output/RecordJson.h"
@@ -28,6 +29,11 @@ bool isNamed(const StServedDevice& stDevice, const std::string& strWord)
            mentions(stDevice.stInfo.strIPAddress, strWord) || mentions(stDevice.strDevType, strWord);
 }
 
+std::string softwareOf(const StServedDevice& stDevice)
+{
+    return versionText(stDevice.stVersion.strSoftVersion, stDevice.stVersion.strPatchVersion);
+}
+
 std::string devicesTable(const std::vector<StServedDevice>& lstDevice)
 {
     CTable oTable({{"ID"},
@@ -46,7 +52,7 @@ std::string devicesTable(const std::vector<StServedDevice>& lstDevice)
                                             stDevice.stInfo.strIPAddress,
                                             stDevice.strDevType,
                                             stDevice.strDevTypeVer,
-                                            versionText(stDevice.stVersion),
+                                            softwareOf(stDevice),
                                             stDevice.bTelnet ? "yes" : "no"};
         if (!stDevice.strProblem.empty())
         {
@@ -55,7 +61,7 @@ std::string devicesTable(const std::vector<StServedDevice>& lstDevice)
             continue;
         }
         lstCell.push_back(stDevice.strKey);
-        lstCell.push_back(stDevice.strSource + (stDevice.bByVersion ? " of " + versionText(stDevice.stVersion) : ""));
+        lstCell.push_back(stDevice.strSource + (stDevice.bByVersion ? " of " + softwareOf(stDevice) : ""));
         oTable.addRow(lstCell);
     }
     return oTable.text();

@@ -64,7 +64,8 @@ int runDump(const StGlobalOptions& stOptions, const std::vector<std::string>& ls
     {
         print(pszBefore + jsonLine(Json(stStored.strKey)) + ": " + jsonText(toJson(stStored.lstInfo), 2));
         pszBefore = ",\n  ";
-        setKey.erase(stStored.strKey);
+        if (!stStored.lstInfo.empty())
+            setKey.erase(stStored.strKey);
     }
     print(*pszBefore == '{' ? "{}\n" : "\n}\n");
     for (const std::string& strKey : setKey)

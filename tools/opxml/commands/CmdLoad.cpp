@@ -3,11 +3,13 @@
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
+#include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Progress.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Sections.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <fmt/format.h>
 
@@ -41,15 +43,81 @@ struct StSummary
     double speed() const { return dSeconds > 0 ? dMegabyte / dSeconds : 0; }
 };
 
+// One thing that failed: a registry entry, or a version of one that has others.
+struct StFailure
+{
+    std::string strText;   // what, which file, why
+    std::string strWhat;   // "LX 2400/S V3.8"
+    std::string strReason; // without the file and the place in it
+};
+
+std::vector<StFailure> gatherFailures(const StLoadReport& stReport)
+{
+    std::vector<StFailure> lstFailure;
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        const std::string    strWhat   = stLoad.strDevType + " " + stLoad.strDevTypeVer;
+        const StReadProblem& stProblem = stLoad.stOrigin.stProblem;
+        if (!stLoad.isConfigured())
+        {
+            const std::string strReason =
+                stProblem.isSet() ? stProblem.strText : "result " + resultText(stLoad.ulResult);
+            lstFailure.push_back({strWhat + " " + failureText(stLoad), strWhat, strReason});
+            continue;
+        }
+        for (const StVersionLoad& stVersion : failedVersions(stLoad))
+            lstFailure.push_back({strWhat + " " + versionFailureText(stVersion),
+                                  strWhat + " " + versionText(stVersion.strSoftVersion, stVersion.strPatchVersion),
+                                  stVersion.stProblem.strText});
+    }
+    return lstFailure;
+}
+
+// The failures once more behind a long table: each of them, or by their reasons
+// where nobody would read them all.
+std::string failuresText(const std::vector<StFailure>& lstFailure)
+{
+    constexpr std::size_t    READABLE = 20;
+    constexpr std::size_t    EXAMPLES = 3;
+    std::vector<std::string> lstText;
+    if (lstFailure.size() <= READABLE)
+    {
+        for (const StFailure& stFailure : lstFailure)
+            lstText.push_back(stFailure.strText);
+    }
+    else
+    {
+        std::map<std::string, std::vector<std::string>> mapWhat; // by reason
+        for (const StFailure& stFailure : lstFailure)
+            mapWhat[stFailure.strReason].push_back(stFailure.strWhat);
+        for (auto& [strReason, lstWhat] : mapWhat)
+        {
+            const std::size_t nAll = lstWhat.size();
+            lstWhat.resize(std::min(nAll, EXAMPLES));
+            lstText.push_back(fmt::format("{} failed: {}: {}{}", nAll, strReason, fmt::join(lstWhat, ", "),
+                                          nAll > EXAMPLES ? ", ..." : ""));
+        }
+    }
+    std::string strLines;
+    for (const std::string& strText : lstText)
+    {
+        for (const std::string& strLine : wrapText(printable(strText), widthOf(stdout), 2))
+            strLines += inRed(strLine) + "\n";
+    }
+    return strLines;
+}
+
 StSummary summarise(const StLoadReport& stReport, double dSeconds)
 {
     StSummary             stSummary;
     std::set<std::string> setFile;
+    stSummary.nFailed = gatherFailures(stReport).size();
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
         ++stSummary.nTypes;
-        stSummary.nFailed += stLoad.ulResult == 0 ? 0 : 1;
         setFile.insert(stLoad.stOrigin.strFile);
+        for (const StVersionLoad& stVersion : stLoad.stOrigin.lstVersion)
+            setFile.insert(stVersion.strFile);
     }
     for (const StModuleLoad& stModule : stReport.lstModule)
         setFile.insert(stModule.strFile);
@@ -73,7 +141,7 @@ std::vector<StRow> makeRows(const StLoadReport& stReport)
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
         lstRow.push_back({&stLoad, {}, 0, "", ""});
-        if (stLoad.ulResult != 0)
+        if (!stLoad.isConfigured())
             continue;
         const auto [itLast, bFirst] = mapLast.emplace(stLoad.strKey, lstRow.size() - 1);
         if (!bFirst)
@@ -93,6 +161,14 @@ std::vector<StRow> makeRows(const StLoadReport& stReport)
     return lstRow;
 }
 
+// The versions of a capacity type that failed, below its row.
+void addVersionRows(CTable& oTable, const StDevTypeLoad& stLoad)
+{
+    for (const StVersionLoad& stVersion : failedVersions(stLoad))
+        oTable.addWideRow({stLoad.strDevType, stLoad.strDevTypeVer, stLoad.strKey, versionFailureText(stVersion)},
+                          true);
+}
+
 std::string tableText(const std::vector<StRow>& lstRow)
 {
     // What is left out first where there is no room: file, key, the last sections.
@@ -105,10 +181,11 @@ std::string tableText(const std::vector<StRow>& lstRow)
     {
         const StDevTypeLoad&     stLoad  = *stRow.pLoad;
         std::vector<std::string> lstCell = {stLoad.strDevType, stLoad.strDevTypeVer, stLoad.strKey};
-        if (stLoad.ulResult != 0)
+        if (!stLoad.isConfigured())
         {
             lstCell.push_back(failureText(stLoad));
             oTable.addWideRow(lstCell, true);
+            addVersionRows(oTable, stLoad);
             continue;
         }
         lstCell.push_back(sourceText(stLoad.stOrigin.enSource) +
@@ -124,6 +201,7 @@ std::string tableText(const std::vector<StRow>& lstRow)
             lstCell.push_back(std::to_string(nCount));
         lstCell.push_back(stRow.strModules);
         oTable.addRow(lstCell);
+        addVersionRows(oTable, stLoad);
     }
     return oTable.text();
 }
@@ -132,6 +210,18 @@ std::string summaryText(const StSummary& stSummary)
 {
     return fmt::format("{} types, {} failed, {} files, {:.1f} MB, {:.3f} s, {:.1f} MB/s\n", stSummary.nTypes,
                        stSummary.nFailed, stSummary.nFiles, stSummary.dMegabyte, stSummary.dSeconds, stSummary.speed());
+}
+
+Json versionJson(const StVersionLoad& stVersion)
+{
+    Json oVersion = {{"softVersion", stVersion.strSoftVersion},
+                     {"patchVersion", stVersion.strPatchVersion},
+                     {"outcome", outcomeText(stVersion.enOutcome)},
+                     {"file", stVersion.strFile},
+                     {"result", stVersion.ulResult}};
+    if (stVersion.isFailed())
+        oVersion["reason"] = versionFailureText(stVersion);
+    return oVersion;
 }
 
 Json rowJson(const StRow& stRow)
@@ -143,7 +233,9 @@ Json rowJson(const StRow& stRow)
                                    {"source", sourceText(stLoad.stOrigin.enSource)},
                                    {"file", stLoad.stOrigin.strFile},
                                    {"result", stLoad.ulResult}};
-    if (stLoad.ulResult != 0)
+    for (const StVersionLoad& stVersion : stLoad.stOrigin.lstVersion)
+        oRow["versions"].push_back(versionJson(stVersion));
+    if (!stLoad.isConfigured())
         oRow["reason"] = failureText(stLoad);
     else if (!stRow.strReplacedBy.empty())
         oRow["replacedBy"] = stRow.strReplacedBy;
@@ -185,7 +277,8 @@ int runLoad(const StGlobalOptions& stOptions, bool bJson)
     const StLoadReport                  stReport  = CXMLConfigDatabase::getInstance()->getLoadReport();
     const StSummary                     stSummary = summarise(stReport, oTook.count());
     const std::vector<StRow>            lstRow    = makeRows(stReport);
-    print(bJson ? loadJson(lstRow, stSummary) : tableText(lstRow) + summaryText(stSummary));
+    print(bJson ? loadJson(lstRow, stSummary)
+                : tableText(lstRow) + failuresText(gatherFailures(stReport)) + summaryText(stSummary));
     if (stReport.lstDevType.empty())
         remark("the inventory has no device types, or they could not be listed");
     return stSummary.nFailed == 0 ? EXIT_YES : EXIT_NO;

@@ -1,8 +1,6 @@
 // opxml modules: the module files, what each adds to which device types, the
 // names that no device type has, and the files and folders that were not read.
 #include "database/CXMLConfigDatabase.h"
-#include "records/ResultCodes.h"
-#include "standalone/LogSink.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
@@ -36,29 +34,24 @@ struct StModules
     std::map<std::string, StModule> mapModule;
     std::vector<std::string>        lstTypeName;      // of the registry
     std::set<std::string>           setLoaded;        // types with a configuration
-    std::vector<std::string>        lstFolderProblem; // log lines of folders that could not be opened
+    std::vector<std::string>        lstFolderProblem; // folders and entries that could not be looked into
 };
 
 StModules loadModules()
 {
-    StModules stModules;
-    standalone::setLogListener(
-        [&stModules](const standalone::StLogLine& stLine)
-        {
-            if (stLine.strText.find("CModuleXMLResReader::parseXMLOfDirs(): open dir failed!") != std::string::npos)
-                stModules.lstFolderProblem.push_back(stLine.strText);
-        });
+    StModules           stModules;
     CXMLConfigDatabase* pDatabase = nullptr;
     {
         const CProgress oProgress;
         pDatabase = CXMLConfigDatabase::getInstance();
     }
-    standalone::setLogListener({});
     stModules.stReport = pDatabase->getLoadReport();
+    for (const StReadProblem& stProblem : stModules.stReport.lstModuleProblem)
+        stModules.lstFolderProblem.push_back(shortPath(stProblem.strFile) + ": " + problemText(stProblem));
     for (const StDevTypeLoad& stLoad : stModules.stReport.lstDevType)
     {
         stModules.lstTypeName.push_back(stLoad.strDevType);
-        if (stLoad.ulResult == 0)
+        if (stLoad.isConfigured())
             stModules.setLoaded.insert(stLoad.strDevType);
     }
     pDatabase->visitModules(
@@ -78,19 +71,9 @@ bool isRegistered(const StModules& stModules, const std::string& strType)
 }
 
 // Why a file is no module, in words.
-std::string moduleFailure(const StModules& stModules, const StModuleLoad& stLoad)
+std::string moduleFailure(const StModuleLoad& stLoad)
 {
-    if (stLoad.stProblem.isSet())
-        return problemText(stLoad.stProblem);
-    for (const StModuleLoad& stOther : stModules.stReport.lstModule)
-    {
-        if (&stOther == &stLoad)
-            break;
-        if (stOther.ulResult == 0 && stOther.strName == stLoad.strName && stLoad.ulResult == DC_RESULT_INVALID_PARA)
-            return fmt::format("its name \"{}\" is taken by {}, which is kept", stLoad.strName,
-                               shortPath(stOther.strFile));
-    }
-    return "result " + resultText(stLoad.ulResult);
+    return stLoad.stProblem.isSet() ? problemText(stLoad.stProblem) : "result " + resultText(stLoad.ulResult);
 }
 
 // "Device operations 1, Check operations 2"; empty when there are none.
@@ -130,7 +113,9 @@ std::string modulesText(const StModules& stModules)
         const std::string strFile = shortPath(stLoad.strFile);
         if (stLoad.ulResult != 0)
         {
-            strText += inRed(printable(strFile + ": failed: " + moduleFailure(stModules, stLoad))) + "\n";
+            const std::string strFailure = printable(strFile + ": failed: " + moduleFailure(stLoad));
+            for (const std::string& strLine : wrapText(strFailure, widthOf(stdout), 2))
+                strText += inRed(strLine) + "\n";
             continue;
         }
         const StModule& stModule = stModules.mapModule.at(stLoad.strName);
@@ -155,7 +140,7 @@ Json moduleJson(const StModules& stModules, const StModuleLoad& stLoad)
     Json oModule = {{"name", stLoad.strName}, {"file", stLoad.strFile}, {"result", stLoad.ulResult}};
     if (stLoad.ulResult != 0)
     {
-        oModule["reason"] = moduleFailure(stModules, stLoad);
+        oModule["reason"] = moduleFailure(stLoad);
         return oModule;
     }
     const StModule& stModule = stModules.mapModule.at(stLoad.strName);

@@ -37,7 +37,7 @@ std::vector<StContribution> contributionsTo(const StLoadReport& stReport, const 
 {
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
-        if (stLoad.strKey == strKey && stLoad.ulResult == 0)
+        if (stLoad.strKey == strKey && stLoad.isConfigured())
             return findContributions(stLoad.strDevType);
     }
     return {};
@@ -91,12 +91,16 @@ void printShown(const std::vector<StShownKey>& lstShown, bool bJson)
         print(jsonText(oJson) + "\n");
 }
 
-// Why a key holds nothing: its registry entries say so.
+// What is not shown, and why: a key without a configuration, single versions.
 void explainMissing(const StLoadReport& stReport, const std::string& strKey)
 {
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
-        if (stLoad.strKey == strKey)
+        if (stLoad.strKey != strKey)
+            continue;
+        for (const StVersionLoad& stVersion : failedVersions(stLoad))
+            remark(fmt::format("{} {} {}", stLoad.strDevType, stLoad.strDevTypeVer, versionFailureText(stVersion)));
+        if (!stLoad.isConfigured())
             remark(fmt::format("{} {} {}", stLoad.strDevType, stLoad.strDevTypeVer, failureText(stLoad)));
     }
 }
@@ -134,7 +138,7 @@ int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
     std::set<std::string> setMissing = setKey;
     for (const StShownKey& stShown : lstShown)
         setMissing.erase(stShown.strKey);
-    for (const std::string& strKey : setMissing)
+    for (const std::string& strKey : setKey)
         explainMissing(stReport, strKey);
     return setMissing.empty() ? EXIT_YES : EXIT_NO;
 }

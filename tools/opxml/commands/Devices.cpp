@@ -40,7 +40,7 @@ KeyStates gatherKeys(const StLoadReport& stReport)
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
         StKeyState& stState = mapState[stLoad.strKey];
-        if (stState.pLoad == nullptr || stLoad.ulResult == 0 || !stState.bHeld)
+        if (stState.pLoad == nullptr || stLoad.isConfigured() || !stState.bHeld)
             stState.pLoad = &stLoad; // the last one that succeeded, else the last
     }
     return mapState;
@@ -90,10 +90,4 @@ std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport)
         findConfiguration(stDevice, mapState);
     }
     return lstDevice;
-}
-
-std::string versionText(const StAsnDevVersion& stVersion)
-{
-    return stVersion.strPatchVersion.empty() ? stVersion.strSoftVersion
-                                             : stVersion.strSoftVersion + " " + stVersion.strPatchVersion;
 }

@@ -26,7 +26,4 @@ struct StServedDevice
 // All of them by id. Loads the database.
 std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport);
 
-// "V4.2 P03", or "" when the inventory does not say.
-std::string versionText(const StAsnDevVersion& stVersion);
-
 #endif

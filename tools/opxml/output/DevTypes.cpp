@@ -54,14 +54,60 @@ std::string sourceText(EnConfigSource enSource)
     return "none";
 }
 
+namespace
+{
+std::string withFile(const std::string& strFile, const StReadProblem& stProblem, std::uint32_t ulResult)
+{
+    const std::string& strNamed = stProblem.strFile.empty() ? strFile : stProblem.strFile;
+    return (strNamed.empty() ? "" : shortPath(strNamed) + ": ") +
+           (stProblem.isSet() ? problemText(stProblem) : "result " + resultText(ulResult));
+}
+} // namespace
+
 std::string failureText(const StDevTypeLoad& stLoad)
 {
-    const StReadProblem& stProblem = stLoad.stOrigin.stProblem;
-    const std::string&   strFile   = stProblem.strFile.empty() ? stLoad.stOrigin.strFile : stProblem.strFile;
-    std::string          strText   = "failed: ";
-    if (!strFile.empty())
-        strText += shortPath(strFile) + ": ";
-    return strText + (stProblem.isSet() ? problemText(stProblem) : "result " + resultText(stLoad.ulResult));
+    return "failed: " + withFile(stLoad.stOrigin.strFile, stLoad.stOrigin.stProblem, stLoad.ulResult);
+}
+
+std::string outcomeText(EnVersionOutcome enOutcome)
+{
+    switch (enOutcome)
+    {
+    case EnVersionOutcome::Narrowed:
+        return "narrowed";
+    case EnVersionOutcome::FullConfiguration:
+        return "full configuration";
+    case EnVersionOutcome::NotNarrowed:
+        return "not narrowed";
+    case EnVersionOutcome::NoCapacityRecord:
+        return "no capacity record";
+    case EnVersionOutcome::Failed:
+        break;
+    }
+    return "failed";
+}
+
+std::string versionFailureText(const StVersionLoad& stVersion)
+{
+    return "version " + versionText(stVersion.strSoftVersion, stVersion.strPatchVersion) +
+           " failed: " + withFile(stVersion.strFile, stVersion.stProblem, stVersion.ulResult);
+}
+
+std::string versionText(const std::string& strSoftVersion, const std::string& strPatchVersion)
+{
+    return strPatchVersion.empty() ? strSoftVersion : strSoftVersion + " " + strPatchVersion;
+}
+
+std::vector<StVersionLoad> failedVersions(const StDevTypeLoad& stLoad)
+{
+    std::vector<StVersionLoad> lstFailed;
+    for (const StVersionLoad& stVersion : stLoad.stOrigin.lstVersion)
+    {
+        const bool bToldByType = !stLoad.isConfigured() && stVersion.enOutcome == EnVersionOutcome::NoCapacityRecord;
+        if (stVersion.isFailed() && !bToldByType)
+            lstFailed.push_back(stVersion);
+    }
+    return lstFailed;
 }
 
 std::string shortPath(const std::string& strPath)

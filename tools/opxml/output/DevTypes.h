@@ -23,8 +23,20 @@ std::string unknownTypeText(const StLoadReport& stReport, const std::string& str
 // Where a configuration came from, in words: "own file", "capacity", ...
 std::string sourceText(EnConfigSource enSource);
 
-// Why an entry was not loaded, in words.
+// Why an entry has no configuration, in words.
 std::string failureText(const StDevTypeLoad& stLoad);
+
+// What became of a capacity type's version, in words: "narrowed", "failed", ...
+std::string outcomeText(EnVersionOutcome enOutcome);
+
+// "version V4.2 P03 failed: FILE: why".
+std::string versionFailureText(const StVersionLoad& stVersion);
+
+// "V4.2 P03".
+std::string versionText(const std::string& strSoftVersion, const std::string& strPatchVersion);
+
+// The failed versions of an entry that its own failure does not tell already.
+std::vector<StVersionLoad> failedVersions(const StDevTypeLoad& stLoad);
 
 // A path below the server root without the root.
 std::string shortPath(const std::string& strPath);
