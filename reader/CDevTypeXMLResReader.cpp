@@ -120,7 +120,6 @@ try
 {
     const _TraceFunction oTrace(DC_HERE);
     const LocationInfo   stWhere = DC_HERE;
-    m_bCheckUnknown              = true; // until the file is parsed
     m_stCheck                    = configSearch::findCheckFile(&stWhere, m_strDevType, m_enReportType);
     if (m_stCheck.isFound())
     {
@@ -133,6 +132,7 @@ try
 }
 catch (...)
 {
+    m_bCheckUnknown = true;
     return logThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 

@@ -6,6 +6,9 @@
 #include "records/ResultCodes.h"
 #include "standalone/EventSink.h"
 
+#include <algorithm>
+#include <set>
+
 namespace
 {
 class CCapacityTest : public CServerTest
@@ -210,6 +213,42 @@ TEST_F(CCapacityTest, FailingPlatformCallsAreNamed)
         const standalone::CFaultPoint oFault(stCase.pszCall, 1, 7);
         EXPECT_EQ("", read(stCase.ulResult));
         EXPECT_EQ(stCase.pszLog, logText());
+    }
+}
+
+// Every platform call of a read throws in turn: what is handed out is as whole as ever.
+TEST_F(CCapacityTest, CallsThatThrowCostNoMoreThanTheirVersions)
+{
+    openCapacity("1 2 3", "1 2*", "INSERT INTO check_file VALUES ('C', 'check.xml', 1);");
+    m_oRoot.write("check.xml", "<C><DeviceType><TaskType><PreCheck/></TaskType></DeviceType></C>");
+    writeCapacity('1', "Save");
+    const auto fnRead = [](std::set<std::string>& setRead)
+    {
+        COwnedRecords        oRead;
+        CDevTypeXMLResReader oReader("C", "V", true);
+        oReader.initializeCheck();
+        const std::uint32_t ulResult = oReader.readDevTypeVerXMLFile(oRead.lstInfo);
+        for (const StAsnDevTypeVerXMLInfo* pInfo : oRead.lstInfo)
+            setRead.insert(pInfo->lstDevVersion.front().strSoftVersion + ids(pInfo->stOperationConfig.lstDevOperation) +
+                           ids(pInfo->stOperationConfig.lstCheckOperation));
+        return ulResult;
+    };
+    std::set<std::string> setWhole;
+    ASSERT_EQ(0u, fnRead(setWhole));
+    ASSERT_EQ((std::set<std::string>{"1BackupPreCheck", "2Save,FullPreCheck"}), setWhole);
+    for (const std::string& strOperation : standalone::CFaultPoint::operations())
+    {
+        bool bMet = true;
+        for (unsigned nCall = 1; bMet; ++nCall)
+        {
+            SCOPED_TRACE(fmt::format("{} {}", strOperation, nCall));
+            const standalone::CFaultPoint oFault(strOperation, nCall, std::make_exception_ptr(std::bad_alloc()));
+            std::set<std::string>         setRead;
+            const std::uint32_t           ulResult = fnRead(setRead);
+            bMet                                   = oFault.calls() >= nCall;
+            EXPECT_EQ(ulResult == 0, !setRead.empty());
+            EXPECT_TRUE(std::includes(setWhole.begin(), setWhole.end(), setRead.begin(), setRead.end()));
+        }
     }
 }
 
