@@ -20,7 +20,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "ConfigSearch.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
-install(FILES common/XmlParser.h common/XmlLimits.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
+install(FILES common/XmlParser.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
 
 # For the editors of those who write the files: docs/editors.md.
 install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/operationXml)

@@ -1,102 +1,42 @@
-// Parsing a file safely: start-up of Xerces, reading the bytes, options, limits,
-// and what is left after a failure.
+// Parsing a file safely: start-up of Xerces, options, limits, the index, and what
+// is left after a failure.
 #include "common/XmlParser.h"
 
-#include "common/XmlRead.h"
+#include "common/FileBytes.h"
+#include "common/XmlLimits.h"
+#include "common/XmlText.h"
 
-#include <xercesc/sax/ErrorHandler.hpp>
+#include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/sax/InputSource.hpp>
-#include <xercesc/sax/SAXParseException.hpp>
+#include <xercesc/sax/Locator.hpp>
+#include <xercesc/sax/SAXException.hpp>
 #include <xercesc/util/BinMemInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
-#include <cerrno>
-#include <fcntl.h>
+#include <algorithm>
 #include <mutex>
 #include <new>
-#include <sys/stat.h>
-#include <system_error>
-#include <time.h>
-#include <unistd.h>
 #include <utility>
 
 using namespace xercesc;
 
 namespace
 {
-// Keeps the place and text of the first fatal error instead of throwing it.
-class CFirstError : public ErrorHandler
+// Ends a parse whose problem has been noted.
+struct StRefused
 {
-public:
-    explicit CFirstError(StReadProblem& stProblem) : m_stProblem(stProblem) {}
-
-    void warning(const SAXParseException& /*oProblem*/) override {}
-    void error(const SAXParseException& /*oProblem*/) override {}
-    void fatalError(const SAXParseException& oProblem) override
-    {
-        if (m_stProblem.isSet())
-            return;
-        m_stProblem.ulLine   = static_cast<std::uint32_t>(oProblem.getLineNumber());
-        m_stProblem.ulColumn = static_cast<std::uint32_t>(oProblem.getColumnNumber());
-        m_stProblem.strText  = toLocal(oProblem.getMessage());
-    }
-    void resetErrors() override {}
-
-private:
-    StReadProblem& m_stProblem;
 };
 
-// Ends a parse where a limit is passed.
-struct StLimitPassed
-{
-    std::string strProblem;
-};
+constexpr std::size_t BLOCK = 48 * 1024; // what the parser takes in at once
+constexpr std::size_t WHOLE = static_cast<std::size_t>(-1);
 
-// Hands a text to the parser piece by piece, and no further once the parse has
-// taken far longer than a text of this size can need: several of the parser's
-// tables are searched one by one where names are many, or chosen to collide. CPU
-// time of the thread, so that a busy machine refuses no file that is fine.
-class CTimedStream : public BinMemInputStream
-{
-public:
-    explicit CTimedStream(std::string_view strText)
-        : BinMemInputStream(reinterpret_cast<const XMLByte*>(strText.data()), strText.size(), BufOpt_Reference),
-          m_dLatest(cpuSeconds() + XmlLimits::MIN_CPU_SECONDS +
-                    XmlLimits::CPU_SECONDS_PER_BYTE * static_cast<double>(strText.size()))
-    {
-    }
-
-    XMLSize_t readBytes(XMLByte* pToFill, XMLSize_t nMax) override
-    {
-        if (cpuSeconds() > m_dLatest)
-            throw StLimitPassed{"the file takes too long to parse"};
-        return BinMemInputStream::readBytes(pToFill, nMax);
-    }
-
-private:
-    static double cpuSeconds()
-    {
-        timespec stNow = {};
-        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &stNow);
-        return static_cast<double>(stNow.tv_sec) + static_cast<double>(stNow.tv_nsec) / 1e9;
-    }
-
-    double m_dLatest; // CPU time of this thread
-};
-
-class CTextSource : public InputSource
-{
-public:
-    explicit CTextSource(std::string_view strText) : InputSource(u"file"), m_strText(strText) {}
-
-    BinInputStream* makeStream() const override { return new CTimedStream(m_strText); } // the parser deletes it
-
-private:
-    std::string_view m_strText;
-};
+// Attributes of a tag cannot be seen one by one; each that is new takes at least
+// so many allocations, and the rest of a tag next to none.
+constexpr std::size_t ALLOCATIONS_PER_ATTRIBUTE = 4;
 
 class CEntityLimit : public SecurityManager
 {
@@ -126,55 +66,74 @@ bool initialiseXerces()
     return true;
 }
 
-std::string errnoText(int nErrno)
+// The bytes that tell the encoding, which the parser must see at once: an XML
+// declaration, or the four that it looks at.
+std::size_t declarationBytes(std::string_view strXml)
 {
-    return std::generic_category().message(nErrno);
+    const std::size_t nEnd = strXml.substr(0, 12).find('?') == std::string_view::npos ? 0 : strXml.find('>');
+    return nEnd == std::string_view::npos ? 4 : nEnd + 2;
+}
+} // namespace
+
+void* CCountedMemory::allocate(XMLSize_t nSize)
+{
+    ++m_nAllocations;
+    return XMLPlatformUtils::fgMemoryManager->allocate(nSize);
 }
 
-// Closes a file descriptor on every path.
-class CFile
+void CCountedMemory::deallocate(void* pBlock)
+{
+    XMLPlatformUtils::fgMemoryManager->deallocate(pBlock);
+}
+
+MemoryManager* CCountedMemory::getExceptionMemoryManager()
+{
+    return XMLPlatformUtils::fgMemoryManager;
+}
+
+// Hands a text to the parser block by block, from some place on byte by byte.
+class CXmlParser::CSource : public InputSource
 {
 public:
-    // Never waits: a pipe opens at once and is then refused.
-    explicit CFile(const std::string& strPath) : m_nFd(::open(strPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
-    ~CFile()
+    CSource(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
+        : InputSource(u"file"), m_oParser(oParser), m_strText(strText), m_nBytewiseFrom(nBytewiseFrom)
     {
-        if (m_nFd >= 0)
-            ::close(m_nFd);
     }
-    CFile(const CFile&)            = delete;
-    CFile& operator=(const CFile&) = delete;
 
-    // Reads the whole file; returns why it could not, or an empty text.
-    std::string read(std::string& strBytes) const
+    BinInputStream* makeStream() const override // the parser deletes it
     {
-        struct stat stStatus = {};
-        if (m_nFd < 0 || ::fstat(m_nFd, &stStatus) != 0)
-            return errnoText(errno);
-        if (!S_ISREG(stStatus.st_mode))
-            return "not a regular file";
-        if (static_cast<std::size_t>(stStatus.st_size) > XmlLimits::MAX_FILE_BYTES)
-            return "the file is larger than " + std::to_string(XmlLimits::MAX_FILE_BYTES >> 20) + " MB";
-        strBytes.resize(static_cast<std::size_t>(stStatus.st_size));
-        std::size_t nRead = 0;
-        while (nRead < strBytes.size())
-        {
-            const ssize_t nChunk = ::read(m_nFd, strBytes.data() + nRead, strBytes.size() - nRead);
-            if (nChunk < 0 && errno == EINTR)
-                continue;
-            if (nChunk < 0)
-                return errnoText(errno);
-            if (nChunk == 0)
-                return "the file became shorter while it was read";
-            nRead += static_cast<std::size_t>(nChunk);
-        }
-        return {};
+        return new CStream(m_oParser, m_strText, m_nBytewiseFrom);
     }
 
 private:
-    int m_nFd;
+    class CStream : public BinMemInputStream
+    {
+    public:
+        CStream(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
+            : BinMemInputStream(reinterpret_cast<const XMLByte*>(strText.data()), strText.size(), BufOpt_Reference),
+              m_oParser(oParser), m_nBytewiseFrom(nBytewiseFrom)
+        {
+        }
+
+        XMLSize_t readBytes(XMLByte* pToFill, XMLSize_t nMax) override
+        {
+            m_oParser.checkProgress();
+            const std::size_t nTaken = m_oParser.m_nTaken;
+            const std::size_t nMost  = nTaken < m_nBytewiseFrom ? m_nBytewiseFrom - nTaken : 1;
+            const std::size_t nRead  = BinMemInputStream::readBytes(pToFill, std::min<XMLSize_t>(nMax, nMost));
+            m_oParser.m_nTaken += nRead;
+            return nRead;
+        }
+
+    private:
+        CXmlParser& m_oParser;
+        std::size_t m_nBytewiseFrom;
+    };
+
+    CXmlParser&      m_oParser;
+    std::string_view m_strText;
+    std::size_t      m_nBytewiseFrom;
 };
-} // namespace
 
 std::unique_ptr<CXmlParser> CXmlParser::create()
 {
@@ -183,7 +142,7 @@ std::unique_ptr<CXmlParser> CXmlParser::create()
     return std::unique_ptr<CXmlParser>(new CXmlParser());
 }
 
-CXmlParser::CXmlParser()
+CXmlParser::CXmlParser() : XercesDOMParser(nullptr, memory())
 {
     static CEntityLimit s_oEntityLimit; // every parser only reads it
     setSecurityManager(&s_oEntityLimit);
@@ -192,25 +151,41 @@ CXmlParser::CXmlParser()
 
 void CXmlParser::releaseDocument()
 {
+    clearReading();
+    m_stProblem      = {};
+    fParseInProgress = false; // left set by a parse that ran out of memory
+    resetDocumentPool();
+}
+
+// Forgets what was noted while a document was read, its index first.
+void CXmlParser::clearReading()
+{
+    m_pIndexed = nullptr;
     m_mapElements.clear();
     m_oNesting        = {};
     m_bInEmptyElement = false;
+    m_bInDocType      = false;
+    m_bIsBytesProblem = false;
     m_nEntityText     = 0;
-    m_stProblem       = {};
-    fParseInProgress  = false; // left set by a parse that ran out of memory
-    resetDocumentPool();
+    m_nTaken          = 0;
+    m_nAllocated      = allocations();
 }
 
 void CXmlParser::parseFile(const std::string& strPath)
 {
-    std::string strBytes;
-    std::string strProblem = CFile(strPath).read(strBytes);
-    if (strProblem.empty())
-        parseText(strBytes);
-    else
+    releaseDocument();
+    try
     {
-        releaseDocument();
-        m_stProblem.strText = std::move(strProblem);
+        std::string       strBytes;
+        const std::string strProblem = readFileBytes(strPath, strBytes);
+        if (strProblem.empty())
+            parseText(strBytes);
+        else
+            m_stProblem.strText = strProblem;
+    }
+    catch (const std::bad_alloc&)
+    {
+        m_stProblem.strText = "out of memory";
     }
     if (m_stProblem.isSet())
         m_stProblem.strFile = strPath;
@@ -219,70 +194,161 @@ void CXmlParser::parseFile(const std::string& strPath)
 
 void CXmlParser::parseText(std::string_view strXml)
 {
+    parseOnce(strXml, WHOLE);
+    if (!m_bIsBytesProblem)
+        return;
+    // Bytes are decoded a block ahead, so the place that was told is where the block
+    // begins. Decoded one by one they give the true one.
+    const std::size_t nNear = m_nTaken - std::min(m_nTaken, 2 * BLOCK);
+    parseOnce(strXml, std::max(nNear, declarationBytes(strXml)));
+}
+
+void CXmlParser::parseOnce(std::string_view strXml, std::size_t nBytewiseFrom)
+{
     releaseDocument();
-    StReadProblem stProblem;
+    m_bIsReading = true;
+    getScanner()->setErrorReporter(this);
     try
     {
-        CFirstError oFirstError(stProblem);
-        setErrorHandler(&oFirstError);
-        parse(CTextSource(strXml));
-        if (!stProblem.isSet() && getErrorCount() != 0)
-            stProblem.strText = "the parser reported an error";
-        else if (!stProblem.isSet() && (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr))
-            stProblem.strText = "the document has no root element";
+        parse(CSource(*this, strXml, nBytewiseFrom));
+        if (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr)
+            noteProblem("the document has no root element", 0, 0);
     }
-    catch (const StLimitPassed& stPassed)
+    catch (const StRefused&) // it has been noted
     {
-        stProblem.strText = stPassed.strProblem;
     }
     catch (const OutOfMemoryException&)
     {
-        stProblem.strText = "out of memory";
+        noteProblem("out of memory", 0, 0);
     }
     catch (const std::bad_alloc&)
     {
-        stProblem.strText = "out of memory";
+        noteProblem("out of memory", 0, 0);
     }
     catch (const XMLException& oProblem)
     {
-        stProblem.strText = toLocal(oProblem.getMessage());
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
     }
     catch (const DOMException& oProblem)
     {
-        stProblem.strText = toLocal(oProblem.getMessage());
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
     }
     catch (const SAXException& oProblem)
     {
-        stProblem.strText = toLocal(oProblem.getMessage());
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
     }
-    setErrorHandler(nullptr);
-    if (!stProblem.isSet())
+    m_bIsReading = false;
+    getScanner()->setErrorReporter(nullptr);
+    if (!m_stProblem.isSet())
+    {
+        m_pIndexed = getDocument();
         return;
+    }
+    StReadProblem     stProblem = std::exchange(m_stProblem, {});
+    const bool        bBytes    = m_bIsBytesProblem;
+    const std::size_t nTaken    = m_nTaken;
     releaseDocument(); // a half-read document is no document
-    m_stProblem = std::move(stProblem);
+    m_stProblem       = std::move(stProblem);
+    m_bIsBytesProblem = bBytes;
+    m_nTaken          = nTaken;
+}
+
+// The first problem is the cause, what comes after it are consequences.
+void CXmlParser::noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn)
+{
+    if (!m_stProblem.isSet())
+        m_stProblem = {"", static_cast<std::uint32_t>(nLine), static_cast<std::uint32_t>(nColumn), strText};
+}
+
+void CXmlParser::refuse(const std::string& strText)
+{
+    const Locator* pPlace = getScanner()->getLocator(); // gone as soon as the scanner is left
+    noteProblem(strText, pPlace->getLineNumber(), pPlace->getColumnNumber());
+    throw StRefused();
+}
+
+void CXmlParser::error(unsigned int nCode, const XMLCh* pszDomain, ErrTypes enType, const XMLCh* pszText,
+                       const XMLCh* pszSystemId, const XMLCh* pszPublicId, XMLFileLoc nLine, XMLFileLoc nColumn)
+{
+    if (!m_bIsReading)
+        return XercesDOMParser::error(nCode, pszDomain, enType, pszText, pszSystemId, pszPublicId, nLine, nColumn);
+    const bool bIsEncoding = nCode == XMLErrs::ContradictoryEncoding && // a warning: it reads in another encoding
+                             XMLString::equals(pszDomain, XMLUni::fgXMLErrDomain);
+    if (enType == ErrType_Warning && !bIsEncoding)
+        return;
+    if (!m_stProblem.isSet()) // exceptions inside the parser: those of its decoders, and some more
+        m_bIsBytesProblem = XMLString::equals(pszDomain, XMLUni::fgExceptDomain);
+    noteProblem(toLocal(pszText), nLine, nColumn);
+}
+
+void CXmlParser::resetDocument()
+{
+    if (!m_bIsReading) // a parse by the base
+        clearReading();
+    XercesDOMParser::resetDocument();
+}
+
+// What comes without an event for each piece is looked at whenever the parser takes
+// in more: declarations, and the attributes of a tag that has not ended.
+void CXmlParser::checkProgress()
+{
+    if (m_bInDocType && m_nTaken - m_nTakenAtDocType > XmlLimits::MAX_DOCTYPE_BYTES)
+        refuse("the document type is too long");
+    if (!m_bInDocType && allocations() - m_nAllocated > XmlLimits::MAX_ATTRIBUTES * ALLOCATIONS_PER_ATTRIBUTE)
+        refuse("an element has too many attributes");
+}
+
+void CXmlParser::startIntSubset()
+{
+    m_bInDocType      = true;
+    m_nTakenAtDocType = m_nTaken;
+    XercesDOMParser::startIntSubset();
+}
+
+void CXmlParser::endIntSubset()
+{
+    m_bInDocType = false;
+    m_nAllocated = allocations();
+    XercesDOMParser::endIntSubset();
 }
 
 // A parameter entity, and the default of an attribute, are expanded before
 // anything can count it. Device types need neither.
 void CXmlParser::entityDecl(const DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored)
 {
-    if (bIsParameter)
-        throw StLimitPassed{"the document type declares a parameter entity"};
-    m_nEntityText += oEntity.getValueLen();
-    if (m_nEntityText > XmlLimits::MAX_ENTITY_TEXT)
-        throw StLimitPassed{"the document type declares too much text as entities"};
+    if (m_bIsReading)
+    {
+        if (bIsParameter)
+            refuse("the document type declares a parameter entity");
+        if (oEntity.isExternal())
+            refuse("the document type names another file");
+        m_nEntityText += oEntity.getValueLen();
+        if (m_nEntityText > XmlLimits::MAX_ENTITY_TEXT)
+            refuse("the document type declares too much text as entities");
+    }
     XercesDOMParser::entityDecl(oEntity, bIsParameter, bIsIgnored);
 }
 
-void CXmlParser::startAttList(const DTDElementDecl& /*oElement*/)
+void CXmlParser::notationDecl(const XMLNotationDecl& oNotation, bool bIsIgnored)
 {
-    throw StLimitPassed{"the document type declares attributes"};
+    if (m_bIsReading)
+        refuse("the document type declares a notation");
+    XercesDOMParser::notationDecl(oNotation, bIsIgnored);
+}
+
+void CXmlParser::startAttList(const DTDElementDecl& oElement)
+{
+    if (m_bIsReading)
+        refuse("the document type declares attributes");
+    XercesDOMParser::startAttList(oElement);
 }
 
 void CXmlParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
                               const RefVectorOf<XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty, bool bIsRoot)
 {
     m_bInEmptyElement = bIsEmpty; // the base ends an empty element before it returns
+    if (m_bIsReading && nAttrs > XmlLimits::MAX_ATTRIBUTES)
+        refuse("an element has too many attributes");
     XercesDOMParser::startElement(oDecl, nUri, pszPrefix, lstAttr, nAttrs, bIsEmpty, bIsRoot);
     if (!bIsEmpty)
         openElement();
@@ -292,19 +358,37 @@ void CXmlParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, bool
 {
     if (std::exchange(m_bInEmptyElement, false))
         openElement();
-    m_oNesting.close();
+    if (m_bIsReading)
+        m_oNesting.close();
     XercesDOMParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
 }
 
 void CXmlParser::openElement()
 {
+    if (!m_bIsReading)
+        return;
     const auto*  pElement = static_cast<const DOMElement*>(fCurrentParent);
     const XMLCh* pszName  = pElement->getTagName();
     if (const char* pszPassed = m_oNesting.open(pszName))
-        throw StLimitPassed{limitText(pszName, pszPassed)};
-    m_mapElements[pszName].push_back(pElement);
-    if (m_oNesting.isRepeated())
-        checkContent(attributeText(*pElement));
+        refuse(limitText(pszName, pszPassed));
+    elementsNamed(pszName).push_back(pElement);
+    checkContent(m_oNesting.isRepeated() ? attributeText(*pElement) : 0);
+}
+
+DOMAttr* CXmlParser::createAttr(const XMLCh* pszName)
+{
+    DOMAttr* pAttr = XercesDOMParser::createAttr(pszName);
+    if (m_bIsReading)
+        elementsNamed(pAttr->getName()); // counts; the document's own text of the name
+    return pAttr;
+}
+
+ElementList& CXmlParser::elementsNamed(const XMLCh* pszName)
+{
+    ElementList& lstElement = m_mapElements[pszName];
+    if (m_mapElements.size() > XmlLimits::MAX_NAMES)
+        refuse("elements and attributes have too many different names");
+    return lstElement;
 }
 
 void CXmlParser::docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData)
@@ -327,15 +411,24 @@ void CXmlParser::docPI(const XMLCh* pszTarget, const XMLCh* pszData)
 
 void CXmlParser::checkContent(std::size_t nCharacters)
 {
-    if (!m_oNesting.isRepeated())
+    m_nAllocated = allocations();
+    if (!m_bIsReading || !m_oNesting.isRepeated())
         return;
     if (const char* pszPassed = m_oNesting.content(nCharacters))
-        throw StLimitPassed{limitText(m_oNesting.openName(), pszPassed)};
+        refuse(limitText(m_oNesting.openName(), pszPassed));
+}
+
+bool CXmlParser::hasIndex() const
+{
+    // getDocument() changes nothing; Xerces only forgot to say so.
+    return m_pIndexed != nullptr && m_pIndexed == const_cast<CXmlParser*>(this)->getDocument();
 }
 
 const ElementList& CXmlParser::elements(const char16_t* pszName) const
 {
     static const ElementList s_lstNone;
+    if (!hasIndex())
+        return s_lstNone;
     for (const auto& [pszStored, lstElement] : m_mapElements)
     {
         if (XMLString::equals(pszStored, pszName))

@@ -2,7 +2,7 @@
 // It adds to XercesDOMParser what every reader here relies on:
 // - after a parse getDocument() answers the whole document or null, never the
 //   partial one that Xerces keeps after a fatal error;
-// - nothing is fetched from outside the file, and size, nesting, entities and time
+// - nothing is fetched from outside the file, and size, nesting, names and entities
 //   are limited (XmlLimits.h), so no file exhausts the server;
 // - no exception leaves it;
 // - the elements of the document are indexed by name while it is parsed, since
@@ -12,12 +12,14 @@
 #define OPERATIONXML_COMMON_XMLPARSER_H
 
 #include "common/ReadProblem.h"
-#include "common/XmlLimits.h"
+#include "common/XmlNesting.h"
 #include "platform/Export.h"
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -26,7 +28,23 @@
 
 using ElementList = std::vector<const xercesc::DOMElement*>;
 
-class OPERATIONXML_API CXmlParser : public xercesc::XercesDOMParser
+// Counts what a parser asks memory for. A base, since the parser that allocates
+// through it must die first.
+class CCountedMemory : private xercesc::MemoryManager
+{
+protected:
+    xercesc::MemoryManager* memory() { return this; }
+    std::size_t             allocations() const { return m_nAllocations; }
+
+private:
+    void*                   allocate(XMLSize_t nSize) override;
+    void                    deallocate(void* pBlock) override;
+    xercesc::MemoryManager* getExceptionMemoryManager() override;
+
+    std::size_t m_nAllocations = 0;
+};
+
+class OPERATIONXML_API CXmlParser : private CCountedMemory, public xercesc::XercesDOMParser
 {
 public:
     // A new parser, or null when Xerces cannot be initialised. Initialises
@@ -51,29 +69,72 @@ public:
     // All elements of the document with this tag name, in document order.
     const ElementList& elements(const char16_t* pszName) const;
 
+    // Whether the document came from parseFile or parseText, so that it is within the
+    // limits and elements() knows it. Parsing or freeing by the operations of the base
+    // drops the index: whoever holds the parser as a XercesDOMParser may use it as one.
+    bool hasIndex() const;
+
 private:
     CXmlParser();
 
-    // The parser's own hooks: follow the document type, and every element and what
-    // it holds as it comes.
-    void entityDecl(const xercesc::DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored) override;
-    void startAttList(const xercesc::DTDElementDecl& oElement) override;
-    void startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
-                      const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
-                      bool bIsRoot) override;
-    void endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
-                    const XMLCh* pszPrefix) override;
-    void docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData) override;
-    void docComment(const XMLCh* pszText) override;
-    void docPI(const XMLCh* pszTarget, const XMLCh* pszData) override;
-    void openElement();
-    void checkContent(std::size_t nCharacters);
+    // Where these would go round the limits they cannot be called by mistake.
+    using xercesc::XercesDOMParser::adoptDocument;
+    using xercesc::XercesDOMParser::parse;
+    using xercesc::XercesDOMParser::parseFirst;
+    using xercesc::XercesDOMParser::parseNext;
+    using xercesc::XercesDOMParser::parseReset;
+    using xercesc::XercesDOMParser::reset;
+    using xercesc::XercesDOMParser::resetDocumentPool;
 
-    std::unordered_map<const XMLCh*, ElementList> m_mapElements; // by name; the document keeps each name once
-    CNestingCheck                                 m_oNesting;
-    bool                                          m_bInEmptyElement = false;
-    std::size_t                                   m_nEntityText     = 0;
+    // The parser's own hooks: follow the document type, and every element and what
+    // it holds as it comes. Outside parseText they do what the base does.
+    void              error(unsigned int nCode, const XMLCh* pszDomain, xercesc::XMLErrorReporter::ErrTypes enType,
+                            const XMLCh* pszText, const XMLCh* pszSystemId, const XMLCh* pszPublicId, XMLFileLoc nLine,
+                            XMLFileLoc nColumn) override;
+    void              resetDocument() override;
+    void              startIntSubset() override;
+    void              endIntSubset() override;
+    void              entityDecl(const xercesc::DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored) override;
+    void              notationDecl(const xercesc::XMLNotationDecl& oNotation, bool bIsIgnored) override;
+    void              startAttList(const xercesc::DTDElementDecl& oElement) override;
+    void              startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
+                                   const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
+                                   bool bIsRoot) override;
+    void              endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
+                                 const XMLCh* pszPrefix) override;
+    xercesc::DOMAttr* createAttr(const XMLCh* pszName) override;
+    void              docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData) override;
+    void              docComment(const XMLCh* pszText) override;
+    void              docPI(const XMLCh* pszTarget, const XMLCh* pszData) override;
+
+    class CSource;
+    friend class CSource;
+
+    void              parseOnce(std::string_view strXml, std::size_t nBytewiseFrom);
+    void              clearReading();
+    void              noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn);
+    [[noreturn]] void refuse(const std::string& strText);
+    void              openElement();
+    ElementList&      elementsNamed(const XMLCh* pszName);
+    void              checkContent(std::size_t nCharacters);
+    void              checkProgress();
+
+    // By name, those of attributes included (with no elements). The document keeps
+    // each name once, and the index never outlives the document.
+    std::unordered_map<const XMLCh*, ElementList> m_mapElements;
+    const xercesc::DOMDocument*                   m_pIndexed = nullptr; // the document of m_mapElements
     StReadProblem                                 m_stProblem;
+
+    // While parseText reads.
+    CNestingCheck m_oNesting;
+    bool          m_bIsReading      = false;
+    bool          m_bInEmptyElement = false;
+    bool          m_bInDocType      = false;
+    bool          m_bIsBytesProblem = false; // the problem is one of bytes, which the parser takes in blocks
+    std::size_t   m_nEntityText     = 0;
+    std::size_t   m_nTaken          = 0; // bytes that the parser has taken in
+    std::size_t   m_nTakenAtDocType = 0; // when the document type began
+    std::size_t   m_nAllocated      = 0; // allocations when the last of the events above came
 };
 
 #endif

@@ -3,66 +3,15 @@
 
 #include "common/LogLine.h"
 #include "common/XmlLimits.h"
-
-#include <xercesc/util/Janitor.hpp>
-#include <xercesc/util/OutOfMemoryException.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/TransService.hpp>
+#include "common/XmlNesting.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <new>
 
 using namespace xercesc;
 
 namespace
 {
 constexpr const char* DC_SOURCE = "XmlRead";
-
-// The parser's UTF-16 in the local code page, by way of the XML library.
-std::string transcode(const XMLCh* pszText)
-{
-    try
-    {
-        char*       pszLocal = XMLString::transcode(pszText);
-        std::string strLocal = pszLocal == nullptr ? "" : pszLocal;
-        XMLString::release(&pszLocal);
-        return strLocal;
-    }
-    catch (const OutOfMemoryException&)
-    {
-        throw std::bad_alloc();
-    }
-    catch (const XMLException&)
-    {
-        return {}; // not expressible in the local code page
-    }
-}
-
-// Narrows a text; false when it is not plain ASCII.
-bool narrow(const XMLCh* pszText, std::size_t nLength, char* pOut)
-{
-    unsigned int nBits = 0;
-    for (std::size_t nAt = 0; nAt < nLength; ++nAt)
-    {
-        nBits |= pszText[nAt];
-        pOut[nAt] = static_cast<char>(pszText[nAt]);
-    }
-    return nBits < 0x80;
-}
-
-// A text in the server's local code page. ASCII is the same bytes in every local
-// code page, and nearly all texts are ASCII and short.
-std::string toLocal(const XMLCh* pszText, std::size_t nLength)
-{
-    char arShort[64];
-    if (nLength <= sizeof(arShort))
-        return narrow(pszText, nLength, arShort) ? std::string(arShort, nLength) : transcode(pszText);
-    std::string strLong(nLength, '\0');
-    if (!narrow(pszText, nLength, strLong.data()))
-        return transcode(pszText);
-    return strLong;
-}
 
 bool isTextNode(const DOMNode& oNode)
 {
@@ -92,16 +41,16 @@ bool isNestedTooDeep(const DOMElement& oElement)
 const DOMDocument* documentOf(const XercesDOMParser* pDOMParser)
 {
     // getDocument() changes nothing; Xerces only forgot to say so.
-    auto* pParser = const_cast<XercesDOMParser*>(pDOMParser);
-    if (pParser == nullptr || pParser->getDocument() == nullptr || pParser->getErrorCount() != 0)
+    auto*              pParser   = const_cast<XercesDOMParser*>(pDOMParser);
+    const DOMDocument* pDocument = pParser == nullptr ? nullptr : pParser->getDocument();
+    if (pDocument == nullptr || pDocument->getDocumentElement() == nullptr)
         return nullptr;
-    const DOMDocument* pDocument = pParser->getDocument();
-    if (pDocument->getDocumentElement() == nullptr)
-        return nullptr;
-    if (dynamic_cast<const CXmlParser*>(pDOMParser) != nullptr)
+    const auto* pXmlParser = dynamic_cast<const CXmlParser*>(pDOMParser);
+    if (pXmlParser != nullptr && pXmlParser->hasIndex())
         return pDocument;
 
-    // A document that a caller parsed for itself has not been checked yet.
+    // A document that a caller parsed for itself is taken as it is, whatever its
+    // parser reported, but it has not been held against the limits yet.
     const std::string strProblem = checkNesting(*pDocument);
     if (strProblem.empty())
         return pDocument;
@@ -111,7 +60,8 @@ const DOMDocument* documentOf(const XercesDOMParser* pDOMParser)
 
 ElementList documentElements(const XercesDOMParser& oDOMParser, const char16_t* pszName)
 {
-    if (const auto* pXmlParser = dynamic_cast<const CXmlParser*>(&oDOMParser))
+    const auto* pXmlParser = dynamic_cast<const CXmlParser*>(&oDOMParser);
+    if (pXmlParser != nullptr && pXmlParser->hasIndex())
         return pXmlParser->elements(pszName);
     ElementList       lstElement;
     const DOMElement* pRoot = const_cast<XercesDOMParser&>(oDOMParser).getDocument()->getDocumentElement();
@@ -120,24 +70,6 @@ ElementList documentElements(const XercesDOMParser& oDOMParser, const char16_t* 
     for (const DOMElement& oElement : CElements(pRoot, pszName))
         lstElement.push_back(&oElement);
     return lstElement;
-}
-
-std::string toLocal(const XMLCh* pszText)
-{
-    return pszText == nullptr ? std::string() : toLocal(pszText, XMLString::stringLen(pszText));
-}
-
-std::u16string fromLocal(const std::string& strText)
-{
-    // Given back to the memory manager that it came from.
-    MemoryManager* const      pMemory = XMLPlatformUtils::fgMemoryManager;
-    const ArrayJanitor<XMLCh> oXml(XMLString::transcode(strText.c_str(), pMemory), pMemory);
-    return oXml.get() == nullptr ? u"" : oXml.get();
-}
-
-std::uint32_t toNumber(const std::string& strText)
-{
-    return static_cast<std::uint32_t>(std::strtol(strText.c_str(), nullptr, 10));
 }
 
 CAttributes::CAttributes(const DOMElement& oElement)

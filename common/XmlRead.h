@@ -6,6 +6,7 @@
 #define OPERATIONXML_COMMON_XMLREAD_H
 
 #include "common/XmlParser.h"
+#include "common/XmlText.h"
 #include "platform/Export.h"
 #include "records/WordTables.h"
 
@@ -16,27 +17,16 @@
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
-static_assert(std::is_same_v<XMLCh, char16_t>, "names are written as u\"...\" literals");
-
-// The parser's document, or null: no parser, no document, one that failed to
-// parse half-way, or one whose nesting passes the limits (then logged).
+// The parser's document, or null: no parser, no document, or one whose nesting
+// passes the limits (then logged). A document that was not parsed by
+// CXmlParser::parseFile or parseText is taken as it is: whether a parser that
+// reports errors has a document to offer is for the caller who made it to know.
 const xercesc::DOMDocument* documentOf(const xercesc::XercesDOMParser* pDOMParser);
 
 // All elements of the parser's document with this tag name, in document order.
 // The parser has a document.
 ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const char16_t* pszName);
-
-// A text in the server's local code page.
-std::string toLocal(const XMLCh* pszText);
-
-// A text of the local code page as the parser holds it.
-std::u16string fromLocal(const std::string& strText);
-
-// Base 10 by the C library's string-to-long rule, kept to its low 32 bits; text
-// without digits gives 0.
-std::uint32_t toNumber(const std::string& strText);
 
 // The attributes of one element, at hand for several readings.
 class CAttributes

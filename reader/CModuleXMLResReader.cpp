@@ -3,7 +3,6 @@
 
 #include "common/Guarded.h"
 #include "common/LogLine.h"
-#include "common/XmlLimits.h"
 #include "platform/FileSystem.h"
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLConfig.h"
@@ -20,6 +19,8 @@ namespace
 {
 constexpr const char* DC_SOURCE = "CModuleXMLResReader";
 constexpr const char* UTF8      = "UTF-8";
+
+constexpr std::size_t MAX_SAME_MODULE_TYPE = 4; // times that one module file may name one device type
 
 // The whole path counts, so a file in a folder of such a name is read as well.
 bool isModuleFile(const std::string& strFilePath)
@@ -98,7 +99,7 @@ const std::string* findNamedTooOften(const std::list<std::string>& lstDevType)
     std::map<std::string_view, std::size_t> mapTimes;
     for (const std::string& strDevType : lstDevType)
     {
-        if (++mapTimes[strDevType] > XmlLimits::MAX_SAME_MODULE_TYPE)
+        if (++mapTimes[strDevType] > MAX_SAME_MODULE_TYPE)
             return &strDevType;
     }
     return nullptr;

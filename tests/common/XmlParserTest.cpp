@@ -27,6 +27,9 @@ std::string entityBomb()
 
 TEST(XmlParserTest, RefusesWhatIsNoDocument)
 {
+    const std::string LATE   = "<?xml version='1.0' encoding='{}'?>\n<a>\n" + std::string(100000, ' ') + "<b/>{}\n</a>";
+    const auto        fnLate = [&](const char* pszEncoding, const char* pszBytes)
+    { return fmt::format(fmt::runtime(LATE), pszEncoding, pszBytes); };
     const struct
     {
         const char* pszName;
@@ -37,14 +40,22 @@ TEST(XmlParserTest, RefusesWhatIsNoDocument)
         {"only a comment", "<!-- -->", "line 1"},
         {"torn off", "<a>\n<b/><c", "line 2"},
         {"two roots", "<a><b/></a><a/>", "line 1, column"},
-        {"invalid UTF-8", "<?xml version='1.0' encoding='UTF-8'?><a><b/>\xC3(</a>", "line 1"},
-        {"other encoding declared", "<?xml version='1.0' encoding='US-ASCII'?><a><b/>\xC3\xB6</a>", "line 1"},
+        // The place of the byte, not of the block that it is decoded in.
+        {"invalid UTF-8", "<a><b/>\n<c/>\xC3(</a>", "line 2, column 5: "},
+        {"invalid UTF-8 in a value", fnLate("UTF-8", "<c d='\xC3\xB6\xFF'/>"), "line 3, column 100012: "},
+        {"invalid UTF-8 at the end", fnLate("UTF-8", "<c>\xE6\xBC"), "line 3, column 100008: "},
+        {"other encoding declared", fnLate("US-ASCII", "<c/>\xC3\xB6"), "line 3, column 100009: "},
+        {"UTF-8 as UTF-16", fnLate("UTF-16", ""), "line 1, column 40: encoding 'UTF-16'"},
         {"unknown encoding", "<?xml version='1.0' encoding='none-such'?><a><b/></a>", "line 1"},
         {"nul byte", std::string("<a><b/>\0</a>", 12), "line 1"},
         {"external DTD", "<!DOCTYPE a SYSTEM 'file:///etc/hostname'><a><b/></a>", "line 1"},
-        {"external entity", "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/>&e;</a>", "line 1"},
+        {"external entity", "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/></a>",
+         "line 1, column 55: the document type names another file"},
+        {"notation", "<!DOCTYPE a [<!NOTATION n SYSTEM 'n'>]><a><b/></a>",
+         "line 1, column 37: the document type declares"},
         {"entity of itself", "<!DOCTYPE a [<!ENTITY e '&e;'>]><a><b/>&e;</a>", "line 1"},
         {"entity bomb", entityBomb(), "line 1"},
+        {"what the DOM refuses", "<!DOCTYPE a:b:c><a><b/></a>", "attempt is made"},
     };
     CTempServerRoot oRoot;
     const auto      pParser = CXmlParser::create();
@@ -114,6 +125,15 @@ std::string ladder(std::size_t nDepth)
     return strXml;
 }
 
+// Of so many different names, not deep.
+std::string ladders(std::size_t nNames)
+{
+    std::string strXml;
+    for (std::size_t nAt = 0; nAt < nNames; ++nAt)
+        strXml += fmt::format("<e{}/>", nAt);
+    return "<a>" + strXml + "</a>";
+}
+
 // Chains of sub items that are read exactly so many times more than once each:
 // the element below n of its kind is read 2^n times.
 std::string repeatedReads(std::uint64_t nReads)
@@ -134,7 +154,25 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
     const std::string strSameName = "elements \"b\" are nested in each other too deep";
     const std::string strReads    = "elements \"SubItem\" are nested so that they would be read too many times";
     const std::string strText     = "elements \"SubItem\" hold too much for the times that they would be read";
-    const auto        fnEntities  = [](std::size_t nCharacters)
+    const std::string strNames    = "elements and attributes have too many different names";
+    const std::string strAttrs    = "an element has too many attributes";
+    const auto fnDocType = [](std::size_t nBytes) { return "<!DOCTYPE a [" + std::string(nBytes, ' ') + "]><a/>"; };
+    // So many different names, of which all but those of the root and one element are attributes.
+    const auto fnNames = [](std::size_t nNames)
+    {
+        std::string strXml;
+        for (std::size_t nAt = 0; nAt + 2 < nNames; ++nAt)
+            strXml += fmt::format("<b a{}=''/>", nAt);
+        return "<a>" + strXml + "</a>";
+    };
+    const auto fnAttributes = [](std::size_t nAttributes, const char* pszEnd)
+    {
+        std::string strXml = "<a";
+        for (std::size_t nAt = 0; nAt < nAttributes; ++nAt)
+            strXml += fmt::format(" a{}=''", nAt);
+        return strXml + pszEnd;
+    };
+    const auto fnEntities = [](std::size_t nCharacters)
     { return "<!DOCTYPE a [<!ENTITY e 'x'><!ENTITY f '" + std::string(nCharacters - 1, 'x') + "'>]><a/>"; };
     const auto fnTwice = [](const std::string& strAttribute, const std::string& strInside)
     { return "<SubItem><SubItem" + strAttribute + ">" + strInside + "</SubItem></SubItem>"; };
@@ -158,6 +196,15 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
         {"SameNameSideBySide", "<c>" + nested("b", MAX_SAME_NAME_DEPTH) + nested("b", 1) + "</c>", ""},
         {"RepeatedReads", repeatedReads(MAX_REPEATED_READS), ""},
         {"RepeatedReadsPassed", repeatedReads(MAX_REPEATED_READS + 1), strReads},
+        {"Names", fnNames(MAX_NAMES), ""},
+        {"NamesPassed", fnNames(MAX_NAMES + 1), strNames},
+        {"ElementNamesPassed", ladders(MAX_NAMES), strNames},
+        {"Attributes", fnAttributes(MAX_ATTRIBUTES - 1, "/>"), ""},
+        {"AttributesPassed", fnAttributes(MAX_ATTRIBUTES + 1, "/>"), strAttrs},
+        {"AttributesOfATagWithoutEnd", fnAttributes(20000, ""), strAttrs}, // before the end is missed
+        {"LongValue", "<a b='" + std::string(1000000, 'x') + "'/>", ""},
+        {"DocType", fnDocType(MAX_DOCTYPE_BYTES), ""},
+        {"DocTypePassed", fnDocType(MAX_DOCTYPE_BYTES + 100000), "the document type is too long"},
         {"Expansions", fnExpansions(MAX_ENTITY_EXPANSION), ""},
         {"EntityText", fnEntities(MAX_ENTITY_TEXT), ""},
         {"EntityTextPassed", fnEntities(MAX_ENTITY_TEXT + 1), "the document type declares too much text as entities"},
@@ -175,30 +222,44 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
     {
         SCOPED_TRACE(stCase.pszName);
         pParser->parseText(stCase.strXml);
-        EXPECT_EQ(stCase.strProblem, problemWithFile(pParser->problem()));
+        EXPECT_EQ(stCase.strProblem, pParser->problem().strText);
+        EXPECT_EQ(stCase.strProblem.empty(), pParser->problem().ulLine == 0);
         EXPECT_EQ(stCase.strProblem.empty(), pParser->getDocument() != nullptr);
     }
     pParser->parseText(fnExpansions(MAX_ENTITY_EXPANSION + 1));
     EXPECT_EQ(nullptr, pParser->getDocument());
 }
 
-// Names that share one hash in the parser's tables: a megabyte of them takes it
-// many seconds.
-TEST(XmlParserTest, GivesUpOnAFileThatTakesFarLongerThanItsSizeDoes)
+// Whoever holds the parser as its base may parse and free by the base's operations.
+// Elements of a document that is gone are never handed out.
+TEST(XmlParserTest, TheIndexDiesWithItsDocument)
 {
-    std::string strXml = "<a>";
-    for (unsigned nName = 0; nName < 28000; ++nName)
+    const char* const SECTION = "<DeviceOperation><Operation id='{}'/></DeviceOperation>";
+    const auto        fnParse = [&](xercesc::XercesDOMParser& oBase, const char* pszId)
     {
-        strXml += '<';
-        for (unsigned nBit = 0; nBit < 15; ++nBit)
-            strXml += (nName >> nBit & 1) != 0 ? "bP" : "av"; // 38 * 'b' + 'P' == 38 * 'a' + 'v'
-        strXml += "/>";
-    }
-    const auto pParser = CXmlParser::create();
-    pParser->parseText(strXml + "</a>");
-    EXPECT_EQ("the file takes too long to parse", pParser->problem().strText);
-    pParser->parseText("<a/>");
-    EXPECT_FALSE(pParser->problem().isSet());
+        const std::string strXml = fmt::format(fmt::runtime(SECTION), pszId);
+        oBase.parse(xercesc::MemBufInputSource(reinterpret_cast<const XMLByte*>(strXml.data()), strXml.size(), u"x"));
+    };
+    const auto                pParser = CXmlParser::create();
+    xercesc::XercesDOMParser& oBase   = *pParser;
+    std::list<StAsnOperation> lstOper;
+    pParser->parseText(fmt::format(fmt::runtime(SECTION), "first"));
+    EXPECT_THAT(pParser->elements(u"Operation"), testing::SizeIs(1));
+    fnParse(oBase, "second");
+    EXPECT_THAT(pParser->elements(u"Operation"), testing::IsEmpty());
+    EXPECT_EQ(0u, CDevOpXMLConfig().setDevOperXMLConfig(&oBase, &lstOper));
+    oBase.resetDocumentPool();
+    EXPECT_EQ(DC_RESULT_XML_ERROR, CDevOpXMLConfig().setDevOperXMLConfig(&oBase, &lstOper));
+
+    pParser->parseText(fmt::format(fmt::runtime(SECTION), "third"));
+    oBase.resetDocumentPool();
+    EXPECT_THAT(pParser->elements(u"Operation"), testing::IsEmpty());
+    EXPECT_EQ(DC_RESULT_XML_ERROR, CDevOpXMLConfig().setDevOperXMLConfig(&oBase, &lstOper));
+    fnParse(oBase, "fourth"); // perhaps at the address of the one before
+    EXPECT_EQ(0u, CDevOpXMLConfig().setDevOperXMLConfig(&oBase, &lstOper));
+    ASSERT_THAT(lstOper, testing::SizeIs(2));
+    EXPECT_EQ("second", lstOper.front().strId);
+    EXPECT_EQ("fourth", lstOper.back().strId);
 }
 
 // Entity references between the levels count for nothing, in the parser as in
@@ -218,27 +279,30 @@ TEST(XmlParserTest, EntityReferencesAreNoLevel)
     EXPECT_THAT(logLines(), testing::IsEmpty());
 }
 
-// A parser that a caller made: its document counts unless it failed half-way.
-TEST(XmlParserTest, ForeignParserIsHeldToTheSameRules)
+// A parser that a caller made: its document is taken as it is, whatever it reported.
+TEST(XmlParserTest, ForeignDocumentIsTakenAsItIs)
 {
+    const char* const DTD = "<!DOCTYPE a [<!ELEMENT a (b)>]>";
     const struct
     {
-        const char*   pszXml;
+        std::string   strXml;
         std::uint32_t ulResult;
         std::size_t   nOperations;
     } CASES[] = {
         {"<DeviceOperation><Operation/><Operation/></DeviceOperation>", 0, 2}, // the root is a section itself
         {"<a><DeviceOperation><Operation/></DeviceOperation><DeviceOperation><Operation/></DeviceOperation></a>", 0, 2},
-        {"<a><DeviceOperation><Operation/></DeviceOperation>", DC_RESULT_XML_ERROR, 0},
+        {std::string(DTD) + "<a><DeviceOperation><Operation/></DeviceOperation></a>", 0, 1}, // not valid
+        {"<a><DeviceOperation><Operation/></DeviceOperation>", 0, 1},                        // half of one
         {"", DC_RESULT_XML_ERROR, 0},
     };
     for (const auto& stCase : CASES)
     {
-        SCOPED_TRACE(stCase.pszXml);
-        CForeignXml               oXml(stCase.pszXml);
+        SCOPED_TRACE(stCase.strXml);
+        CForeignXml               oXml(stCase.strXml);
         std::list<StAsnOperation> lstOper;
         EXPECT_EQ(stCase.ulResult, CDevOpXMLConfig().setDevOperXMLConfig(oXml.parser(), &lstOper));
         EXPECT_EQ(stCase.nOperations, lstOper.size());
     }
+    EXPECT_GT(CForeignXml(CASES[2].strXml).parser()->getErrorCount(), 0); // the parser does validate
 }
 } // namespace

@@ -27,6 +27,7 @@ class CForeignXml
 public:
     explicit CForeignXml(const std::string& strXml) : m_pInitialised(CXmlParser::create())
     {
+        m_oParser.setValidationScheme(xercesc::XercesDOMParser::Val_Auto); // where there is a document type
         m_oParser.parse(
             xercesc::MemBufInputSource(reinterpret_cast<const XMLByte*>(strXml.data()), strXml.size(), u"test"));
     }

@@ -1,7 +1,8 @@
-// See XmlLimits.h.
-#include "common/XmlLimits.h"
+// See XmlNesting.h.
+#include "common/XmlNesting.h"
 
-#include "common/XmlRead.h"
+#include "common/XmlLimits.h"
+#include "common/XmlText.h"
 
 #include <algorithm>
 
@@ -16,32 +17,23 @@ const char* CNestingCheck::open(const XMLCh* pszName)
     const auto nSameName = static_cast<std::size_t>(std::count_if(
         m_lstOpen.begin(), m_lstOpen.end(), [pszName](const StOpen& stOpen) { return stOpen.pszName == pszName; }));
 
-    // A lookup chain may pick any of the open elements of each other name; the one
-    // kind that is read recursively is read through every subset of its own.
-    const std::uint64_t nChains   = m_lstOpen.empty() ? 1 : m_lstOpen.back().nChains;
-    const std::uint64_t nOthers   = nChains / std::max<std::uint64_t>(nSameName, 1);
-    std::uint64_t       nRepeats  = 0;
+    const std::uint64_t nReads    = (m_lstOpen.empty() ? 1 : m_lstOpen.back().nReads) * (nSameName == 0 ? 1 : 2);
     const char*         pszPassed = nullptr;
+    m_nRepeatedReads += nReads - 1;
     if (m_lstOpen.size() >= XmlLimits::MAX_DEPTH)
         pszPassed = "are nested too deep";
     else if (nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH)
         pszPassed = "are nested in each other too deep";
-    else if (nChains > 1 || nSameName > 0)
-    {
-        const std::uint64_t nOwn = XMLString::equals(pszName, u"SubItem") ? std::uint64_t{1} << nSameName : 1;
-        nRepeats                 = nOthers * nOwn - 1;
-        m_nRepeatedReads += nRepeats;
-        if (m_nRepeatedReads > XmlLimits::MAX_REPEATED_READS)
-            pszPassed = "are nested so that they would be read too many times";
-    }
-    m_lstOpen.push_back({pszName, nOthers * (nSameName + 1), nRepeats});
+    else if (m_nRepeatedReads > XmlLimits::MAX_REPEATED_READS)
+        pszPassed = "are nested so that they would be read too many times";
+    m_lstOpen.push_back({pszName, nReads});
     return pszPassed;
 }
 
 const char* CNestingCheck::content(std::size_t nCharacters)
 {
     constexpr std::uint64_t NODE = 8; // what a lookup spends on passing over one node, in characters
-    m_nRepeatedText += m_lstOpen.back().nRepeats * (nCharacters + NODE);
+    m_nRepeatedText += (m_lstOpen.back().nReads - 1) * (nCharacters + NODE);
     return m_nRepeatedText > XmlLimits::MAX_REPEATED_TEXT ? "hold too much for the times that they would be read"
                                                           : nullptr;
 }
