@@ -29,7 +29,7 @@ public:
     // Whether the file gave a document; if not, the one problem says why.
     bool isRead() const { return m_bIsRead; }
 
-    // What is wrong with the file, for the people who write it: why there is no
+    // For tools: what is wrong with the file, for the people who write it: why there is no
     // document, or what the load passed over, in the order it was met. Nothing
     // here is logged; the server runs on as if the mistakes were not there.
     const std::vector<std::string>& problems() const { return m_lstProblem; }

@@ -39,7 +39,7 @@ public:
     // problems in the dictionary, so nobody else may use it meanwhile.
     void fillAlarmInfo(const xercesc::DOMElement* pRecord, AlarmStaticInfo& stAlarm);
 
-    // Every alarm of the file by its id.
+    // Every alarm of the file by its id; for tools.
     const std::map<std::uint64_t, AlarmStaticInfo>& alarms() const { return m_mapAlarm; }
 
 private:

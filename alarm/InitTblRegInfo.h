@@ -38,7 +38,7 @@ public:
 
     bool NeedTransfer(const NS_UTIL::EnvAlarmInfo& stAlarm) const;
 
-    // The answer of NeedTransfer with its reason.
+    // The answer of NeedTransfer with its reason; for tools.
     EnTransferBy findRegistration(const NS_UTIL::EnvAlarmInfo& stAlarm) const;
 
     // These four write to the table, so nobody else may use it meanwhile.
@@ -57,7 +57,7 @@ public:
     // A further record of a device type extends what is registered for it.
     void AddAlarmInfoToMap(const unsigned long& ulDevType, const std::list<unsigned long>& lstFaultId);
 
-    // The registrations, for all device types and by device type.
+    // The registrations, for all device types and by device type; for tools.
     const FaultIdMap&                          allTypes() const { return m_mapAllTypes; }
     const std::map<unsigned long, FaultIdMap>& byDevType() const { return m_mapByDevType; }
 

@@ -85,6 +85,8 @@ public:
     // are the store's and would be freed twice.
     void freeXMLInfo(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
+    // The next three are for tools that show what was read; a server asks none of them.
+
     // What the start-up load did, entry by entry. A copy.
     StLoadReport getLoadReport();
 

@@ -1,6 +1,8 @@
-// opxml show: one device type as a readable tree.
+// opxml show: what one device type, one version in service of it, or one device
+// supports, as a readable tree.
 #include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
+#include "tools/opxml/commands/Devices.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/RecordTree.h"
@@ -9,6 +11,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <iterator>
 #include <list>
 #include <memory>
 #include <set>
@@ -22,6 +26,28 @@ struct StShowOptions
     std::string strVersion;
     bool        bJson = false;
 };
+
+struct StWanted
+{
+    std::set<std::string> setKey;
+    std::string           strSoftVersion;  // of one version in service; empty: all
+    std::string           strPatchVersion; // likewise; empty and not exact: every patch of it
+    bool                  bExactPatch = false;
+    std::string           strDevice; // the device that was asked for, in words
+};
+
+bool isWanted(const StWanted& stWanted, const StAsnDevTypeVerXMLInfo& stInfo)
+{
+    // A configuration that names no version in service serves them all.
+    return stWanted.strSoftVersion.empty() || stInfo.lstDevVersion.empty() ||
+           std::any_of(stInfo.lstDevVersion.begin(), stInfo.lstDevVersion.end(),
+                       [&stWanted](const StAsnDevVersion& stVersion)
+                       {
+                           const bool bAnyPatch = stWanted.strPatchVersion.empty() && !stWanted.bExactPatch;
+                           return stVersion.strSoftVersion == stWanted.strSoftVersion &&
+                                  (bAnyPatch || stVersion.strPatchVersion == stWanted.strPatchVersion);
+                       });
+}
 
 // What is shown of one storage key.
 struct StShownKey
@@ -51,27 +77,31 @@ StTree configurationTree(const std::string& strKey, const StAsnDevTypeVerXMLInfo
     return stTree;
 }
 
-// Those of the keys that hold something, in order.
-std::vector<StShownKey> gather(const StLoadReport& stReport, const std::set<std::string>& setKey, bool bJson)
+// Those of the keys that hold something of what is wanted, in order.
+std::vector<StShownKey> gather(const StLoadReport& stReport, const StWanted& stWanted, bool bJson)
 {
     std::vector<StShownKey> lstShown;
     CXMLConfigDatabase::getInstance()->visitDevTypes(
         [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
         {
-            if (setKey.count(strKey) == 0 || lstInfo.empty())
+            std::list<StAsnDevTypeVerXMLInfo*> lstWanted;
+            std::copy_if(lstInfo.begin(), lstInfo.end(), std::back_inserter(lstWanted),
+                         [&stWanted](const StAsnDevTypeVerXMLInfo* pInfo) { return isWanted(stWanted, *pInfo); });
+            if (stWanted.setKey.count(strKey) == 0 || lstWanted.empty())
                 return;
             StShownKey& stShown = lstShown.emplace_back();
             stShown.strKey      = strKey;
             if (bJson)
             {
-                stShown.oRecords = toJson(lstInfo);
+                stShown.oRecords = toJson(lstWanted);
                 return;
             }
-            std::vector<StContribution> lstContribution = contributionsTo(stReport, strKey);
-            for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+            for (const StAsnDevTypeVerXMLInfo* pInfo : lstWanted)
             {
+                // Modules go into the first record.
+                const auto lstContribution =
+                    pInfo == lstInfo.front() ? contributionsTo(stReport, strKey) : std::vector<StContribution>();
                 stShown.lstTree.push_back(configurationTree(strKey, *pInfo, lstContribution));
-                lstContribution.clear(); // they went into the first
             }
         });
     return lstShown;
@@ -105,42 +135,99 @@ void explainMissing(const StLoadReport& stReport, const std::string& strKey)
     }
 }
 
-// The keys that are asked for; none, with a remark, when there is no such type or
-// version.
-std::set<std::string> askedKeys(const StLoadReport& stReport, const StShowOptions& stOptions)
+// Type and versions as they are written: TYPE:VERSION:SOFTWARE:PATCH. A type's own
+// name may hold colons, so the longest name that exists counts.
+void splitName(const StLoadReport& stReport, StShowOptions& stOptions, StWanted& stWanted)
 {
-    std::set<std::string> setKey = findKeys(stReport, stOptions.strName, stOptions.strVersion);
-    if (!setKey.empty())
-        return setKey;
+    const std::string strAll = stOptions.strName;
+    std::size_t       nColon = std::string::npos;
+    while (findKeys(stReport, strAll.substr(0, nColon)).empty())
+    {
+        nColon = nColon == 0 ? std::string::npos : strAll.rfind(':', nColon == std::string::npos ? nColon : nColon - 1);
+        if (nColon == std::string::npos)
+            return;
+    }
+    if (nColon == std::string::npos)
+        return;
+    stOptions.strName           = strAll.substr(0, nColon);
+    std::string* const arPart[] = {&stOptions.strVersion, &stWanted.strSoftVersion, &stWanted.strPatchVersion};
+    for (std::string* pPart : arPart)
+    {
+        if (nColon == std::string::npos)
+            break;
+        const std::size_t nNext = strAll.find(':', nColon + 1);
+        *pPart                  = strAll.substr(nColon + 1, nNext == std::string::npos ? nNext : nNext - nColon - 1);
+        nColon                  = nNext;
+    }
+}
+
+// The device of this id, name or address, with what serves it; false when there is
+// none.
+bool findDevice(const StLoadReport& stReport, const std::string& strName, StWanted& stWanted)
+{
+    for (const StServedDevice& stDevice : gatherDevices(stReport))
+    {
+        const StDeviceInfo& stInfo = stDevice.stInfo;
+        if (strName != std::to_string(stInfo.ulDeviceID) && strName != stInfo.strDeviceName &&
+            strName != stInfo.strIPAddress)
+            continue;
+        stWanted.strDevice =
+            fmt::format("device {} {}: {} {}{}", stInfo.ulDeviceID, stInfo.strDeviceName, stDevice.strDevType,
+                        stDevice.strDevTypeVer, stDevice.bTelnet ? ", managed over telnet" : "");
+        if (!stDevice.strProblem.empty())
+            remark(fmt::format("device {}: {}", stInfo.ulDeviceID, stDevice.strProblem));
+        else
+            stWanted.setKey.insert(stDevice.strKey);
+        if (stDevice.bByVersion)
+        {
+            stWanted.strSoftVersion  = stDevice.stVersion.strSoftVersion;
+            stWanted.strPatchVersion = stDevice.stVersion.strPatchVersion;
+            stWanted.bExactPatch     = true;
+        }
+        return true;
+    }
+    return false;
+}
+
+// What is asked for; no key, with a remark, when there is no such thing.
+StWanted resolve(const StLoadReport& stReport, StShowOptions stOptions)
+{
+    StWanted stWanted;
+    if (stOptions.strVersion.empty())
+        splitName(stReport, stOptions, stWanted);
+    stWanted.setKey = findKeys(stReport, stOptions.strName, stOptions.strVersion);
+    if (!stWanted.setKey.empty())
+        return stWanted;
     std::string strVersions;
     for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
         if (stLoad.strDevType == stOptions.strName)
             strVersions += " \"" + stLoad.strDevTypeVer + "\"";
     }
-    if (strVersions.empty())
-        remark(unknownTypeText(stReport, stOptions.strName));
-    else
+    if (!strVersions.empty())
         remark(fmt::format("device type \"{}\" has no version \"{}\"; it has{}", stOptions.strName,
                            stOptions.strVersion, strVersions));
-    return setKey;
+    else if (!stOptions.strVersion.empty() || !findDevice(stReport, stOptions.strName, stWanted))
+        remark(unknownTypeText(stReport, stOptions.strName));
+    return stWanted;
 }
 
 int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
 {
     openRoot(stGlobal);
-    const StLoadReport          stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
-    const std::set<std::string> setKey   = askedKeys(stReport, stOptions);
-    if (setKey.empty())
+    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
+    const StWanted     stWanted = resolve(stReport, stOptions);
+    if (stWanted.setKey.empty())
         return EXIT_NO;
-    const std::vector<StShownKey> lstShown = gather(stReport, setKey, stOptions.bJson);
+    const std::vector<StShownKey> lstShown = gather(stReport, stWanted, stOptions.bJson);
+    if (!stWanted.strDevice.empty() && !stOptions.bJson)
+        printLine(stWanted.strDevice);
     printShown(lstShown, stOptions.bJson);
-    std::set<std::string> setMissing = setKey;
-    for (const StShownKey& stShown : lstShown)
-        setMissing.erase(stShown.strKey);
-    for (const std::string& strKey : setKey)
+    for (const std::string& strKey : stWanted.setKey)
         explainMissing(stReport, strKey);
-    return setMissing.empty() ? EXIT_YES : EXIT_NO;
+    if (lstShown.empty() && !stWanted.strSoftVersion.empty())
+        remark("no configuration is for version " + versionText(stWanted.strSoftVersion, stWanted.strPatchVersion));
+    return lstShown.size() == stWanted.setKey.size() ? EXIT_YES : EXIT_NO;
 }
 } // namespace
 
@@ -148,7 +235,12 @@ void addShowCommand(CLI::App& oApp, StTool& stTool)
 {
     CLI::App* pCommand = oApp.add_subcommand("show", "Show what one device type supports, as a tree");
     auto      pOptions = std::make_shared<StShowOptions>();
-    pCommand->add_option("TYPE", pOptions->strName, "Device type or storage key")->required();
+    pCommand
+        ->add_option(
+            "TYPE", pOptions->strName,
+            "Device type or storage key, with TYPE:VERSION:SOFTWARE:PATCH one version in service; or a device by "
+            "id, name or address")
+        ->required();
     pCommand->add_option("VERSION", pOptions->strVersion, "One version of it; without it, all variants are shown");
     pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
     pCommand->callback([&stTool, pOptions]
