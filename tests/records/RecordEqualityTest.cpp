@@ -1,10 +1,38 @@
-// Which fields of each record equality compares, which it leaves out, and that
-// order in a list matters.
+// The description of the records' fields is whole, equality compares all of them
+// but the named ones, and order in a list matters.
 #include "TestSupport.h"
-#include "records/RootRecords.h"
+#include "records/RecordFields.h"
+
+#include <set>
+#include <utility>
 
 namespace
 {
+// A value that fits any member, for counting the members of a record.
+struct StAny
+{
+    template <typename Member>
+    operator Member() const;
+};
+template <typename Record, std::size_t... nAt>
+constexpr auto takes(std::index_sequence<nAt...>) -> decltype(Record{(static_cast<void>(nAt), StAny())...}, true)
+{
+    return true;
+}
+template <typename Record>
+constexpr bool takes(...)
+{
+    return false;
+}
+template <typename Record, std::size_t nMembers = 0>
+constexpr std::size_t countMembers()
+{
+    if constexpr (takes<Record>(std::make_index_sequence<nMembers + 1>()))
+        return countMembers<Record, nMembers + 1>();
+    else
+        return nMembers;
+}
+
 // Gives a field of any kind another value.
 struct StChange
 {
@@ -22,91 +50,64 @@ struct StChange
     {
         lstField.resize(1);
     }
+    template <typename Record>
+    void operator()(Record& stField) const // all of it
+    {
+        std::apply([&](const auto&... stMember) { ((*this)(stField.*(stMember.pMember)), ...); },
+                   fieldsOf(static_cast<const Record*>(nullptr)));
+    }
 };
 
-// Changes the fields of a default record one by one.
-template <typename Record, typename... Field>
-void expectCompared(bool bCompared, Record& stRecord, Field&... oFields)
+template <typename Record>
+void expectComparesAllBut(const std::set<std::string>& setLeftOut)
 {
-    const Record stDefault;
-    int          nField    = 0;
-    const auto   fnCompare = [&](auto& oField)
-    {
-        SCOPED_TRACE(testing::Message() << typeid(Record).name() << " field " << ++nField);
-        const auto oBefore = oField;
-        StChange()(oField);
-        EXPECT_EQ(bCompared, !(stDefault == stRecord));
-        EXPECT_EQ(bCompared, !(stRecord == stDefault));
-        oField = oBefore;
-        EXPECT_TRUE(stDefault == stRecord);
-    };
-    (fnCompare(oFields), ...);
+    static_assert(countMembers<Record>() == std::tuple_size_v<decltype(fieldsOf(static_cast<Record*>(nullptr)))>,
+                  "records/RecordFields.h describes every member once");
+    const Record          stDefault;
+    Record                stRecord;
+    std::set<std::string> setName;
+    std::set<std::string> setNotCompared;
+    visitFields(stRecord,
+                [&](const char* pszName, auto /*stKind*/, auto& field)
+                {
+                    const auto before = field;
+                    StChange()(field);
+                    EXPECT_EQ(stDefault == stRecord, stRecord == stDefault) << pszName;
+                    if (stDefault == stRecord)
+                        setNotCompared.insert(pszName);
+                    field = before;
+                    EXPECT_TRUE(stDefault == stRecord) << pszName;
+                    EXPECT_TRUE(setName.insert(pszName).second) << pszName << " twice";
+                });
+    EXPECT_EQ(setLeftOut, setNotCompared) << typeid(Record).name();
 }
 
-TEST(RecordEqualityTest, ComparesTheseFieldsAndNoOthers)
+TEST(RecordEqualityTest, ComparesEveryFieldButThese)
 {
-    StAsnDevVersion stVersion;
-    expectCompared(true, stVersion, stVersion.strSoftVersion, stVersion.strPatchVersion);
-    StAsnDevTypeInfo stType;
-    expectCompared(true, stType, stType.strDevType, stType.strDevTypeVer);
-    StAsnOptionInfo stOption;
-    expectCompared(true, stOption, stOption.strId, stOption.ulValue, stOption.strTarget);
-    StAsnOperParamDef stParam;
-    expectCompared(true, stParam, stParam.strId, stParam.strValue, stParam.bIsRequired, stParam.lstOption);
-    StAsnOperation stOper;
-    expectCompared(true, stOper, stOper.strId, stOper.bIsCancelable, stOper.enOperationLevel, stOper.lstParam);
-    StAsnCustomOperationDef stCustom;
-    expectCompared(true, stCustom, stCustom.strId, stCustom.strResourceClass, stCustom.strShortcutKey,
-                   stCustom.enOperationLevel, stCustom.enAvailableIn);
-    StAsnOtherOperationDef stOther;
-    expectCompared(true, stOther, stOther.strId, stOther.bIsSupported, stOther.lstParam);
-    StAsnCheckType stItem;
-    expectCompared(true, stItem, stItem.strId, stItem.strDescription, stItem.strCmdKey, stItem.strSubItemFrom,
-                   stItem.nCompareType, stItem.strCompareParam, stItem.bSelected, stItem.bIsCompare, stItem.ulIndex,
-                   stItem.lstSubItem);
-    StAsnCheckOperationDef stCheck;
-    expectCompared(true, stCheck, stCheck.strId, stCheck.enOperationLevel, stCheck.nTaskType, stCheck.lstCheckType);
-    StAsnMenuOpDef stMenuOp;
-    expectCompared(true, stMenuOp, stMenuOp.enType, stMenuOp.strId);
-    StAsnPatchItem stPatchItem;
-    expectCompared(true, stPatchItem, stPatchItem.strId, stPatchItem.enType);
-    StAsnPatchStateDef stState;
-    expectCompared(true, stState, stState.strName, stState.lstPatchItem);
-    StAsnPatchDef stPatch;
-    expectCompared(true, stPatch, stPatch.enPatchType, stPatch.lstPatchState);
-    StAsnPatchTypeMenuDef stMenu;
-    expectCompared(true, stMenu, stMenu.enPatchType, stMenu.lstMenuOp);
-    StAsnTaskOperationDef stStep;
-    expectCompared(true, stStep, stStep.enType, stStep.strId, stStep.strDependsOn, stStep.strOperDescription);
-    StAsnTaskConfigOperation stBlock;
-    expectCompared(true, stBlock, stBlock.strId, stBlock.strValue, stBlock.bIsRequired, stBlock.lstOption,
-                   stBlock.lstTaskOperationDef, stBlock.lstOtherOperationDef);
-    StAsnTaskConfigInfoOperation stTask;
-    expectCompared(true, stTask, stTask.enTaskType, stTask.strGUITemplete, stTask.lstTaskConfigOperation);
-    StAsnUpgradeSubOperationDef stSub;
-    expectCompared(true, stSub, stSub.strId, stSub.enOperationLevel, stSub.lstParameter);
-    StAsnUpgradeOperationDef stUpgrade;
-    expectCompared(true, stUpgrade, stUpgrade.strId, stUpgrade.enOperationLevel, stUpgrade.lstSubOperation);
-    StAsnDCErrorCodeInfo stError;
-    expectCompared(true, stError, stError.ulErrorCode, stError.strErrorInfo);
-    StAsnOperationConfig stOpers;
-    expectCompared(true, stOpers, stOpers.lstDevOperation, stOpers.lstTaskOperation, stOpers.lstPatchOperation,
-                   stOpers.lstPatchDef, stOpers.lstCheckOperation, stOpers.lstCustomOperation,
-                   stOpers.lstOtherOperation, stOpers.lstUpgradeOperation);
-    StAsnViewConfig stViews;
-    expectCompared(true, stViews, stViews.lstDevViewPopupMenu, stViews.lstPatchTypeMenu, stViews.lstDevViewTab,
-                   stViews.lstIsolationViewPopupMenu);
-    StAsnDevTypeVerXMLInfo stRoot;
-    expectCompared(true, stRoot, stRoot.stOperationConfig.lstPatchDef, stRoot.stViewConfig.lstDevViewTab,
-                   stRoot.stDCErrorCodeInfo.ulErrorCode, stRoot.lstTaskConfigInfoOperation);
-    expectCompared(false, stParam, stParam.strSelected);
-    expectCompared(false, stOper, stOper.bExtFlag, stOper.bIsSupported);
-    expectCompared(false, stItem, stItem.strExtInfo);
-    expectCompared(false, stCheck, stCheck.bIsCancelable);
-    expectCompared(false, stStep, stStep.strIsSelect, stStep.strIsPauseBeforeOP);
-    expectCompared(false, stBlock, stBlock.strSelected);
+    expectComparesAllBut<StAsnDevVersion>({});
+    expectComparesAllBut<StAsnDevTypeInfo>({});
+    expectComparesAllBut<StAsnOptionInfo>({});
+    expectComparesAllBut<StAsnOperParamDef>({"strSelected"});
+    expectComparesAllBut<StAsnOperation>({"bExtFlag", "bIsSupported"});
+    expectComparesAllBut<StAsnCustomOperationDef>({});
+    expectComparesAllBut<StAsnOtherOperationDef>({});
+    expectComparesAllBut<StAsnCheckType>({"strExtInfo"});
+    expectComparesAllBut<StAsnCheckOperationDef>({"bIsCancelable"});
+    expectComparesAllBut<StAsnMenuOpDef>({});
+    expectComparesAllBut<StAsnPatchItem>({});
+    expectComparesAllBut<StAsnPatchStateDef>({});
+    expectComparesAllBut<StAsnPatchDef>({});
+    expectComparesAllBut<StAsnPatchTypeMenuDef>({});
+    expectComparesAllBut<StAsnTaskOperationDef>({"strIsSelect", "strIsPauseBeforeOP"});
+    expectComparesAllBut<StAsnTaskConfigOperation>({"strSelected"});
+    expectComparesAllBut<StAsnTaskConfigInfoOperation>({});
+    expectComparesAllBut<StAsnUpgradeSubOperationDef>({});
+    expectComparesAllBut<StAsnUpgradeOperationDef>({});
+    expectComparesAllBut<StAsnDCErrorCodeInfo>({});
+    expectComparesAllBut<StAsnOperationConfig>({});
+    expectComparesAllBut<StAsnViewConfig>({});
     // Two roots of one content are equal, whatever type and versions they are of.
-    expectCompared(false, stRoot, stRoot.strDevType, stRoot.strDevTypeVer, stRoot.lstDevVersion);
+    expectComparesAllBut<StAsnDevTypeVerXMLInfo>({"strDevType", "strDevTypeVer", "lstDevVersion"});
 }
 
 TEST(RecordEqualityTest, SeesOrderAndTheDeepestRecord)
