@@ -18,6 +18,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "TaskRead.h" EXCLUDE
             PATTERN "SectionChain.h" EXCLUDE
             PATTERN "ConfigSearch.h" EXCLUDE
+            PATTERN "SectionTable.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
 install(FILES common/XmlParser.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)

@@ -78,9 +78,7 @@ try
         return logFail(DC_HERE, DC_RESULT_INVALID_PARA, "NULL pointer");
     if (m_bCheckUnknown)
         return DC_RESULT_XML_ERROR; // logged then: what checks a type has must not depend on a call that threw
-    const StSectionLists stLists = {pInfo->stOperationConfig, pInfo->stViewConfig, pInfo->lstTaskConfigInfoOperation,
-                                    true};
-    return runSectionChain(pDOMParser, stLists,
+    return runSectionChain(pDOMParser, *pInfo,
                            [&](std::list<StAsnCheckOperationDef>& lstCheckOperation)
                            {
                                if (m_pCheckXmlParser == nullptr)

@@ -7,7 +7,6 @@
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLConfig.h"
 #include "reader/SectionChain.h"
-#include "sections/CCheckOpXMLConfig.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -248,11 +247,7 @@ try
         return logFail(DC_HERE, DC_RESULT_XML_ERROR,
                        "DeviceType is named too many times by one file :" + *pNamedTooOften);
     }
-    const StSectionLists stLists = {stModule.stOperationConfig, stModule.stViewConfig,
-                                    stModule.lstTaskConfigInfoOperation, false};
-    ulResult                     = runSectionChain(pDOMParser, stLists,
-                                                   [pDOMParser](std::list<StAsnCheckOperationDef>& lstCheckOperation)
-                                                   { return CCheckOpXMLConfig().setCheckOpConfiguration(pDOMParser, &lstCheckOperation); });
+    ulResult = runSectionChain(pDOMParser, stModule);
     if (ulResult != DC_RESULT_OK)
         return ulResult;
     if (!mapModule.emplace(m_strName, std::move(stModule)).second)

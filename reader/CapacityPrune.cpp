@@ -1,28 +1,31 @@
 // What a capacity list takes out of a record, list by list.
 #include "reader/CCapacityXMLConfig.h"
+#include "reader/SectionTable.h"
 #include "records/Vocabulary.h"
 
+#include <iterator>
 #include <map>
 #include <set>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace
 {
 using CapacityList = std::list<StAsnOperation>;
 
-// What the first capacity parameter of an id says. The texts are the capacity list's.
+// The first capacity parameter of an id. The texts are the capacity list's.
 struct StParamRule
 {
-    bool                                                 bIsRequired = false;
+    const StAsnOperParamDef*                             pParam = nullptr;
     std::set<std::pair<std::string_view, std::uint32_t>> setOption;
 };
 
 // What the capacity operations of one id say.
 struct StOperationRule
 {
-    bool                                    bIsFirstDenied = false;
-    bool                                    bIsLastDenied  = false;
+    const StAsnOperation*                   pFirst = nullptr;
+    const StAsnOperation*                   pLast  = nullptr;
     std::map<std::string_view, StParamRule> mapParam; // of the first operation
 };
 
@@ -34,10 +37,10 @@ public:
     {
         for (const StAsnOperation& stCapacity : lstCapacity)
         {
-            const auto [itRule, bIsFirst] = m_mapRule.try_emplace(stCapacity.strId);
-            itRule->second.bIsLastDenied  = !stCapacity.bIsSupported;
-            if (bIsFirst)
-                fill(itRule->second, stCapacity);
+            StOperationRule& stRule = m_mapRule[stCapacity.strId];
+            stRule.pLast            = &stCapacity;
+            if (stRule.pFirst == nullptr)
+                fill(stRule, stCapacity);
         }
     }
 
@@ -47,105 +50,121 @@ public:
         return itRule == m_mapRule.end() ? nullptr : &itRule->second;
     }
 
-    bool isFirstDenied(std::string_view strId) const
+    // The first capacity operation of an id if it denies it, else null.
+    const StAsnOperation* firstDenial(std::string_view strId) const
     {
         const StOperationRule* pRule = find(strId);
-        return pRule != nullptr && pRule->bIsFirstDenied;
+        return pRule == nullptr || pRule->pFirst->bIsSupported ? nullptr : pRule->pFirst;
     }
 
-    bool isLastDenied(std::string_view strId) const
+    // The same for the last one.
+    const StAsnOperation* lastDenial(std::string_view strId) const
     {
         const StOperationRule* pRule = find(strId);
-        return pRule != nullptr && pRule->bIsLastDenied;
+        return pRule == nullptr || pRule->pLast->bIsSupported ? nullptr : pRule->pLast;
     }
 
 private:
     static void fill(StOperationRule& stRule, const StAsnOperation& stCapacity)
     {
-        stRule.bIsFirstDenied = !stCapacity.bIsSupported;
+        stRule.pFirst = &stCapacity;
         for (const StAsnOperParamDef& stParam : stCapacity.lstParam)
         {
-            const auto [itParam, bIsFirst] = stRule.mapParam.try_emplace(stParam.strId);
-            if (!bIsFirst)
+            StParamRule& stParamRule = stRule.mapParam[stParam.strId];
+            if (stParamRule.pParam != nullptr)
                 continue;
-            itParam->second.bIsRequired = stParam.bIsRequired;
+            stParamRule.pParam = &stParam;
             for (const StAsnOptionInfo& stOption : stParam.lstOption)
-                itParam->second.setOption.emplace(stOption.strId, stOption.ulValue);
+                stParamRule.setOption.emplace(stOption.strId, stOption.ulValue);
         }
     }
 
     std::map<std::string_view, StOperationRule> m_mapRule;
 };
 
+// The one place where pruning removes a record: fnDenial names the capacity entry
+// because of which it goes, or null where it stays.
+template <typename Record, typename FindDenial>
+void removeDenied(std::list<Record>& lstRecord, FindDenial fnDenial)
+{
+    for (auto itRecord = lstRecord.begin(); itRecord != lstRecord.end();)
+        itRecord = fnDenial(*itRecord) == nullptr ? std::next(itRecord) : lstRecord.erase(itRecord);
+}
+
 // A parameter that the entry does not name is kept whole; one that it names as
 // not required goes; one that it requires keeps the options listed there.
 void pruneParameters(std::list<StAsnOperParamDef>& lstParam, const StOperationRule& stRule)
 {
-    lstParam.remove_if(
-        [&stRule](StAsnOperParamDef& stParam)
-        {
-            const auto itParam = stRule.mapParam.find(stParam.strId);
-            if (itParam == stRule.mapParam.end())
-                return false;
-            const StParamRule& stParamRule = itParam->second;
-            stParam.lstOption.remove_if(
-                [&stParamRule](const StAsnOptionInfo& stOption) {
-                    return stParamRule.setOption.count({stOption.strId, stOption.ulValue}) == 0;
-                });
-            return !stParamRule.bIsRequired;
-        });
+    removeDenied(lstParam,
+                 [&stRule](const StAsnOperParamDef& stParam)
+                 {
+                     const auto itParam = stRule.mapParam.find(stParam.strId);
+                     const bool bStays  = itParam == stRule.mapParam.end() || itParam->second.pParam->bIsRequired;
+                     return bStays ? nullptr : itParam->second.pParam;
+                 });
+    for (StAsnOperParamDef& stParam : lstParam)
+    {
+        const auto itParam = stRule.mapParam.find(stParam.strId);
+        if (itParam == stRule.mapParam.end())
+            continue;
+        removeDenied(stParam.lstOption,
+                     [&stParamRule = itParam->second](const StAsnOptionInfo& stOption) {
+                         return stParamRule.setOption.count({stOption.strId, stOption.ulValue}) != 0
+                                    ? nullptr
+                                    : stParamRule.pParam;
+                     });
+    }
 }
 
-// Device, task, patch and other operations: the first capacity operation decides.
-template <typename Operation>
-void pruneOperations(std::list<Operation>& lstOper, const CRules& oRules)
+// One prune() for each way in which the section table says that a list is pruned.
+
+template <typename Record>
+void prune(StNotPruned /*stHow*/, std::list<Record>& /*lstRecord*/, const CRules& /*oRules*/)
 {
-    lstOper.remove_if(
-        [&oRules](Operation& stOper)
-        {
-            const StOperationRule* pRule = oRules.find(stOper.strId);
-            if (pRule == nullptr)
-                return false;
-            if (!pRule->bIsFirstDenied)
-                pruneParameters(stOper.lstParam, *pRule);
-            return pRule->bIsFirstDenied;
-        });
 }
 
-template <typename Reference>
-void pruneByFirst(std::list<Reference>& lstReference, const CRules& oRules)
+template <typename Record>
+void prune(StByFirst /*stHow*/, std::list<Record>& lstRecord, const CRules& oRules)
 {
-    lstReference.remove_if([&oRules](const Reference& stReference) { return oRules.isFirstDenied(stReference.strId); });
+    removeDenied(lstRecord, [&oRules](const Record& stRecord) { return oRules.firstDenial(stRecord.strId); });
 }
 
-template <typename Reference>
-void pruneByLast(std::list<Reference>& lstReference, const CRules& oRules)
+template <typename Record>
+void prune(StByLast /*stHow*/, std::list<Record>& lstRecord, const CRules& oRules)
 {
-    lstReference.remove_if([&oRules](const Reference& stReference) { return oRules.isLastDenied(stReference.strId); });
+    removeDenied(lstRecord, [&oRules](const Record& stRecord) { return oRules.lastDenial(stRecord.strId); });
+}
+
+template <typename Record>
+void prune(StByOperation /*stHow*/, std::list<Record>& lstOper, const CRules& oRules)
+{
+    prune(StByFirst{}, lstOper, oRules);
+    for (Record& stOper : lstOper)
+    {
+        if (const StOperationRule* pRule = oRules.find(stOper.strId))
+            pruneParameters(stOper.lstParam, *pRule);
+    }
 }
 
 // One capacity operation answers for all checks.
-void pruneChecks(std::list<StAsnCheckOperationDef>& lstOper, const CRules& oRules)
+void prune(StByUpgradeCheck /*stHow*/, std::list<StAsnCheckOperationDef>& lstOper, const CRules& oRules)
 {
-    if (oRules.isFirstDenied(Vocabulary::UPGRADE_CHECK))
-        lstOper.clear();
+    const StAsnOperation* pDenial = oRules.firstDenial(Vocabulary::UPGRADE_CHECK);
+    removeDenied(lstOper, [pDenial](const StAsnCheckOperationDef& /*stOper*/) { return pDenial; });
 }
 
-void pruneViews(StAsnViewConfig& stView, const CRules& oRules)
+void prune(StMenuItems /*stHow*/, std::list<StAsnPatchTypeMenuDef>& lstMenu, const CRules& oRules)
 {
-    pruneByFirst(stView.lstDevViewPopupMenu, oRules);
-    pruneByFirst(stView.lstDevViewTab, oRules);
-    pruneByFirst(stView.lstIsolationViewPopupMenu, oRules);
-    for (StAsnPatchTypeMenuDef& stMenu : stView.lstPatchTypeMenu)
-        pruneByFirst(stMenu.lstMenuOp, oRules);
+    for (StAsnPatchTypeMenuDef& stMenu : lstMenu)
+        prune(StByFirst{}, stMenu.lstMenuOp, oRules);
 }
 
-void pruneTasks(std::list<StAsnTaskConfigInfoOperation>& lstTask, const CRules& oRules)
+void prune(StTaskSteps /*stHow*/, std::list<StAsnTaskConfigInfoOperation>& lstTask, const CRules& oRules)
 {
     for (StAsnTaskConfigInfoOperation& stTask : lstTask)
     {
         for (StAsnTaskConfigOperation& stContent : stTask.lstTaskConfigOperation)
-            pruneByLast(stContent.lstTaskOperationDef, oRules);
+            prune(StByLast{}, stContent.lstTaskOperationDef, oRules);
     }
 }
 } // namespace
@@ -154,58 +173,56 @@ void CCapacityXMLConfig::combineXMLInfo(StAsnDevTypeVerXMLInfo* pInfo, const Cap
 {
     if (pInfo == nullptr)
         return;
-    const CRules          oRules(lstCapacity);
-    StAsnOperationConfig& stOper = pInfo->stOperationConfig;
-    pruneOperations(stOper.lstDevOperation, oRules);
-    pruneOperations(stOper.lstTaskOperation, oRules);
-    pruneOperations(stOper.lstPatchOperation, oRules);
-    pruneChecks(stOper.lstCheckOperation, oRules);
-    pruneByLast(stOper.lstCustomOperation, oRules);
-    pruneOperations(stOper.lstOtherOperation, oRules);
-    pruneViews(pInfo->stViewConfig, oRules);
-    pruneTasks(pInfo->lstTaskConfigInfoOperation, oRules);
+    const CRules oRules(lstCapacity);
+    forEachSection([&](const auto& stSection) { prune(stSection.stPruned, listOf(*pInfo, stSection.pList), oRules); });
 }
 
 void CCapacityXMLConfig::combineDevOperation(std::list<StAsnOperation>& lstOper, const CapacityList& lstCapacity)
 {
-    pruneOperations(lstOper, lstCapacity);
+    prune(StByOperation{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combineTaskOperation(std::list<StAsnOperation>& lstOper, const CapacityList& lstCapacity)
 {
-    pruneOperations(lstOper, lstCapacity);
+    prune(StByOperation{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combinePatchOperation(std::list<StAsnOperation>& lstOper, const CapacityList& lstCapacity)
 {
-    pruneOperations(lstOper, lstCapacity);
+    prune(StByOperation{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combineOtherOperation(std::list<StAsnOtherOperationDef>& lstOper,
                                                const CapacityList&                lstCapacity)
 {
-    pruneOperations(lstOper, lstCapacity);
+    prune(StByOperation{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combineCheckOperation(std::list<StAsnCheckOperationDef>& lstOper,
                                                const CapacityList&                lstCapacity)
 {
-    pruneChecks(lstOper, lstCapacity);
+    prune(StByUpgradeCheck{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combineCustomOperation(std::list<StAsnCustomOperationDef>& lstOper,
                                                 const CapacityList&                 lstCapacity)
 {
-    pruneByLast(lstOper, lstCapacity);
+    prune(StByLast{}, lstOper, lstCapacity);
 }
 
 void CCapacityXMLConfig::combineViewConfiguation(StAsnViewConfig& stView, const CapacityList& lstCapacity)
 {
-    pruneViews(stView, lstCapacity);
+    const CRules oRules(lstCapacity);
+    forEachSection(
+        [&](const auto& stSection)
+        {
+            if constexpr (std::is_same_v<typename std::decay_t<decltype(stSection)>::OwnerOfList, StAsnViewConfig>)
+                prune(stSection.stPruned, stView.*stSection.pList, oRules);
+        });
 }
 
 void CCapacityXMLConfig::combineTaskConfiguration(std::list<StAsnTaskConfigInfoOperation>& lstTask,
                                                   const CapacityList&                      lstCapacity)
 {
-    pruneTasks(lstTask, lstCapacity);
+    prune(StTaskSteps{}, lstTask, lstCapacity);
 }

@@ -1,48 +1,49 @@
-// One line a section; a new section is one more line at its place in the order.
+// One read of a whole document, row by row of the section table.
 #include "reader/SectionChain.h"
 
+#include "reader/SectionTable.h"
 #include "records/ResultCodes.h"
-#include "sections/CCustomOpXMLConfig.h"
-#include "sections/CDevOpXMLConfig.h"
-#include "sections/CDevViewPopupMenuConfig.h"
-#include "sections/CIsolationViewPopupMenuConfig.h"
-#include "sections/COtherOpXMLConfig.h"
-#include "sections/CPatchViewPopupMenuConfig.h"
-#include "sections/CPatchXMLConfig.h"
-#include "sections/CTaskXMLConfig.h"
-#include "sections/CUpgradeOpXMLConfig.h"
 
-std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, const StSectionLists& stLists,
+#include <type_traits>
+
+namespace
+{
+// Reads one section into a list: a row's own parser, unless the caller has another.
+template <typename Section, typename Record>
+std::uint32_t readSection(const Section& stSection, xercesc::XercesDOMParser* pDOMParser, std::list<Record>& lstRecord,
+                          const CheckSectionReader& fnReadChecks)
+{
+    if constexpr (std::is_same_v<Record, StAsnCheckOperationDef>)
+    {
+        if (fnReadChecks)
+            return fnReadChecks(lstRecord);
+    }
+    return stSection.read(pDOMParser, lstRecord);
+}
+
+template <typename Root>
+std::uint32_t readSections(xercesc::XercesDOMParser* pDOMParser, Root& stRoot, const CheckSectionReader& fnReadChecks)
+{
+    std::uint32_t ulResult = DC_RESULT_OK;
+    forEachSection(
+        [&](const auto& stSection)
+        {
+            const bool bIsRead =
+                std::is_same_v<Root, StAsnDevTypeVerXMLInfo> || stSection.enModuleUse != EnModuleUse::None;
+            if (ulResult == DC_RESULT_OK && bIsRead)
+                ulResult = readSection(stSection, pDOMParser, listOf(stRoot, stSection.pList), fnReadChecks);
+        });
+    return ulResult;
+}
+} // namespace
+
+std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, StAsnDevTypeVerXMLInfo& stInfo,
                               const CheckSectionReader& fnReadChecks)
 {
-    StAsnOperationConfig& stOper = stLists.stOperationConfig;
-    StAsnViewConfig&      stView = stLists.stViewConfig;
+    return readSections(pDOMParser, stInfo, fnReadChecks);
+}
 
-    const std::function<std::uint32_t()> arSections[] = {
-        [&] { return CDevOpXMLConfig().setDevOperXMLConfig(pDOMParser, &stOper.lstDevOperation); },
-        [&] { return CDevOpXMLConfig().setTaskOperationXMLConfig(pDOMParser, &stOper.lstTaskOperation); },
-        [&] { return CDevOpXMLConfig().setPatchOperXMLConfig(pDOMParser, &stOper.lstPatchOperation); },
-        [&] { return CPatchXMLConfig().setPatchStateConfiguraion(pDOMParser, &stOper.lstPatchDef); },
-        [&] { return fnReadChecks(stOper.lstCheckOperation); },
-        [&] { return CCustomOpXMLConfig().setCustomOperXMLConfig(pDOMParser, &stOper.lstCustomOperation); },
-        [&] { return COtherOpXMLConfig().setOtherOperXMLConfig(pDOMParser, &stOper.lstOtherOperation); },
-        [&] { return CUpgradeOpXMLConfig().setUpgradeOperXMLConfig(pDOMParser, &stOper.lstUpgradeOperation); },
-        [&] { return CDevViewPopupMenuConfig().setDevViewPopupMenuConfig(pDOMParser, &stView.lstDevViewPopupMenu); },
-        [&] { return CDevViewPopupMenuConfig().setDevViewTabConfig(pDOMParser, &stView.lstDevViewTab); },
-        [&] { return CPatchViewPopupMenuConfig().setPatchViewPopupMenuConfig(pDOMParser, &stView.lstPatchTypeMenu); },
-        [&]
-        {
-            return !stLists.bReadsIsolationMenu ? DC_RESULT_OK
-                                                : CIsolationViewPopupMenuConfig().setIsolationViewPopupMenuConfig(
-                                                      pDOMParser, &stView.lstIsolationViewPopupMenu);
-        },
-        [&] { return CTaskXMLConfig().setTaskConfiguration(pDOMParser, &stLists.lstTaskConfigInfoOperation); },
-    };
-    for (const auto& fnReadSection : arSections)
-    {
-        const std::uint32_t ulResult = fnReadSection();
-        if (ulResult != DC_RESULT_OK)
-            return ulResult;
-    }
-    return DC_RESULT_OK;
+std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, StAsnModuleInfoVerXMLInfo& stModule)
+{
+    return readSections(pDOMParser, stModule, {});
 }

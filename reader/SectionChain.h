@@ -1,10 +1,11 @@
 // The sections of a server configuration file in the order in which they are
-// read. The first failing section ends the read; what was filled before it stays
-// in the lists, and the caller discards the record.
+// read: called by the readers of device types and of modules. The first failing
+// section ends the read; what was filled before it stays in the lists, and the
+// caller discards the record. Keeps nothing between calls.
 #ifndef OPERATIONXML_READER_SECTIONCHAIN_H
 #define OPERATIONXML_READER_SECTIONCHAIN_H
 
-#include "records/RootRecords.h"
+#include "records/ModuleRecords.h"
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
@@ -12,20 +13,14 @@
 #include <functional>
 #include <list>
 
-// The lists that a document's sections fill.
-struct StSectionLists
-{
-    StAsnOperationConfig&                    stOperationConfig;
-    StAsnViewConfig&                         stViewConfig;
-    std::list<StAsnTaskConfigInfoOperation>& lstTaskConfigInfoOperation;
-    bool                                     bReadsIsolationMenu; // module files have none
-};
-
-// Where the check operations come from differs between device types and modules.
+// Where the check operations of a device type come from is its reader's knowledge.
 using CheckSectionReader = std::function<std::uint32_t(std::list<StAsnCheckOperationDef>&)>;
 
 // Runs every section parser on the document; returns the first non-zero result.
-std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, const StSectionLists& stLists,
+std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, StAsnDevTypeVerXMLInfo& stInfo,
                               const CheckSectionReader& fnReadChecks);
+
+// The same for a module: no isolation menu, and the document's own checks.
+std::uint32_t runSectionChain(xercesc::XercesDOMParser* pDOMParser, StAsnModuleInfoVerXMLInfo& stModule);
 
 #endif

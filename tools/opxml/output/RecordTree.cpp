@@ -203,23 +203,15 @@ void addAll(StTree& stTree, const std::list<Record>& lstRecord)
         stTree.lstChild.push_back(describe(stRecord));
 }
 
-// What makes two records of a section the same thing for a lookup.
-template <typename Record>
-std::string identityOf(const Record& stRecord)
+// What makes two records of a section the same thing for a lookup, as a text.
+std::string identityText(const std::string& strId)
 {
-    return stRecord.strId;
+    return strId;
 }
-std::string identityOf(const StAsnPatchDef& stPatch)
+template <typename Enum>
+std::string identityText(const AsnEnum<Enum>& enType)
 {
-    return std::to_string(stPatch.enPatchType.number());
-}
-std::string identityOf(const StAsnPatchTypeMenuDef& stMenu)
-{
-    return std::to_string(stMenu.enPatchType.number());
-}
-std::string identityOf(const StAsnTaskConfigInfoOperation& stTask)
-{
-    return std::to_string(stTask.enTaskType.number());
+    return std::to_string(enType.number());
 }
 
 // The sections of one record; the tail of each list is what modules appended.
@@ -231,25 +223,26 @@ public:
     {
     }
 
-    template <typename Record>
-    void add(const std::list<Record>& lstRecord)
+    template <typename Section, typename Record>
+    void add(const Section& stSectionRow, const std::list<Record>& lstRecord)
     {
         const std::size_t nSection = m_nNext++;
         if (lstRecord.empty())
             return;
-        StTree& stSection = m_stTree.add(fmt::format("{} ({})", SECTION_TITLES[nSection].pszTitle, lstRecord.size()));
+        StTree& stSection = m_stTree.add(fmt::format("{} ({})", stSectionRow.pszTitle, lstRecord.size()));
         const std::vector<std::string> lstOwner = ownersOf(nSection, lstRecord.size());
         std::set<std::string>          setOwn;
         auto                           itOwner = lstOwner.begin();
         for (const Record& stRecord : lstRecord)
         {
+            const std::string  strId    = identityText(stRecord.*stSectionRow.pIdentity);
             StTree             stChild  = describe(stRecord);
             const std::string& strOwner = *itOwner++;
             if (strOwner.empty())
-                setOwn.insert(identityOf(stRecord));
+                setOwn.insert(strId);
             else
                 stChild.strText += "  [module " + strOwner + "]";
-            if (!strOwner.empty() && setOwn.count(identityOf(stRecord)) != 0)
+            if (!strOwner.empty() && setOwn.count(strId) != 0)
                 stChild.strText += " the type defines this id itself: its own definition wins";
             stSection.lstChild.push_back(std::move(stChild));
         }
@@ -277,18 +270,6 @@ void addRecord(StTree& stTree, const StAsnDevTypeVerXMLInfo& stInfo, const std::
 {
     for (const StAsnDevVersion& stVersion : stInfo.lstDevVersion)
         stTree.add("for version " + stVersion.strSoftVersion + detail("patch", stVersion.strPatchVersion));
-    CSectionTrees oSections(stTree, lstContribution); // in the order of SECTION_TITLES
-    oSections.add(stInfo.stOperationConfig.lstDevOperation);
-    oSections.add(stInfo.stOperationConfig.lstTaskOperation);
-    oSections.add(stInfo.stOperationConfig.lstPatchOperation);
-    oSections.add(stInfo.stOperationConfig.lstPatchDef);
-    oSections.add(stInfo.stOperationConfig.lstCheckOperation);
-    oSections.add(stInfo.stOperationConfig.lstCustomOperation);
-    oSections.add(stInfo.stOperationConfig.lstOtherOperation);
-    oSections.add(stInfo.stOperationConfig.lstUpgradeOperation);
-    oSections.add(stInfo.stViewConfig.lstDevViewPopupMenu);
-    oSections.add(stInfo.stViewConfig.lstDevViewTab);
-    oSections.add(stInfo.stViewConfig.lstPatchTypeMenu);
-    oSections.add(stInfo.stViewConfig.lstIsolationViewPopupMenu);
-    oSections.add(stInfo.lstTaskConfigInfoOperation);
+    CSectionTrees oSections(stTree, lstContribution);
+    forEachSection([&](const auto& stSection) { oSections.add(stSection, listOf(stInfo, stSection.pList)); });
 }

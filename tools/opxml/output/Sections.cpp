@@ -3,56 +3,49 @@
 
 #include "database/CXMLConfigDatabase.h"
 
-const std::array<StSectionTitle, SECTION_COUNT> SECTION_TITLES = {{
-    {"dev", "lstDevOperation", "Device operations"},
-    {"task", "lstTaskOperation", "Task operations"},
-    {"patch", "lstPatchOperation", "Patch operations"},
-    {"state", "lstPatchDef", "Patch states"},
-    {"check", "lstCheckOperation", "Check operations"},
-    {"cust", "lstCustomOperation", "Custom operations"},
-    {"other", "lstOtherOperation", "Other operations"},
-    {"upgr", "lstUpgradeOperation", "Upgrade operations"},
-    {"menu", "lstDevViewPopupMenu", "Device view popup menu"},
-    {"tab", "lstDevViewTab", "Device view tabs"},
-    {"pmenu", "lstPatchTypeMenu", "Patch view popup menu"},
-    {"iso", "lstIsolationViewPopupMenu", "Isolation view popup menu"},
-    {"types", "lstTaskConfigInfoOperation", "Task types"},
-}};
-
 namespace
 {
-SectionCounts countLists(const StAsnOperationConfig& stOper, const StAsnViewConfig& stView,
-                         const std::list<StAsnTaskConfigInfoOperation>& lstTask)
+std::array<StSectionTitle, SECTION_COUNT> sectionTitles()
 {
-    return {stOper.lstDevOperation.size(),
-            stOper.lstTaskOperation.size(),
-            stOper.lstPatchOperation.size(),
-            stOper.lstPatchDef.size(),
-            stOper.lstCheckOperation.size(),
-            stOper.lstCustomOperation.size(),
-            stOper.lstOtherOperation.size(),
-            stOper.lstUpgradeOperation.size(),
-            stView.lstDevViewPopupMenu.size(),
-            stView.lstDevViewTab.size(),
-            stView.lstPatchTypeMenu.size(),
-            stView.lstIsolationViewPopupMenu.size(),
-            lstTask.size()};
+    std::array<StSectionTitle, SECTION_COUNT> arTitle = {};
+    std::size_t                               nAt     = 0;
+    forEachSection(
+        [&](const auto& stSection) {
+            arTitle[nAt++] = {stSection.pszShort, stSection.pszField, stSection.pszTitle};
+        });
+    return arTitle;
+}
+
+template <typename Root>
+SectionCounts countLists(const Root& stRoot, bool bOnlyAppended)
+{
+    SectionCounts arCount = {};
+    std::size_t   nAt     = 0;
+    forEachSection(
+        [&](const auto& stSection)
+        {
+            const bool bCounts = !bOnlyAppended || stSection.enModuleUse == EnModuleUse::Appends;
+            arCount[nAt++]     = bCounts ? listOf(stRoot, stSection.pList).size() : 0;
+        });
+    return arCount;
 }
 } // namespace
 
+const std::array<StSectionTitle, SECTION_COUNT> SECTION_TITLES = sectionTitles();
+
 SectionCounts countSections(const StAsnDevTypeVerXMLInfo& stInfo)
 {
-    return countLists(stInfo.stOperationConfig, stInfo.stViewConfig, stInfo.lstTaskConfigInfoOperation);
+    return countLists(stInfo, false);
 }
 
 SectionCounts countSections(const StAsnModuleInfoVerXMLInfo& stModule)
 {
-    return countLists(stModule.stOperationConfig, stModule.stViewConfig, stModule.lstTaskConfigInfoOperation);
+    return countLists(stModule, false);
 }
 
 SectionCounts countAdded(const StAsnModuleInfoVerXMLInfo& stModule)
 {
-    return countLists(stModule.stOperationConfig, {}, stModule.lstTaskConfigInfoOperation);
+    return countLists(stModule, true);
 }
 
 std::vector<StContribution> findContributions(const std::string& strDevType)

@@ -3,14 +3,13 @@
 #ifndef OPERATIONXML_TOOLS_OPXML_OUTPUT_SECTIONS_H
 #define OPERATIONXML_TOOLS_OPXML_OUTPUT_SECTIONS_H
 
+#include "reader/SectionTable.h"
 #include "records/ModuleRecords.h"
 
 #include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
-
-constexpr std::size_t SECTION_COUNT = 13;
 
 struct StSectionTitle
 {
