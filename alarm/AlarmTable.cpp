@@ -29,13 +29,11 @@ std::string quoted(std::string_view strText)
 }
 } // namespace
 
-CAlarmTable::CAlarmTable(const char* pszFileName)
-    : m_strPath(tablePath(pszFileName)), m_pXmlParser(CXmlParser::create())
+void CAlarmTable::read(const LocationInfo& stWhere, const char* pszFileName,
+                       const std::function<void(const DOMElement&)>& fnRecord)
 {
-}
-
-void CAlarmTable::read(const LocationInfo& stWhere, const std::function<void(const DOMElement&)>& fnRecord)
-{
+    m_strPath    = tablePath(pszFileName);
+    m_pXmlParser = CXmlParser::create();
     if (m_pXmlParser == nullptr)
     {
         addProblem("the XML parser cannot be started");

@@ -35,14 +35,16 @@ public:
     const std::vector<std::string>& problems() const { return m_lstProblem; }
 
 protected:
-    explicit CAlarmTable(const char* pszFileName);
+    CAlarmTable() noexcept                     = default; // whatever fails later, there is an instance
     ~CAlarmTable()                             = default;
     CAlarmTable(const CAlarmTable&)            = delete;
     CAlarmTable& operator=(const CAlarmTable&) = delete;
 
     // Parses the file and hands over its "record" elements in document order.
-    // Without a parser or a document it logs why and hands over none.
-    void read(const LocationInfo& stWhere, const std::function<void(const xercesc::DOMElement&)>& fnRecord);
+    // Without a parser or a document it logs why and hands over none. The file is
+    // named by its path below the language folder.
+    void read(const LocationInfo& stWhere, const char* pszFileName,
+              const std::function<void(const xercesc::DOMElement&)>& fnRecord);
 
     // An unsigned decimal number: leading white space is skipped, reading stops
     // at the first character that is no digit (a sign is none). Empty without a
@@ -59,7 +61,7 @@ protected:
 private:
     std::string                 m_strPath;
     std::vector<std::string>    m_lstProblem;
-    std::unique_ptr<CXmlParser> m_pXmlParser; // kept without its document; null when Xerces cannot start
+    std::unique_ptr<CXmlParser> m_pXmlParser; // kept without its document; null when it cannot start
     bool                        m_bIsRead  = false;
     unsigned long               m_ulRecord = 0;
 };

@@ -1,9 +1,12 @@
 // The alarm explanation dictionary: one "record" element is one alarm.
 #include "alarm/InitAlarmInfo.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "common/XmlRead.h"
 
+#include <cstddef>
+#include <new>
 #include <utility>
 
 using namespace xercesc;
@@ -26,37 +29,52 @@ std::string loadLine(const AlarmStaticInfo& stAlarm)
 
 InitAlarmInfo* InitAlarmInfo::m_pInstance = nullptr;
 
+// Where the instance lives: no memory can be short of it.
+alignas(InitAlarmInfo) static std::byte s_arInstance[sizeof(InitAlarmInfo)];
+
 InitAlarmInfo* InitAlarmInfo::Instance()
 {
     if (m_pInstance == nullptr)
-        m_pInstance = new InitAlarmInfo();
+        m_pInstance = new (s_arInstance) InitAlarmInfo();
     return m_pInstance;
 }
 
 void InitAlarmInfo::Destroy()
 {
-    delete std::exchange(m_pInstance, nullptr);
+    if (m_pInstance != nullptr)
+        std::exchange(m_pInstance, nullptr)->~InitAlarmInfo();
 }
 
-InitAlarmInfo::InitAlarmInfo() : CAlarmTable("kivo/fm/dc_tbl_alm_exp_info.xml")
+// What is thrown ends the read: the alarms taken before it stay.
+InitAlarmInfo::InitAlarmInfo()
 {
-    const LocationInfo   stHere = DC_HERE;
-    const _TraceFunction oTrace(stHere);
-    read(stHere,
-         [&](const DOMElement& oRecord)
-         {
-             AlarmStaticInfo stAlarm;
-             fillAlarmInfo(&oRecord, stAlarm);
-             logInfo(stHere, loadLine(stAlarm));
-             // The first record of an id stays.
-             const std::uint64_t ulAlarmId = stAlarm.ulAlarmId;
-             if (!m_mapAlarm.try_emplace(ulAlarmId, std::move(stAlarm)).second)
-                 addProblem("alarm " + std::to_string(ulAlarmId) + " stands in an earlier record, which is kept");
-         });
+    const LocationInfo stHere = DC_HERE;
+    try
+    {
+        const CEntry         oEntry;
+        const _TraceFunction oTrace(stHere);
+        read(stHere, "kivo/fm/dc_tbl_alm_exp_info.xml",
+             [&](const DOMElement& oRecord)
+             {
+                 AlarmStaticInfo stAlarm;
+                 fillAlarmInfo(&oRecord, stAlarm);
+                 logInfo(stHere, loadLine(stAlarm));
+                 // The first record of an id stays.
+                 const std::uint64_t ulAlarmId = stAlarm.ulAlarmId;
+                 if (!m_mapAlarm.try_emplace(ulAlarmId, std::move(stAlarm)).second)
+                     addProblem("alarm " + std::to_string(ulAlarmId) + " stands in an earlier record, which is kept");
+             });
+    }
+    catch (...)
+    {
+        logThrown(stHere, DC_RESULT_XML_ERROR);
+    }
 }
 
 AlarmStaticInfo InitAlarmInfo::getAlarmNameByAlarmId(unsigned long ulAlarmId) const
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const auto           itFound = m_mapAlarm.find(ulAlarmId);
     if (itFound != m_mapAlarm.end())
@@ -65,9 +83,16 @@ AlarmStaticInfo InitAlarmInfo::getAlarmNameByAlarmId(unsigned long ulAlarmId) co
     stUnknown.ulAlarmId = ulAlarmId;
     return stUnknown;
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {ulAlarmId, {}, {}, {}};
+}
 
 void InitAlarmInfo::fillAlarmInfo(const DOMElement* pRecord, AlarmStaticInfo& stAlarm)
+try
 {
+    const CEntry oEntry;
     if (pRecord == nullptr)
     {
         logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
@@ -97,4 +122,8 @@ void InitAlarmInfo::fillAlarmInfo(const DOMElement* pRecord, AlarmStaticInfo& st
     }
     if (!bHasId)
         addProblem("no \"AlarmID\", so the record is stored under 0");
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }

@@ -25,6 +25,7 @@ class OPERATIONXML_API InitAlarmInfo : public CAlarmTable
 {
 public:
     // The one instance; the first call after the start or after Destroy() reads the file.
+    // Never null: it needs no memory of its own.
     static InitAlarmInfo* Instance();
     // Destroy() ends the life of that pointer and of every reference got through it,
     // so no other thread may still use them.

@@ -1,12 +1,14 @@
 // The alarm transfer registration: one "record" element registers fault ids.
 #include "alarm/InitTblRegInfo.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "common/XmlRead.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,29 +36,49 @@ std::string joined(const std::list<unsigned long>& lstFaultId)
 
 InitTblRegInfo* InitTblRegInfo::m_pInstance = nullptr;
 
+// Where the instance lives: no memory can be short of it.
+alignas(InitTblRegInfo) static std::byte s_arInstance[sizeof(InitTblRegInfo)];
+
 void InitTblRegInfo::Destroy()
 {
-    delete std::exchange(m_pInstance, nullptr);
+    if (m_pInstance != nullptr)
+        std::exchange(m_pInstance, nullptr)->~InitTblRegInfo();
 }
 
 InitTblRegInfo* InitTblRegInfo::Instance()
 {
     if (m_pInstance == nullptr)
-        m_pInstance = new InitTblRegInfo();
+        m_pInstance = new (s_arInstance) InitTblRegInfo();
     return m_pInstance;
 }
 
-InitTblRegInfo::InitTblRegInfo() : CAlarmTable("kivo/fm/dc_tbl_RegInfo.xml")
+// What is thrown ends the read: the registrations taken before it stay.
+InitTblRegInfo::InitTblRegInfo()
 {
-    const LocationInfo   stHere = DC_HERE;
-    const _TraceFunction oTrace(stHere);
-    read(stHere, [this](const DOMElement& oRecord) { FillAlarmInfo(&oRecord); });
+    const LocationInfo stHere = DC_HERE;
+    try
+    {
+        const CEntry         oEntry;
+        const _TraceFunction oTrace(stHere);
+        read(stHere, "kivo/fm/dc_tbl_RegInfo.xml", [this](const DOMElement& oRecord) { FillAlarmInfo(&oRecord); });
+    }
+    catch (...)
+    {
+        logThrown(stHere, DC_RESULT_XML_ERROR);
+    }
 }
 
 bool InitTblRegInfo::NeedTransfer(const NS_UTIL::EnvAlarmInfo& stAlarm) const
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     return findRegistration(stAlarm) != EnTransferBy::None;
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return false;
 }
 
 EnTransferBy InitTblRegInfo::findRegistration(const NS_UTIL::EnvAlarmInfo& stAlarm) const
@@ -70,7 +92,9 @@ EnTransferBy InitTblRegInfo::findRegistration(const NS_UTIL::EnvAlarmInfo& stAla
 }
 
 void InitTblRegInfo::FillAlarmInfo(const DOMElement* pRecord)
+try
 {
+    const CEntry    oEntry;
     const CElements oParams(pRecord, u"param");
     if (oParams.isMissing())
     {
@@ -96,10 +120,16 @@ void InitTblRegInfo::FillAlarmInfo(const DOMElement* pRecord)
     else
         AddAlarmToLst(lstFaultId);
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t InitTblRegInfo::GetAlarmsAndDevType(const ElementList& lstParam, unsigned long& ulDevType,
                                                   std::list<unsigned long>& lstFaultId, std::size_t nIndex)
+try
 {
+    const CEntry      oEntry;
     const DOMElement* pParam = nIndex < lstParam.size() ? lstParam[nIndex] : nullptr;
     if (pParam == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
@@ -131,19 +161,35 @@ std::uint32_t InitTblRegInfo::GetAlarmsAndDevType(const ElementList& lstParam, u
     }
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 // The ids are separated as in the table, the device type by a colon, so that a
 // search for "by devtype:5:" finds one type's registrations.
 void InitTblRegInfo::AddAlarmToLst(const std::list<unsigned long>& lstFaultId)
+try
 {
+    const CEntry oEntry;
     addTo(m_mapAllTypes, lstFaultId);
     logInfo(DC_HERE, "alarm need to transfer:" + joined(lstFaultId));
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 void InitTblRegInfo::AddAlarmInfoToMap(const unsigned long& ulDevType, const std::list<unsigned long>& lstFaultId)
+try
 {
+    const CEntry oEntry;
     addTo(m_mapByDevType[ulDevType], lstFaultId);
     logInfo(DC_HERE, "alarm need to transfer by devtype:" + std::to_string(ulDevType) + ":" + joined(lstFaultId));
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 void InitTblRegInfo::addTo(FaultIdMap& mapFaultId, const std::list<unsigned long>& lstFaultId) const

@@ -31,6 +31,7 @@ public:
     using FaultIdMap = std::map<unsigned long, unsigned long>;
 
     // The one instance; the first call after the start or after Destroy() reads the table.
+    // Never null: it needs no memory of its own.
     static InitTblRegInfo* Instance();
     // Destroy() ends the life of that pointer and of every reference got through it,
     // so no other thread may still use them.

@@ -1,4 +1,4 @@
-// What was thrown, told as one log line.
+// Who stops what was thrown, and its log line.
 #include "common/Guarded.h"
 
 #include "common/LogLine.h"
@@ -7,6 +7,28 @@
 #include <exception>
 #include <new>
 #include <string>
+
+namespace
+{
+thread_local unsigned s_uEntries = 0;
+}
+
+CEntry::CEntry() noexcept
+{
+    ++s_uEntries;
+}
+
+CEntry::~CEntry()
+{
+    --s_uEntries;
+}
+
+std::uint32_t answerThrown(const LocationInfo& stWhere, std::uint32_t ulCode)
+{
+    if (s_uEntries != 0)
+        throw;
+    return logThrown(stWhere, ulCode);
+}
 
 std::uint32_t logThrown(const LocationInfo& stWhere, std::uint32_t ulCode)
 {

@@ -13,6 +13,10 @@
 // the moment it is handed out, even for a copy: copy inside visitDevTypes, which
 // holds the mutex. Queries copy their answers and hand out no pointer.
 //
+// Exceptions. None leaves: memory that runs out and platform calls that throw end in
+// one log line, and DC_RESULT_XML_ERROR or the answer of a question that nobody can
+// answer. What is stored stays whole; out values are then worth nothing.
+//
 // "The caller holds the mutex" means a caller inside the library: nobody else can.
 // From outside, those operations are safe only while no other thread is about.
 #ifndef OPERATIONXML_DATABASE_CXMLCONFIGDATABASE_H
@@ -38,6 +42,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 struct LocationInfo;
 
@@ -48,11 +53,10 @@ public:
 
     // The database, created and loaded on first use. Other threads wait for the
     // whole load; the loading thread itself gets the instance that is being
-    // loaded. Never null: a load that failed leaves an empty database, which
-    // reads device types on demand.
+    // loaded. Never null: the instance needs no memory of its own, and a load that
+    // failed or ran out of memory leaves a database that reads device types on demand.
     static CXMLConfigDatabase* getInstance();
 
-    CXMLConfigDatabase();
     ~CXMLConfigDatabase();
     CXMLConfigDatabase(const CXMLConfigDatabase&)            = delete;
     CXMLConfigDatabase& operator=(const CXMLConfigDatabase&) = delete;
@@ -64,8 +68,9 @@ public:
 
     // Puts the records under a key; the store owns them from then on. Records
     // stored there before are freed, save those that the new list names again.
-    // Null pointers are left out. The caller holds the mutex (the load and the
-    // lookups do).
+    // Null pointers are left out. When memory runs out the store is as before, the
+    // new records are freed and lstInfo comes back empty. The caller holds the mutex
+    // (the load and the lookups do).
     void storeDevTypeXMLConfig(const std::string& strKey, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
     // Fills lstInfo with the records of a device type; what it held before is
@@ -83,7 +88,7 @@ public:
     // Frees the records of a list and nulls its pointers; the list keeps its length.
     // Takes no lock, and is not for lists that the database filled: their records
     // are the store's and would be freed twice.
-    void freeXMLInfo(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
+    void freeXMLInfo(std::list<StAsnDevTypeVerXMLInfo*>& lstInfo) noexcept;
 
     // The next three are for tools that show what was read; a server asks none of them.
 
@@ -92,7 +97,8 @@ public:
 
     // Calls fnVisit for every key of the store in order. The mutex is held
     // meanwhile: fnVisit must not wait for other threads that ask the database, nor
-    // read a capacity itself. What it is handed is valid until it returns.
+    // read a capacity itself. What it is handed is valid until it returns. What it
+    // throws ends the visit.
     void
     visitDevTypes(const std::function<void(const std::string&, const std::list<StAsnDevTypeVerXMLInfo*>&)>& fnVisit);
 
@@ -102,7 +108,7 @@ public:
     // ---- Load and file names (DevTypeLoad.cpp) ----
 
     // The full start-up load. 0, also when single types failed; the registry's
-    // code when the installed types cannot be listed.
+    // code when the installed types cannot be listed. The load report starts anew.
     std::uint32_t readAndStoreDevTypeXMLConfig();
 
     // Reads, merges and stores one device type, leaving its records in lstInfo,
@@ -110,7 +116,8 @@ public:
     std::uint32_t readAndStoreDevTypeXMLConfig(const std::string& strDevType, const std::string& strDevTypeVer,
                                                std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
-    // Adds every installed device type to the map, under its name.
+    // Adds every installed device type to the map, under its name. After a code
+    // that is not 0 the map may hold some of them.
     std::uint32_t getExistDeviceTypes(std::multimap<std::string, StDeviceType>& mapDeviceType);
 
     // File names need no instance, so a reader may ask for them during the load.
@@ -129,7 +136,8 @@ public:
     // for each time that a module names the type.
     void mergeModuleInfoToDev(std::string strDevType, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
 
-    // Appends copies of one module's operations and task configurations to a record.
+    // Appends copies of one module's operations and task configurations to a record,
+    // or, when memory runs out, none.
     void mergeXmlConfig(StAsnModuleInfoVerXMLInfo& stModule, StAsnDevTypeVerXMLInfo* pInfo);
 
     // ---- Capability queries (CapabilityQueries.cpp) ----
@@ -179,9 +187,14 @@ public:
     // ---- Content types and board types (ContentTypes.cpp) ----
     // 0 with an untouched output when nothing matches, so callers pre-set it; the
     // platform's code when a device or id cannot be resolved;
-    // DC_RESULT_INVALID_PARA without a record.
+    // DC_RESULT_INVALID_PARA without a record. All operations of the id and all
+    // their parameters named "ContentType" are searched: in each parameter the first
+    // option that matches counts, and of several parameters the last one that has one.
 
-    // The name of a content-type value of a device.
+    // The name of a content-type value of a device: of an option of the device
+    // operation "Backup", "LoadData" and "Backup". Only the third asks bTelnetToDev
+    // and then looks at the telnet variant; the others look where the device
+    // database says.
     std::uint32_t getContentTypeId(unsigned long ulDeviceID, int nContentType, std::string& strName);
     std::uint32_t getLoadDataContentTypeID(unsigned long ulDeviceID, int nContentType, std::string& strName);
     std::uint32_t getBackupContentTypeId(unsigned long ulDeviceID, int nContentType, std::string& strName);
@@ -201,18 +214,27 @@ public:
     std::uint32_t getAllBackupContentTypeNameByDevTypeName(const std::string& strDevType, std::string& strList,
                                                            const EnDeviceType& enDeviceType);
 
+protected:
+    // Only getInstance() makes one: a database that nobody loads would let its first
+    // question wait for ever.
+    CXMLConfigDatabase();
+
 private:
     class CQueryGuard;
+    class CLoad;
 
     void waitUntilLoaded();
-    void endLoad();
+    // storeDevTypeXMLConfig, but throws when memory runs out.
+    void store(const std::string& strKey, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo);
+    void freeUnstored(const std::string& strKey, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo) noexcept;
     // The stored list of a type, reading the type now when there is none: null with a code on failure.
     const std::list<StAsnDevTypeVerXMLInfo*>* fetch(const std::string& strDevType, const std::string& strDevTypeVer,
                                                     std::uint32_t& ulResult);
     const std::list<StAsnDevTypeVerXMLInfo*>* findStored(const std::string& strDevType,
                                                          const std::string& strDevTypeVer) const;
-    std::uint32_t readDevType(const std::string& strDevType, const std::string& strDevTypeVer,
-                              std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StConfigOrigin& stOrigin);
+    std::uint32_t                             readDevType(const LocationInfo& stWhere, const std::string& strDevType,
+                                                          const std::string& strDevTypeVer, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo,
+                                                          StConfigOrigin& stOrigin);
     std::uint32_t readContentName(const std::string& strDevType, const std::string& strDevTypeVer,
                                   std::string_view strOperId, int nValue, std::string& strName);
     std::uint32_t readDeviceContentName(const LocationInfo& stWhere, unsigned long ulDeviceID,
@@ -228,12 +250,16 @@ private:
     std::thread::id m_oLoadingThread; // guarded; who runs the full load, which must not wait for itself
     StLoadReport    m_stLoadReport;   // guarded
 
-    static std::atomic<CXMLConfigDatabase*>          m_pInstance;            // published when loaded
-    static CXMLConfigDatabase*                       m_pLoadingInstance;     // guarded; while getInstance() loads
-    static CXMLConfigDatabase*                       m_XMLConfigDbDestroyer; // copy kept for the clean-up at exit
-    static ACE_Recursive_Thread_Mutex                m_XMLConfigDBMutex;
+    static std::atomic<CXMLConfigDatabase*> m_pInstance;            // published when loaded
+    static CXMLConfigDatabase*              m_pLoadingInstance;     // guarded; while getInstance() loads
+    static CXMLConfigDatabase*              m_XMLConfigDbDestroyer; // its initialiser registers the exit handler
+    static ACE_Recursive_Thread_Mutex       m_XMLConfigDBMutex;
     static ACE_Condition<ACE_Recursive_Thread_Mutex> m_XML_cond;       // the full load has ended
     static std::unique_ptr<ModuleInfoMap>            m_pModuleInfoMap; // guarded; null until read
+
+    // Guarded; the modules of m_pModuleInfoMap by each device type that they name,
+    // in the order of the merge, one entry for every naming.
+    static std::map<std::string_view, std::vector<StAsnModuleInfoVerXMLInfo*>> m_mapModulesOfType;
 };
 
 #endif

@@ -28,7 +28,9 @@ std::uint32_t resolveDevice(const LocationInfo& stWhere, int nDeviceID, std::str
 
 std::uint32_t CXMLConfigDatabase::isDeviceOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
                                                       const std::string& strOperId, bool& bIsSupported)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     bIsSupported = false;
     const CQueryGuard oGuard(*this);
@@ -38,12 +40,18 @@ std::uint32_t CXMLConfigDatabase::isDeviceOpSupported(const std::string& strDevT
     bIsSupported = findFirst(pInfo->stOperationConfig.lstDevOperation, strOperId) != nullptr;
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::isDeviceOpParaSupported(const std::string& strDevType,
                                                           const std::string& strDevTypeVer,
                                                           const std::string& strOperId, const std::string& strParamId,
                                                           bool& bIsSupported)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     bIsSupported = false;
     const CQueryGuard oGuard(*this);
@@ -54,10 +62,16 @@ std::uint32_t CXMLConfigDatabase::isDeviceOpParaSupported(const std::string& str
     bIsSupported                = pOper != nullptr && findFirst(pOper->lstParam, strParamId) != nullptr;
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
                                                      const std::string& strOperId, bool& bIsSupported)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     bIsSupported = false;
     const CQueryGuard oGuard(*this);
@@ -68,11 +82,17 @@ std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevTy
     bIsSupported                        = pOper != nullptr && pOper->bIsSupported;
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevType, const std::string& strDevTypeVer,
                                                      const std::string& strOperId, const std::string& strParamId,
                                                      bool& bIsSupported)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     bIsSupported = false;
     const CQueryGuard oGuard(*this);
@@ -84,9 +104,15 @@ std::uint32_t CXMLConfigDatabase::isOtherOpSupported(const std::string& strDevTy
     bIsSupported                         = pParam != nullptr && pParam->bIsRequired;
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 bool CXMLConfigDatabase::isCancelOperSupported(int nDeviceID, const std::string& strOperId)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     std::string          strDevType;
@@ -101,10 +127,17 @@ bool CXMLConfigDatabase::isCancelOperSupported(int nDeviceID, const std::string&
     const auto* pTask = findFirst(pInfo->stOperationConfig.lstTaskOperation, strOperId);
     return pTask != nullptr && pTask->bIsCancelable;
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return true; // nothing is known that forbids it
+}
 
 std::uint32_t CXMLConfigDatabase::isSupportTaskType(int nDeviceID, DCAsn1ClientToServer::AsnTaskTypeEnum enTaskType,
                                                     bool& bIsSupported)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     bIsSupported = false;
     const CQueryGuard   oGuard(*this);
@@ -122,9 +155,15 @@ std::uint32_t CXMLConfigDatabase::isSupportTaskType(int nDeviceID, DCAsn1ClientT
                                       { return stTask.enTaskType == enTaskType; });
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 bool CXMLConfigDatabase::isSupportCapacity(const std::string& strDevType, const std::string& strDevTypeVer)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     StDeviceType         stDeviceType;
     const std::uint32_t  ulResult =
@@ -137,11 +176,23 @@ bool CXMLConfigDatabase::isSupportCapacity(const std::string& strDevType, const 
     return stDeviceType.nSupportUpgrade == 1 && stDeviceType.nSupportCapacity == 1 &&
            stDeviceType.nCapacityPerVersion == 1;
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return false;
+}
 
 std::string CXMLConfigDatabase::trans2TelnetDevType(const std::string& strDevType, const std::string& strDevTypeVer)
+try
 {
-    const bool bTelnet = strDevTypeVer.find(Vocabulary::TELNET_SUFFIX) != std::string::npos;
+    const CEntry oEntry;
+    const bool   bTelnet = strDevTypeVer.find(Vocabulary::TELNET_SUFFIX) != std::string::npos;
     return bTelnet ? strDevType + std::string(Vocabulary::TELNET_SUFFIX) : strDevType;
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {};
 }
 
 bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo)
@@ -153,6 +204,7 @@ bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo)
 bool CXMLConfigDatabase::bTelnetToDev(const StDeviceInfo& stDeviceInfo, EnTelnetStep& enDecided)
 try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const auto           decide = [&enDecided](EnTelnetStep enStep, bool bTelnet)
     {
@@ -183,6 +235,6 @@ try
 }
 catch (...)
 {
-    logThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
     return false;
 }

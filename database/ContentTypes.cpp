@@ -1,5 +1,6 @@
 // Content types and board types: names and numbers of the options of one
 // parameter of one operation.
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "database/QueryGuard.h"
 #include "records/RecordSearch.h"
@@ -70,21 +71,35 @@ std::uint32_t CXMLConfigDatabase::readDeviceContentName(const LocationInfo& stWh
 }
 
 std::uint32_t CXMLConfigDatabase::getContentTypeId(unsigned long ulDeviceID, int nContentType, std::string& strName)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     return readDeviceContentName(DC_HERE, ulDeviceID, Vocabulary::OP_BACKUP, nContentType, strName);
+}
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CXMLConfigDatabase::getLoadDataContentTypeID(unsigned long ulDeviceID, int nContentType,
                                                            std::string& strName)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     return readDeviceContentName(DC_HERE, ulDeviceID, Vocabulary::OP_LOAD_DATA, nContentType, strName);
+}
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CXMLConfigDatabase::getBackupContentTypeId(unsigned long ulDeviceID, int nContentType,
                                                          std::string& strName)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     StDeviceInfo         zoStDeviceInfo;
@@ -106,10 +121,16 @@ std::uint32_t CXMLConfigDatabase::getBackupContentTypeId(unsigned long ulDeviceI
     }
     return readContentName(strDevTypeName, strDeviceTypeVersion, Vocabulary::OP_BACKUP, nContentType, strName);
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::getSAMContentTypeID(const std::string& strDevType, const std::string& strDevTypeVer,
                                                       const int& nContentType, std::string& strName)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
@@ -118,11 +139,17 @@ std::uint32_t CXMLConfigDatabase::getSAMContentTypeID(const std::string& strDevT
     readOptionName(pInfo->stOperationConfig.lstOtherOperation, "SAM", CONTENT_PARAMETER, nContentType, strName);
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::getSAMContentTypeValue(const std::string& strDevType,
                                                          const std::string& strDevTypeVer, const std::string& strName,
                                                          int& nContentType)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
@@ -136,10 +163,16 @@ std::uint32_t CXMLConfigDatabase::getSAMContentTypeValue(const std::string& strD
                     });
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::getBoardType(unsigned int ulDeviceTypeID, unsigned int ulDeviceTypeVersionID,
                                                int nBoardType, std::string& strName)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     std::string          strDevTypeName;
@@ -159,11 +192,17 @@ std::uint32_t CXMLConfigDatabase::getBoardType(unsigned int ulDeviceTypeID, unsi
     readOptionName(lstTaskOperation, Vocabulary::OP_ACTIVATE_SOFTWARE, "BoardType", nBoardType, strName);
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t CXMLConfigDatabase::getAllBackupContentTypeNameByDevTypeName(const std::string&  strDevType,
                                                                            std::string&        strList,
                                                                            const EnDeviceType& enDeviceType)
+try
 {
+    const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
     const CQueryGuard    oGuard(*this);
     const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, "");
@@ -179,4 +218,8 @@ std::uint32_t CXMLConfigDatabase::getAllBackupContentTypeNameByDevTypeName(const
                             strList += "-1,AllFileType;";
                     });
     return DC_RESULT_OK;
+}
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }

@@ -1,6 +1,7 @@
 // The start-up load, the read of one device type, and the names of the files.
 #include "database/CXMLConfigDatabase.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLResReader.h"
@@ -9,7 +10,6 @@
 #include <ace/Guard_T.h>
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
 namespace
@@ -17,11 +17,36 @@ namespace
 constexpr const char* DC_SOURCE = "CXMLConfigDatabase";
 } // namespace
 
-std::uint32_t CXMLConfigDatabase::readAndStoreDevTypeXMLConfig()
+// The full load of one thread. Ends it whatever happens: nobody is left waiting, and
+// the thread does not pass for the loading one for ever.
+class CXMLConfigDatabase::CLoad
 {
-    const _TraceFunction                        oTrace(DC_HERE);
-    const ACE_Guard<ACE_Recursive_Thread_Mutex> oGuard(m_XMLConfigDBMutex);
-    m_oLoadingThread = std::this_thread::get_id();
+public:
+    explicit CLoad(CXMLConfigDatabase& oDatabase) : m_oGuard(m_XMLConfigDBMutex), m_oDatabase(oDatabase)
+    {
+        m_oDatabase.m_oLoadingThread = std::this_thread::get_id();
+        m_oDatabase.m_stLoadReport   = StLoadReport();
+    }
+    ~CLoad()
+    {
+        m_oDatabase.m_oLoadingThread = {};
+        m_oDatabase.m_nLoadFinished  = 1;
+        m_XML_cond.broadcast(); // every waiter gets through, not one of them
+    }
+    CLoad(const CLoad&)            = delete;
+    CLoad& operator=(const CLoad&) = delete;
+
+private:
+    ACE_Guard<ACE_Recursive_Thread_Mutex> m_oGuard;
+    CXMLConfigDatabase&                   m_oDatabase;
+};
+
+std::uint32_t CXMLConfigDatabase::readAndStoreDevTypeXMLConfig()
+try
+{
+    const CEntry         oEntry;
+    const CLoad          oLoad(*this);
+    const _TraceFunction oTrace(DC_HERE); // after the load has begun: a listener may ask the database
 
     std::uint32_t ulResult = readAndStoreModuleXMLConfig();
     if (ulResult != DC_RESULT_OK)
@@ -30,74 +55,82 @@ std::uint32_t CXMLConfigDatabase::readAndStoreDevTypeXMLConfig()
     std::multimap<std::string, StDeviceType> mapDeviceType;
     ulResult = getExistDeviceTypes(mapDeviceType);
     if (ulResult != DC_RESULT_OK)
-    {
-        logFail(DC_HERE, ulResult, "getSuppportedDeviceTypes() failed :");
-        endLoad();
-        return ulResult;
-    }
+        return logFail(DC_HERE, ulResult, "getSuppportedDeviceTypes() failed :");
     for (const auto& [strDevType, stDeviceType] : mapDeviceType)
     {
         const std::string&                 strDevTypeVer = stDeviceType.strDevTypeVer;
         std::list<StAsnDevTypeVerXMLInfo*> lstInfo; // the records are the store's
         StDevTypeLoad stLoad = {strDevType, strDevTypeVer, trans2TelnetDevType(strDevType, strDevTypeVer), {}, 0};
-        stLoad.ulResult      = readDevType(strDevType, strDevTypeVer, lstInfo, stLoad.stOrigin);
+        stLoad.ulResult      = readDevType(DC_HERE, strDevType, strDevTypeVer, lstInfo, stLoad.stOrigin);
         if (stLoad.ulResult != DC_RESULT_OK)
             logFail(DC_HERE, stLoad.ulResult, "readAndStoreDevTypeXMLConfig() fail." + strDevType + strDevTypeVer);
         m_stLoadReport.lstDevType.push_back(std::move(stLoad));
     }
-    endLoad();
     return DC_RESULT_OK;
 }
-
-void CXMLConfigDatabase::endLoad()
+catch (...)
 {
-    m_oLoadingThread = {};
-    m_nLoadFinished  = 1;
-    m_XML_cond.broadcast(); // every waiter gets through, not one of them
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t CXMLConfigDatabase::readAndStoreDevTypeXMLConfig(const std::string&                  strDevType,
                                                                const std::string&                  strDevTypeVer,
                                                                std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+try
 {
+    const CEntry   oEntry;
     StConfigOrigin stIgnored;
-    return readDevType(strDevType, strDevTypeVer, lstInfo, stIgnored);
+    return readDevType(DC_HERE, strDevType, strDevTypeVer, lstInfo, stIgnored);
+}
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
-std::uint32_t CXMLConfigDatabase::readDevType(const std::string& strDevType, const std::string& strDevTypeVer,
+// Whatever is thrown over one type, it fails and the others go on. The store owns the
+// records as soon as it has them.
+std::uint32_t CXMLConfigDatabase::readDevType(const LocationInfo& stWhere, const std::string& strDevType,
+                                              const std::string&                  strDevTypeVer,
                                               std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StConfigOrigin& stOrigin)
 {
-    const _TraceFunction oTrace(DC_HERE);
-    const bool           bCapacity = isSupportCapacity(strDevType, strDevTypeVer);
-    // A name that ends in "_telnet" already, with a version that holds it, gets
-    // the suffix a second time: the key follows the version alone.
-    const std::string    strKey = trans2TelnetDevType(strDevType, strDevTypeVer);
-    CDevTypeXMLResReader oReader(strKey, strDevTypeVer, bCapacity);
-    std::uint32_t        ulResult = DC_RESULT_XML_ERROR;
+    std::uint32_t ulResult = DC_RESULT_XML_ERROR;
+    bool          bIsOurs  = true;
     try
     {
+        const _TraceFunction oTrace(stWhere);
+        const bool           bCapacity = isSupportCapacity(strDevType, strDevTypeVer);
+        // A name that ends in "_telnet" already, with a version that holds it, gets
+        // the suffix a second time: the key follows the version alone.
+        const std::string    strKey = trans2TelnetDevType(strDevType, strDevTypeVer);
+        CDevTypeXMLResReader oReader(strKey, strDevTypeVer, bCapacity);
         oReader.initializeCheck(); // most types have no check file of their own
         ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
-        if (ulResult == DC_RESULT_OK && m_pModuleInfoMap != nullptr)
-            mergeModuleInfoToDev(strDevType, lstInfo); // modules name the type, never its telnet key
+        stOrigin = oReader.origin();
+        if (ulResult == DC_RESULT_OK)
+        {
+            if (m_pModuleInfoMap != nullptr)
+                mergeModuleInfoToDev(strDevType, lstInfo); // modules name the type, never its telnet key
+            bIsOurs = false;
+            store(strKey, lstInfo);
+        }
     }
-    catch (const std::bad_alloc&)
+    catch (...)
     {
-        // Memory ran out over this type: it fails, the others go on.
-        freeXMLInfo(lstInfo);
+        if (bIsOurs)
+            freeXMLInfo(lstInfo);
         lstInfo.clear();
-        ulResult = DC_RESULT_XML_ERROR;
+        ulResult = logThrown(stWhere, DC_RESULT_XML_ERROR);
     }
-    stOrigin = oReader.origin();
     if (ulResult != DC_RESULT_OK)
-        return logFail(DC_HERE, ulResult,
-                       "readXMLfile Failed for strDevType = " + strDevType + ", strDevTypeVer = " + strDevTypeVer);
-    storeDevTypeXMLConfig(strKey, lstInfo);
-    return DC_RESULT_OK;
+        logFail(stWhere, ulResult,
+                "readXMLfile Failed for strDevType = " + strDevType + ", strDevTypeVer = " + strDevTypeVer);
+    return ulResult;
 }
 
 std::uint32_t CXMLConfigDatabase::getExistDeviceTypes(std::multimap<std::string, StDeviceType>& mapDeviceType)
+try
 {
+    const CEntry            oEntry;
     const _TraceFunction    oTrace(DC_HERE);
     std::list<StDeviceType> strDllList;
     const std::uint32_t     ulResult = CDeviceAdapterInterface::getInstance()->getALLDLLInfo(strDllList);
@@ -112,25 +145,45 @@ std::uint32_t CXMLConfigDatabase::getExistDeviceTypes(std::multimap<std::string,
     }
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::string CXMLConfigDatabase::getDevTypeXMLPath()
+try
 {
-    std::string strPath;
+    const CEntry oEntry;
+    std::string  strPath;
     NS_UTIL::EmfGetServerPath_DC(strPath);
     NS_UTIL::AppendDirSeparator(strPath);
     return strPath.append(Vocabulary::CONFIG_FOLDER);
 }
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {};
+}
 
 std::string CXMLConfigDatabase::getCommonDevTypeXMLFileName(bool bWholePath)
+try
 {
+    const CEntry oEntry;
     return (bWholePath ? getDevTypeXMLPath() : std::string()).append(Vocabulary::COMMON_FILE_NAME);
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {};
 }
 
 std::string CXMLConfigDatabase::getDevTypeXMLFileName(const std::string& strDevType, const std::string& strVersionOne,
                                                       const std::string& strVersionTwo, bool bWholePath,
                                                       const std::string& strDevTypeVer)
+try
 {
-    std::string strName = strDevType;
+    const CEntry oEntry;
+    std::string  strName = strDevType;
     std::replace_if(
         strName.begin(), strName.end(),
         [](char cChar) { return Vocabulary::NAME_SEPARATORS.find(cChar) != std::string_view::npos; }, '_');
@@ -143,4 +196,9 @@ std::string CXMLConfigDatabase::getDevTypeXMLFileName(const std::string& strDevT
     }
     strName += Vocabulary::CONFIG_FILE_SUFFIX;
     return bWholePath ? getDevTypeXMLPath() + strName : strName;
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {};
 }

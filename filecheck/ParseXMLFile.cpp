@@ -1,6 +1,7 @@
 // The reader of the file-check rules.
 #include "filecheck/ParseXMLFile.h"
 
+#include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "common/XmlRead.h"
 #include "platform/CodePage.h"
@@ -49,11 +50,35 @@ const DOMElement* firstOf(const CElements& oElements)
 {
     return oElements.isEmpty() ? nullptr : &*oElements.begin();
 }
+
+// Takes one "uncompressed_type" element into the map; logs for the operation that walks them.
+std::uint32_t readUncompressedType(const LocationInfo& stWhere, const DOMElement* pElement,
+                                   ParseXMLFile::TypeMap& mapType, std::vector<std::string>* pLstProblem)
+{
+    if (pElement == nullptr)
+        return logFail(stWhere, DC_RESULT_XML_ERROR, "uncompressed_type is not exist in the file_check.xml ");
+    const XMLCh* pszValue = valueOf(*pElement);
+    if (pszValue == nullptr)
+        return logFail(stWhere, DC_RESULT_XML_ERROR,
+                       "Attribute value of element <uncompressed_type> is invalid in the file_check.xml");
+    const std::string strValue = ParseXMLFile::xmlChToStr(pszValue);
+    if (strValue.empty())
+        return logFail(stWhere, DC_RESULT_XML_ERROR, "<uncompressed_type> value is not valid in the file_check.xml ");
+    UncompressedType    stType;
+    const std::uint32_t ulResult = ParseXMLFile::ReadStrParam(pElement, stType);
+    if (ulResult != DC_RESULT_OK)
+        return ulResult;
+    if (!mapType.try_emplace(strValue, std::move(stType)).second)
+        addProblem(pLstProblem, "uncompressed_type \"" + strValue + "\" is there already, this one is dropped");
+    return DC_RESULT_OK;
+}
 } // namespace
 
 std::uint32_t ParseXMLFile::GetXMLInfo(const std::string& strPath, TypeMap& mapType,
                                        std::vector<std::string>* pLstProblem)
+try
 {
+    const CEntry                      oEntry;
     const _TraceFunction              oTrace(DC_HERE);
     const std::unique_ptr<CXmlParser> pDOMParser = CXmlParser::create();
     if (pDOMParser != nullptr)
@@ -71,16 +96,22 @@ std::uint32_t ParseXMLFile::GetXMLInfo(const std::string& strPath, TypeMap& mapT
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Element <uncompressed_type> is not exist in the file_check.xml");
     for (const DOMElement& oType : oTypes)
     {
-        const std::uint32_t ulTypeResult = ReadUncompressedType(&oType, mapType, pLstProblem);
+        const std::uint32_t ulTypeResult = readUncompressedType(DC_HERE, &oType, mapType, pLstProblem);
         if (ulTypeResult != DC_RESULT_OK)
             return ulTypeResult;
     }
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t ParseXMLFile::GoNextParam(XercesDOMParser* pDOMParser, const DOMElement*& pElement,
                                         const char16_t* pszTagName)
+try
 {
+    const CEntry oEntry;
     pElement = nullptr;
     if (documentOf(pDOMParser) == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "The file_check.xml file is invalid.");
@@ -92,30 +123,15 @@ std::uint32_t ParseXMLFile::GoNextParam(XercesDOMParser* pDOMParser, const DOMEl
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Node Element is not exist in the file_check.xml");
     return DC_RESULT_OK;
 }
-
-std::uint32_t ParseXMLFile::ReadUncompressedType(const DOMElement* pElement, TypeMap& mapType,
-                                                 std::vector<std::string>* pLstProblem)
+catch (...)
 {
-    if (pElement == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "uncompressed_type is not exist in the file_check.xml ");
-    const XMLCh* pszValue = valueOf(*pElement);
-    if (pszValue == nullptr)
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR,
-                       "Attribute value of element <uncompressed_type> is invalid in the file_check.xml");
-    const std::string strValue = xmlChToStr(pszValue);
-    if (strValue.empty())
-        return logFail(DC_HERE, DC_RESULT_XML_ERROR, "<uncompressed_type> value is not valid in the file_check.xml ");
-    UncompressedType    stType;
-    const std::uint32_t ulResult = ReadStrParam(pElement, stType);
-    if (ulResult != DC_RESULT_OK)
-        return ulResult;
-    if (!mapType.try_emplace(strValue, std::move(stType)).second)
-        addProblem(pLstProblem, "uncompressed_type \"" + strValue + "\" is there already, this one is dropped");
-    return DC_RESULT_OK;
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
 }
 
 std::uint32_t ParseXMLFile::ReadStrParam(const DOMElement* pElement, UncompressedType& stType)
+try
 {
+    const CEntry oEntry;
     for (const StParam& stParam : PARAMS)
     {
         const std::uint32_t ulResult = GetXMLParam(pElement, stParam.pszName, stType);
@@ -124,9 +140,15 @@ std::uint32_t ParseXMLFile::ReadStrParam(const DOMElement* pElement, Uncompresse
     }
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::uint32_t ParseXMLFile::GetXMLParam(const DOMElement* pElement, const char16_t* pszName, UncompressedType& stType)
+try
 {
+    const CEntry    oEntry;
     const CElements oElements(pElement, pszName);
     if (oElements.isEmpty())
         return DC_RESULT_OK;
@@ -153,11 +175,22 @@ std::uint32_t ParseXMLFile::GetXMLParam(const DOMElement* pElement, const char16
         stType.*itParam->pField = std::move(strValue);
     return DC_RESULT_OK;
 }
+catch (...)
+{
+    return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
 
 std::string ParseXMLFile::xmlChToStr(const XMLCh* pszText)
+try
 {
-    std::string strLocal = toLocal(pszText);
+    const CEntry oEntry;
+    std::string  strLocal = toLocal(pszText);
     if (strLocal.empty() && (pszText == nullptr || *pszText != 0))
         logFail(DC_HERE, DC_RESULT_OK, "XMLString::transcode return NULL");
     return strLocal;
+}
+catch (...)
+{
+    answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+    return {};
 }

@@ -46,10 +46,6 @@ public:
     static std::uint32_t GoNextParam(xercesc::XercesDOMParser* pDOMParser, const xercesc::DOMElement*& pElement,
                                      const char16_t* pszTagName);
 
-    // Takes one "uncompressed_type" element into the map.
-    static std::uint32_t ReadUncompressedType(const xercesc::DOMElement* pElement, TypeMap& mapType,
-                                              std::vector<std::string>* pLstProblem = nullptr);
-
     // Reads the parameters below one "uncompressed_type"; stops at the first bad one.
     static std::uint32_t ReadStrParam(const xercesc::DOMElement* pElement, UncompressedType& stType);
 

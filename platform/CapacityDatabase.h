@@ -1,5 +1,6 @@
 // The platform's capacity database: which versions of a device type have a
 // capacity document of their own. Read once per capacity read.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_CAPACITYDATABASE_H
 #define OPERATIONXML_PLATFORM_CAPACITYDATABASE_H
 

@@ -1,4 +1,5 @@
 // Code page conversion of the platform.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_CODEPAGE_H
 #define OPERATIONXML_PLATFORM_CODEPAGE_H
 

@@ -3,6 +3,7 @@
 // Result codes are the platform's own (0 is success); the library logs a
 // non-zero code and passes it up unchanged. All calls may run while the
 // configuration database holds its mutex, so none may wait for that database.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_DEVICEADAPTER_H
 #define OPERATIONXML_PLATFORM_DEVICEADAPTER_H
 

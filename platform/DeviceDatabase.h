@@ -1,6 +1,7 @@
 // The platform's device database: managed devices, and the versions of each
 // device type that are in service. Asked by queries that start from a device id
 // and by capacity reads, both under the configuration database's mutex.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_DEVICEDATABASE_H
 #define OPERATIONXML_PLATFORM_DEVICEDATABASE_H
 

@@ -1,4 +1,5 @@
 // Platform events that the library raises.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_EVENTS_H
 #define OPERATIONXML_PLATFORM_EVENTS_H
 

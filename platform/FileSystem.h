@@ -1,5 +1,6 @@
 // File system wrappers of the platform. They follow the POSIX calls of the same
 // names and take the encoding of the path (the library always passes "UTF-8").
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_FILESYSTEM_H
 #define OPERATIONXML_PLATFORM_FILESYSTEM_H
 

@@ -1,7 +1,9 @@
 // The platform's log service, its text filter and its function trace. Every
 // source of the library writes through these and prints nothing itself.
-// All calls may come from several threads at once and must not throw; they may
-// not call back into CXMLConfigDatabase's queries while a load is running.
+// All calls may come from several threads at once. None may throw; the library
+// survives one that does, and whatever was to be logged is then lost. Called back on
+// the loading thread, CXMLConfigDatabase answers from what is loaded so far; other
+// threads that ask it meanwhile wait for the load, so no call may wait for them.
 #ifndef OPERATIONXML_PLATFORM_LOGGING_H
 #define OPERATIONXML_PLATFORM_LOGGING_H
 
@@ -35,9 +37,11 @@ public:
     static void Info(const std::string& strText, const LocationInfo& stWhere);
 };
 
-// Marks the time spent in a public operation, from construction to destruction.
-// Created at the entry of every public operation, so it must cost next to
-// nothing while tracing is off.
+// Marks the time spent in an operation, from construction to destruction. The
+// entries trace: the operations of the database, of the readers of files, the
+// dictionaries and the file-check rules, and the set... operation of each section.
+// The readers of single elements do not, nor what only forms a name: they run
+// thousands of times in a load. It must cost next to nothing while tracing is off.
 class OPERATIONXML_PLATFORM_API _TraceFunction
 {
 public:

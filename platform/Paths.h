@@ -1,4 +1,5 @@
 // Paths and environment of the server installation.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_PATHS_H
 #define OPERATIONXML_PLATFORM_PATHS_H
 

@@ -1,5 +1,6 @@
 // Server settings, configuration items and resource values, each read by name.
 // Read afresh at every use: the library keeps no copy.
+// No call may throw; the library survives one that does, and answers without it.
 #ifndef OPERATIONXML_PLATFORM_SETTINGS_H
 #define OPERATIONXML_PLATFORM_SETTINGS_H
 

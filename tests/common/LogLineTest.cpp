@@ -10,7 +10,9 @@ namespace
 TEST(LogLineTest, TheFilterSeesTheWholeLineSaveOfTheRegistryCall)
 {
     standalone::setLogFilter([](std::string& strText) { strText = "<" + strText + ">"; });
-    CXMLConfigDatabase                 oDatabase;
+    struct : CXMLConfigDatabase // loaded by nobody
+    {
+    } oDatabase;
     std::list<StAsnDevTypeVerXMLInfo*> lstNone;
     std::list<StAsnDevTypeVerXMLInfo*> lstRead;
     CDevOpXMLConfig().setPatchOperXMLConfig(nullptr, nullptr);

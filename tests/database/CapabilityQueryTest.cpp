@@ -106,7 +106,8 @@ TEST_F(CServerTest, CapacityNeedsAllThreeFlags)
     open("INSERT INTO device_type (name, version, support_upgrade, support_capacity, capacity_per_version) VALUES "
          "('C', '111', 1, 1, 1), ('C', '011', 0, 1, 1), ('C', '101', 1, 0, 1), ('C', '110', 1, 1, 0), "
          "('C', '211', 2, 1, 1);");
-    CXMLConfigDatabase oDatabase;
+    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
+    clearLog();
     for (const char* pszVersion : {"111", "011", "101", "110", "211"})
         EXPECT_EQ(pszVersion == std::string("111"), oDatabase.isSupportCapacity("C", pszVersion)) << pszVersion;
     EXPECT_THAT(log(), testing::IsEmpty());

@@ -107,15 +107,17 @@ TEST_F(DatabaseThreadTest, MixedQuestionsWhileTheFirstLoadRunsAndAfter)
 // waiter alone would leave the others.
 TEST_F(DatabaseThreadTest, QueriesOfAnUnloadedInstanceWaitForAnotherThreadsLoad)
 {
-    CXMLConfigDatabase oDatabase;
-    std::atomic<bool>  bLoading{false};
-    std::atomic<int>   nTooEarly{0};
-    std::atomic<int>   nAnswered{0};
+    struct : CXMLConfigDatabase // loaded by nobody yet
+    {
+    } oDatabase;
+    std::atomic<bool> bLoading{false};
+    std::atomic<int>  nTooEarly{0};
+    std::atomic<int>  nAnswered{0};
     standalone::setTraceListener(
         [&](const LocationInfo& stWhere)
         {
             // A query that does not wait would read the type itself.
-            if (stWhere.pszFunction == std::string_view("readDevType") && !bLoading)
+            if (stWhere.pszFunction == std::string_view("readAndStoreDevTypeXMLConfig") && !bLoading)
                 ++nTooEarly;
         });
     inThreads(9,

@@ -88,7 +88,7 @@ TEST_F(StoreTest, FreeingKeepsTheNodes)
     RecordList lstInfo = {new StAsnDevTypeVerXMLInfo, nullptr, new StAsnDevTypeVerXMLInfo};
     for (int nTime = 0; nTime < 2; ++nTime)
     {
-        CXMLConfigDatabase().freeXMLInfo(lstInfo);
+        CXMLConfigDatabase::getInstance()->freeXMLInfo(lstInfo);
         EXPECT_THAT(lstInfo, testing::ElementsAre(nullptr, nullptr, nullptr));
     }
 }

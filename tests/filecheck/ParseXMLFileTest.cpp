@@ -59,7 +59,7 @@ TEST(ParseXMLFileTest, ReadsUpToTheFirstMistake)
         {"<r><zipcheck/>" + type("a") + "</r>", "",
          "GetXMLInfo [DCServer]Element <uncompressed_type> is not exist in the file_check.xml", "{}"},
         {zipcheck(type("a") + type("") + type("c")), "a:||||| ",
-         "ReadUncompressedType [DCServer]<uncompressed_type> value is not valid in the file_check.xml ", "{}"},
+         "GetXMLInfo [DCServer]<uncompressed_type> value is not valid in the file_check.xml ", "{}"},
         {zipcheck(type("a") + type("b", "<file_suffix/><max_count value=''/>") + type("c")), "a:||||| ",
          "GetXMLParam [DCServer]<max_count> value is not valid in the file_check.xml file ", "{}"},
     };
@@ -96,12 +96,10 @@ TEST(ParseXMLFileTest, NullAndUnknownInput)
     EXPECT_EQ(DC_RESULT_XML_ERROR, ParseXMLFile::GetXMLParam(oXml.root(), u"note", stType));
     EXPECT_EQ(DC_RESULT_XML_ERROR, ParseXMLFile::GetXMLInfo("/no/such/file_check.xml", mapType));
     EXPECT_EQ(DC_RESULT_XML_ERROR, ParseXMLFile::GoNextParam(nullptr, pElement, u"zipcheck"));
-    EXPECT_EQ(DC_RESULT_XML_ERROR, ParseXMLFile::ReadUncompressedType(nullptr, mapType));
     EXPECT_EQ("", ParseXMLFile::xmlChToStr(nullptr));
     EXPECT_THAT(logLines(), ElementsAre("E 3B0004EE [DCServer]<note> value is not valid in the file_check.xml file ",
                                         "E 3B0004EE [DCServer]The file_check.xml file is invalid.",
                                         "E 3B0004EE [DCServer]The file_check.xml file is invalid.",
-                                        "E 3B0004EE [DCServer]uncompressed_type is not exist in the file_check.xml ",
                                         "E 00000000 [DCServer]XMLString::transcode return NULL"));
 }
 

@@ -4,7 +4,9 @@
 #include "filecheck/ParseXMLFile.h"
 #include "reader/ServerFixture.h"
 
+#include <exception>
 #include <fstream>
+#include <new>
 
 namespace
 {
@@ -81,6 +83,27 @@ TEST_P(FaultTest, IsNamedAndLeavesNothingBehind)
     EXPECT_EQ(GetParam().bHeals, askEverything() == strText);
     CXMLConfigDatabase::finalize();
     EXPECT_EQ(strText, askEverything());
+}
+
+TEST_F(CFaultyServer, CallThatThrowsIsSurvivedAndLeavesNothingBehind)
+{
+    const std::string strText = askEverything();
+    for (const std::string& strCall : standalone::CFaultPoint::operations())
+    {
+        for (const unsigned nCall : {1u, 2u, 0u})
+        {
+            SCOPED_TRACE(strCall + ", call " + std::to_string(nCall));
+            CXMLConfigDatabase::finalize();
+            {
+                const standalone::CFaultPoint oFault(strCall, nCall, std::make_exception_ptr(std::bad_alloc()));
+                ASSERT_NO_THROW(askEverything());
+                EXPECT_NE(nullptr, CXMLConfigDatabase::getInstance());
+            }
+            ASSERT_NO_THROW(askEverything()); // what is left of it is safe to ask
+            CXMLConfigDatabase::finalize();
+            EXPECT_EQ(strText, askEverything());
+        }
+    }
 }
 
 // clang-format off
