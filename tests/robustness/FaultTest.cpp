@@ -20,7 +20,7 @@ struct StFaultCase
 class CFaultyServer : public CServerTest
 {
 protected:
-    // The example server, with a version in service that nobody knows the capacity of.
+    // The example server, with a version on a device that nobody knows the capacity of.
     CFaultyServer()
     {
         const std::filesystem::path oServer = OPERATIONXML_SOURCE_DIR "/examples/server";
@@ -28,7 +28,9 @@ protected:
         std::stringstream oSql;
         oSql << std::ifstream(oServer / "server.sql").rdbuf();
         m_oRoot.open(oSql.str() + "INSERT INTO version_in_service (device_type, device_type_version, soft_version) "
-                                  "VALUES ('Quill C4', 'V4', 'unknown');");
+                                  "VALUES ('Quill C4', 'V4', 'unknown');"
+                                  "INSERT INTO device (device_id, type_id, version_id, soft_version) "
+                                  "VALUES (699, 1008, 1, 'unknown');");
         CDeviceAdapterInterface::getInstance()->getALLDLLInfo(m_lstType);
     }
 
@@ -97,6 +99,7 @@ TEST_F(CFaultyServer, CallThatThrowsIsSurvivedAndLeavesNothingBehind)
             {
                 const standalone::CFaultPoint oFault(strCall, nCall, std::make_exception_ptr(std::bad_alloc()));
                 ASSERT_NO_THROW(askEverything());
+                EXPECT_LT(0u, oFault.calls()); // so that the list is tried whole
                 EXPECT_NE(nullptr, CXMLConfigDatabase::getInstance());
             }
             ASSERT_NO_THROW(askEverything()); // what is left of it is safe to ask
