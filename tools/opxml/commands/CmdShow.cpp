@@ -49,12 +49,12 @@ bool isWanted(const StWanted& stWanted, const StAsnDevTypeVerXMLInfo& stInfo)
                        });
 }
 
-// What is shown of one storage key.
-struct StShownKey
+// What is shown.
+struct StShown
 {
-    std::string         strKey;
-    Json                oRecords; // with --json
-    std::vector<StTree> lstTree;  // without, one for each configuration
+    std::size_t         nKeys    = 0;
+    Json                oRecords = Json::object(); // with --json: by storage key
+    std::vector<StTree> lstTree;                   // without: one for each configuration
 };
 
 // What modules added to the first record of a key, which a type has under its
@@ -78,9 +78,8 @@ StTree configurationTree(const std::string& strKey, const StAsnDevTypeVerXMLInfo
 }
 
 // Those of the keys that hold something of what is wanted, in order.
-std::vector<StShownKey> gather(const StLoadReport& stReport, const StWanted& stWanted, bool bJson)
+void gather(const StLoadReport& stReport, const StWanted& stWanted, bool bJson, StShown& stShown)
 {
-    std::vector<StShownKey> lstShown;
     CXMLConfigDatabase::getInstance()->visitDevTypes(
         [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
         {
@@ -89,11 +88,10 @@ std::vector<StShownKey> gather(const StLoadReport& stReport, const StWanted& stW
                          [&stWanted](const StAsnDevTypeVerXMLInfo* pInfo) { return isWanted(stWanted, *pInfo); });
             if (stWanted.setKey.count(strKey) == 0 || lstWanted.empty())
                 return;
-            StShownKey& stShown = lstShown.emplace_back();
-            stShown.strKey      = strKey;
+            ++stShown.nKeys;
             if (bJson)
             {
-                stShown.oRecords = toJson(lstWanted);
+                stShown.oRecords[strKey] = toJson(lstWanted);
                 return;
             }
             for (const StAsnDevTypeVerXMLInfo* pInfo : lstWanted)
@@ -104,21 +102,6 @@ std::vector<StShownKey> gather(const StLoadReport& stReport, const StWanted& stW
                 stShown.lstTree.push_back(configurationTree(strKey, *pInfo, lstContribution));
             }
         });
-    return lstShown;
-}
-
-void printShown(const std::vector<StShownKey>& lstShown, bool bJson)
-{
-    Json oJson = Json::object();
-    for (const StShownKey& stShown : lstShown)
-    {
-        if (bJson)
-            oJson[stShown.strKey] = stShown.oRecords;
-        for (const StTree& stTree : stShown.lstTree)
-            print(treeText(stTree));
-    }
-    if (bJson)
-        print(jsonText(oJson) + "\n");
 }
 
 // What is not shown, and why: a key without a configuration, single versions.
@@ -219,15 +202,19 @@ int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
     const StWanted     stWanted = resolve(stReport, stOptions);
     if (stWanted.setKey.empty())
         return EXIT_NO;
-    const std::vector<StShownKey> lstShown = gather(stReport, stWanted, stOptions.bJson);
+    StShown stShown;
+    gather(stReport, stWanted, stOptions.bJson, stShown);
     if (!stWanted.strDevice.empty() && !stOptions.bJson)
         printLine(stWanted.strDevice);
-    printShown(lstShown, stOptions.bJson);
+    for (const StTree& stTree : stShown.lstTree)
+        print(treeText(stTree));
+    if (stOptions.bJson)
+        print(jsonText(stShown.oRecords) + "\n");
     for (const std::string& strKey : stWanted.setKey)
         explainMissing(stReport, strKey);
-    if (lstShown.empty() && !stWanted.strSoftVersion.empty())
+    if (stShown.nKeys == 0 && !stWanted.strSoftVersion.empty())
         remark("no configuration is for version " + versionText(stWanted.strSoftVersion, stWanted.strPatchVersion));
-    return lstShown.size() == stWanted.setKey.size() ? EXIT_YES : EXIT_NO;
+    return stShown.nKeys == stWanted.setKey.size() ? EXIT_YES : EXIT_NO;
 }
 } // namespace
 

@@ -175,9 +175,9 @@ private:
 
     void addUnread(const StNode& stNode, const std::vector<StElementRule>& lstRule)
     {
-        std::vector<std::string> lstName;
-        for (const StElementRule& stRule : lstRule)
-            lstName.emplace_back(stRule.pszName);
+        std::vector<std::string> lstName(lstRule.size());
+        std::transform(lstRule.begin(), lstRule.end(), lstName.begin(),
+                       [](const StElementRule& stRule) { return stRule.pszName; });
         add(stNode.ulLine,
             fmt::format("element <{}> is not read here{}", stNode.strName, nearestNames(stNode.strName, lstName)));
     }

@@ -51,8 +51,9 @@ StCharacter firstCharacter(std::string_view strText)
     const auto ucFirst = static_cast<unsigned char>(strText.front());
     if (ucFirst < 0x80)
         return {1, 1, ucFirst < 0x20 || ucFirst == 0x7F};
-    wchar_t           cWide   = 0;
-    std::mbstate_t    oState  = {};
+    wchar_t        cWide  = 0;
+    std::mbstate_t oState = {};
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): it has a state of its own
     const std::size_t nBytes  = std::mbrtowc(&cWide, strText.data(), strText.size(), &oState);
     const bool        bBroken = nBytes == 0 || nBytes > strText.size();
     if (bBroken)
