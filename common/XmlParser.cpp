@@ -92,48 +92,51 @@ MemoryManager* CCountedMemory::getExceptionMemoryManager()
 }
 
 // Hands a text to the parser block by block, from some place on byte by byte.
-class CXmlParser::CSource : public InputSource
+class CXmlStream : public BinMemInputStream
 {
 public:
-    CSource(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
+    CXmlStream(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
+        : BinMemInputStream(reinterpret_cast<const XMLByte*>(strText.data()), strText.size(), BufOpt_Reference),
+          m_oParser(oParser), m_nBytewiseFrom(nBytewiseFrom)
+    {
+    }
+
+    XMLSize_t readBytes(XMLByte* pToFill, XMLSize_t nMax) override
+    {
+        m_oParser.checkProgress();
+        const std::size_t nTaken = m_oParser.m_nTaken;
+        const std::size_t nMost  = nTaken < m_nBytewiseFrom ? m_nBytewiseFrom - nTaken : 1;
+        const std::size_t nRead  = BinMemInputStream::readBytes(pToFill, std::min<XMLSize_t>(nMax, nMost));
+        m_oParser.m_nTaken += nRead;
+        return nRead;
+    }
+
+private:
+    CXmlParser& m_oParser;
+    std::size_t m_nBytewiseFrom;
+};
+
+namespace
+{
+class CXmlSource : public InputSource
+{
+public:
+    CXmlSource(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
         : InputSource(u"file"), m_oParser(oParser), m_strText(strText), m_nBytewiseFrom(nBytewiseFrom)
     {
     }
 
     BinInputStream* makeStream() const override // the parser deletes it
     {
-        return new CStream(m_oParser, m_strText, m_nBytewiseFrom);
+        return new CXmlStream(m_oParser, m_strText, m_nBytewiseFrom);
     }
 
 private:
-    class CStream : public BinMemInputStream
-    {
-    public:
-        CStream(CXmlParser& oParser, std::string_view strText, std::size_t nBytewiseFrom)
-            : BinMemInputStream(reinterpret_cast<const XMLByte*>(strText.data()), strText.size(), BufOpt_Reference),
-              m_oParser(oParser), m_nBytewiseFrom(nBytewiseFrom)
-        {
-        }
-
-        XMLSize_t readBytes(XMLByte* pToFill, XMLSize_t nMax) override
-        {
-            m_oParser.checkProgress();
-            const std::size_t nTaken = m_oParser.m_nTaken;
-            const std::size_t nMost  = nTaken < m_nBytewiseFrom ? m_nBytewiseFrom - nTaken : 1;
-            const std::size_t nRead  = BinMemInputStream::readBytes(pToFill, std::min<XMLSize_t>(nMax, nMost));
-            m_oParser.m_nTaken += nRead;
-            return nRead;
-        }
-
-    private:
-        CXmlParser& m_oParser;
-        std::size_t m_nBytewiseFrom;
-    };
-
     CXmlParser&      m_oParser;
     std::string_view m_strText;
     std::size_t      m_nBytewiseFrom;
 };
+} // namespace
 
 std::unique_ptr<CXmlParser> CXmlParser::create()
 {
@@ -210,32 +213,18 @@ void CXmlParser::parseOnce(std::string_view strXml, std::size_t nBytewiseFrom)
     getScanner()->setErrorReporter(this);
     try
     {
-        parse(CSource(*this, strXml, nBytewiseFrom));
-        if (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr)
-            noteProblem("the document has no root element", 0, 0);
+        readDocument(strXml, nBytewiseFrom);
     }
     catch (const StRefused&) // it has been noted
     {
     }
     catch (const OutOfMemoryException&)
     {
-        noteProblem("out of memory", 0, 0);
+        m_stProblem.strText = "out of memory";
     }
     catch (const std::bad_alloc&)
     {
-        noteProblem("out of memory", 0, 0);
-    }
-    catch (const XMLException& oProblem)
-    {
-        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
-    }
-    catch (const DOMException& oProblem)
-    {
-        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
-    }
-    catch (const SAXException& oProblem)
-    {
-        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
+        m_stProblem.strText = "out of memory";
     }
     m_bIsReading = false;
     getScanner()->setErrorReporter(nullptr);
@@ -251,6 +240,28 @@ void CXmlParser::parseOnce(std::string_view strXml, std::size_t nBytewiseFrom)
     m_stProblem       = std::move(stProblem);
     m_bIsBytesProblem = bBytes;
     m_nTaken          = nTaken;
+}
+
+void CXmlParser::readDocument(std::string_view strXml, std::size_t nBytewiseFrom)
+{
+    try
+    {
+        parse(CXmlSource(*this, strXml, nBytewiseFrom));
+        if (getDocument() == nullptr || getDocument()->getDocumentElement() == nullptr)
+            noteProblem("the document has no root element", 0, 0);
+    }
+    catch (const XMLException& oProblem)
+    {
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
+    }
+    catch (const DOMException& oProblem)
+    {
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
+    }
+    catch (const SAXException& oProblem)
+    {
+        noteProblem(toLocal(oProblem.getMessage()), 0, 0);
+    }
 }
 
 // The first problem is the cause, what comes after it are consequences.

@@ -107,10 +107,10 @@ private:
     void              docComment(const XMLCh* pszText) override;
     void              docPI(const XMLCh* pszTarget, const XMLCh* pszData) override;
 
-    class CSource;
-    friend class CSource;
+    friend class CXmlStream; // what the parser takes in goes through it
 
     void              parseOnce(std::string_view strXml, std::size_t nBytewiseFrom);
+    void              readDocument(std::string_view strXml, std::size_t nBytewiseFrom);
     void              clearReading();
     void              noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn);
     [[noreturn]] void refuse(const std::string& strText);
