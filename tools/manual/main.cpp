@@ -214,12 +214,19 @@ int main(int nArguments, char** ppszArguments)
         std::cerr << "usage: opxml-manual FOLDER ADDITIONS\n";
         return 2;
     }
-    showWide(); // a page does not depend on the window it is built in
-    CLI::App oApp;
-    StTool   stTool;
-    describeTool(oApp, stTool);
-    bool bWritten = writePage(oApp, ppszArguments[1], ppszArguments[2]);
-    for (const CLI::App* pCommand : shownCommands(oApp))
-        bWritten = writePage(*pCommand, ppszArguments[1], ppszArguments[2]) && bWritten;
-    return bWritten ? 0 : 2;
+    try
+    {
+        CLI::App oApp;
+        StTool   stTool;
+        describeTool(oApp, stTool);
+        bool bWritten = writePage(oApp, ppszArguments[1], ppszArguments[2]);
+        for (const CLI::App* pCommand : shownCommands(oApp))
+            bWritten = writePage(*pCommand, ppszArguments[1], ppszArguments[2]) && bWritten;
+        return bWritten ? 0 : 2;
+    }
+    catch (const std::exception& oProblem)
+    {
+        std::cerr << "opxml-manual: " << oProblem.what() << '\n';
+        return 2;
+    }
 }

@@ -2,8 +2,10 @@
 // line. Parses the command line, runs one command, and turns every end into an
 // exit code: 0 yes or found, 1 no or nothing, 2 trouble (one line on stderr).
 // commands/ has a source for each command, query/ what stands behind opxml query,
-// output/ how things look; commands -> query -> output, never back.
+// completion/ what shells may put at the cursor, output/ how things look;
+// completion -> commands -> query -> output, never back.
 #include "tools/opxml/commands/CommandLine.h"
+#include "tools/opxml/completion/Completion.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Terminal.h"
 #include "tools/opxml/output/Text.h"
@@ -34,6 +36,8 @@ int runTool(int nArguments, char** ppszArguments)
     CLI::App oApp;
     StTool   stTool;
     describeTool(oApp, stTool);
+    if (nArguments > 1 && std::string(ppszArguments[1]) == COMPLETION_WORD)
+        return runCompletion(oApp, stTool.stOptions, {ppszArguments + 2, ppszArguments + nArguments});
     try
     {
         oApp.parse(nArguments, ppszArguments);
