@@ -31,7 +31,7 @@ struct StRefused
 {
 };
 
-constexpr std::size_t BLOCK = 48 * 1024; // what the parser takes in at once
+constexpr std::size_t BLOCK = 49152; // what the parser takes in at once
 constexpr std::size_t WHOLE = static_cast<std::size_t>(-1);
 
 // Attributes of a tag cannot be seen one by one; each that is new takes at least
