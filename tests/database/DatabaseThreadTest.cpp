@@ -7,6 +7,7 @@
 #include <set>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 namespace
 {
@@ -159,6 +160,14 @@ TEST_F(DatabaseThreadTest, LoadingThreadGetsTheInstanceThatIsBeingLoaded)
             CXMLConfigDatabase* pLoading = CXMLConfigDatabase::getInstance();
             setSeen.insert(pLoading);
             ulResult = pLoading->isDeviceOpSupported("A", "V1", "Save", bFound); // must not wait for itself
+        });
+    bool bTraced = false;
+    standalone::setTraceListener( // the load's very first call out
+        [&](const LocationInfo&)
+        {
+            if (std::exchange(bTraced, true))
+                return;
+            EXPECT_NE(nullptr, CXMLConfigDatabase::getInstance()->getFirstDevTypeXMLConfig("B", "V2"));
         });
     setSeen.insert(CXMLConfigDatabase::getInstance());
     EXPECT_EQ(1u, setSeen.size());
