@@ -1,6 +1,6 @@
 // What the tests share: a parsed snippet, the log lines of the running test, a
-// temporary server root, names of table rows. main() is here too: it starts
-// every test with an empty log and no open server root.
+// temporary server root. main() is here too: it starts every test with an empty log and
+// no open server root.
 #ifndef OPERATIONXML_TESTS_TESTSUPPORT_H
 #define OPERATIONXML_TESTS_TESTSUPPORT_H
 
@@ -28,13 +28,6 @@ public:
 
 private:
     std::unique_ptr<CXmlParser> m_pParser;
-};
-
-// A parser without a document.
-struct CUnparsedXml
-{
-    xercesc::XercesDOMParser*         parser() { return m_pParser.get(); }
-    const std::unique_ptr<CXmlParser> m_pParser = CXmlParser::create();
 };
 
 // The lines written since the test began (or since clearLog): "E 3B0004EE text"
@@ -70,12 +63,5 @@ public:
 private:
     std::filesystem::path m_oPath;
 };
-
-// Names a row of a table by its first member.
-template <typename Case>
-std::string rowName(const testing::TestParamInfo<Case>& oInfo)
-{
-    return oInfo.param.pszName;
-}
 
 #endif

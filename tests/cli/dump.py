@@ -105,7 +105,7 @@ class Dump(unittest.TestCase):
 
     def test_texts_come_out_as_they_went_in(self):
         texts = ["\U0001F50C \U00020BB7", "\"quoted\" 'twice' \\ <&>", "a\nb\tc\r", "\x01\x1b[31m\x7f\x85",
-                 "x" * (1 << 20)]
+                 "x" * (1 << 20) + "\u00f6", "abc\u6f22"]
         with tempfile.TemporaryDirectory() as root:
             with open(os.path.join(root, "server.sql"), "w", encoding="utf-8") as inventory:
                 inventory.write("INSERT INTO device_type (name, version) VALUES ('A', 'V');"

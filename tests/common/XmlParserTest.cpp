@@ -30,16 +30,15 @@ TEST(XmlParserTest, RefusesWhatIsNoDocument)
     const std::string LATE   = "<?xml version='1.0' encoding='{}'?>\n<a>\n" + std::string(100000, ' ') + "<b/>{}\n</a>";
     const auto        fnLate = [&](const char* pszEncoding, const char* pszBytes)
     { return fmt::format(fmt::runtime(LATE), pszEncoding, pszBytes); };
+    // clang-format off
     const struct
     {
         const char* pszName;
         std::string strXml;
         const char* pszProblem; // its beginning
     } CASES[] = {
-        {"only blanks", " \n ", "line"},
-        {"only a comment", "<!-- -->", "line 1"},
-        {"torn off", "<a>\n<b/><c", "line 2"},
-        {"two roots", "<a><b/></a><a/>", "line 1, column"},
+        {"only blanks", " \n ", "line"}, {"only a comment", "<!-- -->", "line 1"},
+        {"torn off", "<a>\n<b/><c", "line 2"}, {"two roots", "<a><b/></a><a/>", "line 1, column"},
         // The place of the byte, not of the block that it is decoded in.
         {"invalid UTF-8", "<a><b/>\n<c/>\xC3(</a>", "line 2, column 5: "},
         {"invalid UTF-8 in a value", fnLate("UTF-8", "<c d='\xC3\xB6\xFF'/>"), "line 3, column 100012: "},
@@ -49,14 +48,13 @@ TEST(XmlParserTest, RefusesWhatIsNoDocument)
         {"unknown encoding", "<?xml version='1.0' encoding='none-such'?><a><b/></a>", "line 1"},
         {"nul byte", std::string("<a><b/>\0</a>", 12), "line 1"},
         {"external DTD", "<!DOCTYPE a SYSTEM 'file:///etc/hostname'><a><b/></a>", "line 1"},
-        {"external entity", "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/></a>",
-         "line 1, column 55: the document type names another file"},
-        {"notation", "<!DOCTYPE a [<!NOTATION n SYSTEM 'n'>]><a><b/></a>",
-         "line 1, column 37: the document type declares"},
+        {"external entity", "<!DOCTYPE a [<!ENTITY e SYSTEM 'file:///etc/hostname'>]><a><b/></a>", "line 1, column 55: the document type names another file"},
+        {"notation", "<!DOCTYPE a [<!NOTATION n SYSTEM 'n'>]><a><b/></a>", "line 1, column 37: the document type declares"},
         {"entity of itself", "<!DOCTYPE a [<!ENTITY e '&e;'>]><a><b/>&e;</a>", "line 1"},
         {"entity bomb", entityBomb(), "line 1"},
         {"what the DOM refuses", "<!DOCTYPE a:b:c><a><b/></a>", "attempt is made"},
     };
+    // clang-format on
     CTempServerRoot oRoot;
     const auto      pParser = CXmlParser::create();
     for (const auto& stCase : CASES)
@@ -182,6 +180,7 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
         return fmt::format("<!DOCTYPE a [<!ENTITY e 't'>]><a>{}</a>",
                            fmt::join(std::vector<const char*>(nTimes, "&e;"), ""));
     };
+    // clang-format off
     const struct
     {
         const char* pszName;
@@ -195,18 +194,14 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
         {"SameNameWithOthersBetween", "<c>" + nested("b", MAX_SAME_NAME_DEPTH) + "</c>", ""},
         {"SameNameSideBySide", "<c>" + nested("b", MAX_SAME_NAME_DEPTH) + nested("b", 1) + "</c>", ""},
         {"RepeatedReads", repeatedReads(MAX_REPEATED_READS), ""},
-        {"RepeatedReadsPassed", repeatedReads(MAX_REPEATED_READS + 1), strReads},
-        {"Names", fnNames(MAX_NAMES), ""},
-        {"NamesPassed", fnNames(MAX_NAMES + 1), strNames},
-        {"ElementNamesPassed", ladders(MAX_NAMES), strNames},
+        {"RepeatedReadsPassed", repeatedReads(MAX_REPEATED_READS + 1), strReads}, {"Names", fnNames(MAX_NAMES), ""},
+        {"NamesPassed", fnNames(MAX_NAMES + 1), strNames}, {"ElementNamesPassed", ladders(MAX_NAMES), strNames},
         {"Attributes", fnAttributes(MAX_ATTRIBUTES - 1, "/>"), ""},
         {"AttributesPassed", fnAttributes(MAX_ATTRIBUTES + 1, "/>"), strAttrs},
         {"AttributesOfATagWithoutEnd", fnAttributes(20000, ""), strAttrs}, // before the end is missed
-        {"LongValue", "<a b='" + std::string(1000000, 'x') + "'/>", ""},
-        {"DocType", fnDocType(MAX_DOCTYPE_BYTES), ""},
+        {"LongValue", "<a b='" + std::string(1000000, 'x') + "'/>", ""}, {"DocType", fnDocType(MAX_DOCTYPE_BYTES), ""},
         {"DocTypePassed", fnDocType(MAX_DOCTYPE_BYTES + 100000), "the document type is too long"},
-        {"Expansions", fnExpansions(MAX_ENTITY_EXPANSION), ""},
-        {"EntityText", fnEntities(MAX_ENTITY_TEXT), ""},
+        {"Expansions", fnExpansions(MAX_ENTITY_EXPANSION), ""}, {"EntityText", fnEntities(MAX_ENTITY_TEXT), ""},
         {"EntityTextPassed", fnEntities(MAX_ENTITY_TEXT + 1), "the document type declares too much text as entities"},
         {"ParameterEntity", "<!DOCTYPE a [<!ENTITY % p ''>]><a/>", "the document type declares a parameter entity"},
         {"AttributeList", "<!DOCTYPE a [<!ATTLIST a b CDATA ''>]><a/>", "the document type declares attributes"},
@@ -217,6 +212,7 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
         {"RepeatedInstructionPassed", fnTwice("", "<?p " + strMost + "?>"), strText},
         {"ReadOnce", "<SubItem>" + strMost + strMost + "</SubItem>", ""},
     };
+    // clang-format on
     const auto pParser = CXmlParser::create();
     for (const auto& stCase : CASES)
     {

@@ -40,6 +40,7 @@ TEST_F(CServerTest, YesOrNo)
     constexpr std::uint32_t INVALID   = DC_RESULT_INVALID_PARA;
     constexpr const char*   NO_RECORD = "E 3B0F0001 [DCServer]getDevTypeXMLConfig Method Failed";
     constexpr const char*   NO_DEVICE = "E 3B0F0001 [DCServer]EmfGetDevTypeName Method Failed";
+    // clang-format off
     const struct
     {
         const char*                         pszName;
@@ -50,16 +51,13 @@ TEST_F(CServerTest, YesOrNo)
     } CASES[] = {
         {"no type", [&](bool& b) { return o.isDeviceOpSupported("Z", "", "Backup", b); }, INVALID, false, NO_RECORD},
         {"parameter", [&](bool& b) { return o.isDeviceOpParaSupported("A", "", "Backup", "P", b); }, 0, true, ""},
-        {"first operation decides", [&](bool& b) { return o.isDeviceOpParaSupported("A", "", "Backup", "Second", b); },
-         0, false, ""},
-        {"parameter, no type", [&](bool& b) { return o.isDeviceOpParaSupported("Z", "", "Backup", "P", b); }, INVALID,
-         false, NO_RECORD},
+        {"first operation decides", [&](bool& b) { return o.isDeviceOpParaSupported("A", "", "Backup", "Second", b); }, 0, false, ""},
+        {"parameter, no type", [&](bool& b) { return o.isDeviceOpParaSupported("Z", "", "Backup", "P", b); }, INVALID, false, NO_RECORD},
         {"first is off", [&](bool& b) { return o.isOtherOpSupported("A", "", "Off", b); }, 0, false, ""},
         {"other, no type", [&](bool& b) { return o.isOtherOpSupported("Z", "", "On", b); }, INVALID, false, NO_RECORD},
         {"required", [&](bool& b) { return o.isOtherOpSupported("A", "", "On", "Req", b); }, 0, true, ""},
         {"first is optional", [&](bool& b) { return o.isOtherOpSupported("A", "", "On", "Opt", b); }, 0, false, ""},
-        {"required, no type", [&](bool& b) { return o.isOtherOpSupported("Z", "", "On", "Req", b); }, INVALID, false,
-         NO_RECORD},
+        {"required, no type", [&](bool& b) { return o.isOtherOpSupported("Z", "", "On", "Req", b); }, INVALID, false, NO_RECORD},
         {"first task operation", [&](bool& b) { return fnCancel(1, "Load", b); }, 0, true, ""},
         {"check says no", [&](bool& b) { return fnCancel(1, "No", b); }, 0, false, ""},
         {"check says yes", [&](bool& b) { return fnCancel(1, "Yes", b); }, 0, true, ""},
@@ -68,11 +66,10 @@ TEST_F(CServerTest, YesOrNo)
         {"no file forbids", [&](bool& b) { return fnCancel(2, "Load", b); }, 0, false, NO_RECORD},
         {"configured number", [&](bool& b) { return o.isSupportTaskType(1, PackageDowngradeConfig, b); }, 0, true, ""},
         {"number of the name", [&](bool& b) { return o.isSupportTaskType(1, PackageDowngrade, b); }, 0, false, ""},
-        {"task type, no device", [&](bool& b) { return o.isSupportTaskType(9, PatchUpdate, b); }, NOT_KNOWN, false,
-         NO_DEVICE},
-        {"task type, no file", [&](bool& b) { return o.isSupportTaskType(2, PatchUpdate, b); }, INVALID, false,
-         NO_RECORD},
+        {"task type, no device", [&](bool& b) { return o.isSupportTaskType(9, PatchUpdate, b); }, NOT_KNOWN, false, NO_DEVICE},
+        {"task type, no file", [&](bool& b) { return o.isSupportTaskType(2, PatchUpdate, b); }, INVALID, false, NO_RECORD},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);
@@ -82,23 +79,6 @@ TEST_F(CServerTest, YesOrNo)
         EXPECT_EQ(stCase.bAnswer, bAnswer);
         EXPECT_EQ(stCase.pszLastLine, log().empty() ? "" : log().back());
     }
-}
-
-TEST_F(CServerTest, UnknownTypeIsSoughtAndLoggedStepByStep)
-{
-    open("DELETE FROM device_type;");
-    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
-    clearLog();
-    bool bAnswer = true;
-    EXPECT_EQ(DC_RESULT_INVALID_PARA, oDatabase.isDeviceOpSupported("Z", "V1_telnet", "Backup", bAnswer));
-    EXPECT_EQ((Lines{"E 3B0F0001 [DCServer]CDeviceAdapterInterface::getInstance()->searchDeviceType failed.",
-                     ("E 3B0F0001 Call Function return Error:CDeviceAdapterInterface::getInstance()->"
-                      "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)"),
-                     "E 3B0F0001 Call Function return Error:initialize(\"\", \"\", true)",
-                     "E 3B0F0001 Call Function return Error:parseNormalXML(pAsnDevTypeVerXMLInfo)",
-                     "E 3B0F0001 [DCServer]readXMLfile Failed for strDevType = Z, strDevTypeVer = V1_telnet",
-                     "E 3B0F0001 [DCServer]getDevTypeXMLConfig Method Failed"}),
-              log());
 }
 
 TEST_F(CServerTest, CapacityNeedsAllThreeFlags)

@@ -50,6 +50,7 @@ TEST_F(CServerTest, ContentTypes)
     { return o.getAllBackupContentTypeNameByDevTypeName(pszType, s, enDomain); };
     constexpr auto INVALID   = DC_RESULT_INVALID_PARA;
     constexpr auto NOT_KNOWN = 0x3B0F0001u;
+    // clang-format off
     const struct
     {
         const char*                                pszName;
@@ -64,32 +65,26 @@ TEST_F(CServerTest, ContentTypes)
         {"unknown", [&](std::string& s) { return o.getContentTypeId(1, 9, s); }, 0, "-", ""},
         {"no device", [&](std::string& s) { return o.getContentTypeId(99, 1, s); }, NOT_KNOWN, "-", NO_DEVICE},
         {"no record", [&](std::string& s) { return o.getContentTypeId(4, 1, s); }, INVALID, "-", NO_RECORD},
-        {"load, no device", [&](std::string& s) { return o.getLoadDataContentTypeID(3, 1, s); }, NOT_KNOWN, "-",
-         NO_DEVICE},
-        {"over telnet", [&](std::string& s) { return o.getBackupContentTypeId(1, 1, s); }, 0, "telnet",
-         "I [DCServer]Ais telnet device."},
-        {"backup, no device", [&](std::string& s) { return o.getBackupContentTypeId(99, 1, s); }, NOT_KNOWN, "-",
-         NO_INFO},
+        {"load, no device", [&](std::string& s) { return o.getLoadDataContentTypeID(3, 1, s); }, NOT_KNOWN, "-", NO_DEVICE},
+        {"over telnet", [&](std::string& s) { return o.getBackupContentTypeId(1, 1, s); }, 0, "telnet", "I [DCServer]Ais telnet device."},
+        {"backup, no device", [&](std::string& s) { return o.getBackupContentTypeId(99, 1, s); }, NOT_KNOWN, "-", NO_INFO},
         {"backup, no type", [&](std::string& s) { return o.getBackupContentTypeId(3, 1, s); }, NOT_KNOWN, "-", NO_TYPE},
-        {"backup, no record", [&](std::string& s) { return o.getBackupContentTypeId(4, 1, s); }, INVALID, "-",
-         NO_RECORD},
+        {"backup, no record", [&](std::string& s) { return o.getBackupContentTypeId(4, 1, s); }, INVALID, "-", NO_RECORD},
         {"SAM name", [&](std::string& s) { return o.getSAMContentTypeID("N", "V1", 7, s); }, INVALID, "-", NO_RECORD},
         {"SAM, the first", [&](std::string& s) { return fnSam("A", "sam", s); }, 0, "7", ""},
         {"SAM unknown", [&](std::string& s) { return fnSam("A", "Sam", s); }, 0, "42", ""},
         {"SAM, no record", [&](std::string& s) { return fnSam("N", "sam", s); }, INVALID, "42", NO_RECORD},
         {"no activation", [&](std::string& s) { return o.getBoardType(12, 0, 3, s); }, 0, "-", ""},
-        {"no task operations", [&](std::string& s) { return o.getBoardType(13, 0, 3, s); }, DC_RESULT_FILE_NOT_EXIST,
-         "-", ""},
+        {"no task operations", [&](std::string& s) { return o.getBoardType(13, 0, 3, s); }, DC_RESULT_FILE_NOT_EXIST, "-", ""},
         {"board, no type", [&](std::string& s) { return o.getBoardType(99, 0, 3, s); }, NOT_KNOWN, "-", NO_BOARD_TYPE},
         {"board, no record", [&](std::string& s) { return o.getBoardType(14, 0, 3, s); }, INVALID, "-", NO_RECORD},
         // "AllFileType" after every parameter with more than one option, on access devices alone.
-        {"all", [&](std::string& s) { return fnAll("A", EnDeviceTypeAccess, s); }, 0,
-         "1,cfg;2,log;2,log2;4294967295,big;-1,AllFileType;1,late;", ""},
-        {"all elsewhere", [&](std::string& s) { return fnAll("A", EnDeviceTypeDatacom, s); }, 0,
-         "1,cfg;2,log;2,log2;4294967295,big;1,late;", ""},
+        {"all", [&](std::string& s) { return fnAll("A", EnDeviceTypeAccess, s); }, 0, "1,cfg;2,log;2,log2;4294967295,big;-1,AllFileType;1,late;", ""},
+        {"all elsewhere", [&](std::string& s) { return fnAll("A", EnDeviceTypeDatacom, s); }, 0, "1,cfg;2,log;2,log2;4294967295,big;1,late;", ""},
         {"all of nothing", [&](std::string& s) { return fnAll("B", EnDeviceTypeAccess, s); }, 0, "", ""},
         {"all, no record", [&](std::string& s) { return fnAll("N", EnDeviceTypeAccess, s); }, INVALID, "-", NO_RECORD},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);

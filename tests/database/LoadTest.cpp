@@ -45,6 +45,7 @@ std::string placedLog(const std::string& strRoot)
 TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
 {
     const std::string ADAPTER = "CDeviceAdapterInterface::getInstance()->";
+    // clang-format off
     const struct
     {
         const char* pszName;
@@ -71,9 +72,7 @@ TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
              "failed\n" +
              ADDED_A + ADDED_B},
         {"twin serves", TWIN, "twin B", "", "A: twin;B: B;", missing("A.xml") + ADDED_A + ADDED_B},
-        {"twin missing as well", TWIN, "B", "", "B: B;",
-         missing("A.xml") + missing("twin.xml") + failedStart("3B000D21") + failedType("3B000D21", "A", "V1") +
-             ADDED_B},
+        {"twin missing as well", TWIN, "B", "", "B: B;", missing("A.xml") + missing("twin.xml") + failedStart("3B000D21") + failedType("3B000D21", "A", "V1") + ADDED_B},
         {"no twin", "", "A", "", "A: A;",
          ADDED_A + missing("B.xml") +
              failedCall("3B0F0001", "CDevTypeXMLResReader::initialize",
@@ -90,8 +89,7 @@ TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
                         ADAPTER + "searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)") +
              failedStart("00000007") + failedType("00000007", "A", "V1")},
         // The storage key follows the version alone, and is what the file is looked up by.
-        {"second version", "INSERT INTO device_type (name, version) VALUES ('A', 'V0');", "A B", "", "A: A;B: B;",
-         ADDED_A + ADDED_B},
+        {"second version", "INSERT INTO device_type (name, version) VALUES ('A', 'V0');", "A B", "", "A: A;B: B;", ADDED_A + ADDED_B},
         {"telnet version", "INSERT INTO device_type (name, version) VALUES ('A', 'x_telnet_y');" + TWIN, "A B twin", "",
          "A: A;A_telnet: twin;B: B;",
          ADDED_A + "I CXMLConfigDatabase::storeDevTypeXMLConfig [DCServer]Added device A_telnet to MAP.\n" + ADDED_B},
@@ -102,6 +100,7 @@ TEST_F(CServerTest, LoadStoresAndLogsExactlyThis)
          ADDED_A + "I CXMLConfigDatabase::storeDevTypeXMLConfig [DCServer]Added device A_telnet_telnet to MAP.\n" +
              ADDED_B},
     };
+    // clang-format on
     makeModuleFolder();
     m_oRoot.write("torn.xml", "<C><DeviceOperation><Operation id='half'/>");
     for (const auto& stCase : CASES)

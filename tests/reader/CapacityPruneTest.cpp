@@ -37,20 +37,16 @@ std::string text(const StAsnDevTypeVerXMLInfo& stInfo)
     for (const StAsnTaskConfigInfoOperation& stTask : stInfo.lstTaskConfigInfoOperation)
         for (const StAsnTaskConfigOperation& stContent : stTask.lstTaskConfigOperation)
             strSteps += "<" + ids(stContent.lstTaskOperationDef) + ">";
+    // clang-format off
     const std::pair<const char*, std::string> LISTS[] = {
-        {"dev ", operations(stOper.lstDevOperation)},
-        {"task ", ids(stOper.lstTaskOperation)},
-        {"patch ", ids(stOper.lstPatchOperation)},
-        {"check ", ids(stOper.lstCheckOperation)},
-        {"custom ", ids(stOper.lstCustomOperation)},
-        {"other ", operations(stOper.lstOtherOperation)},
-        {"upgrade ", ids(stOper.lstUpgradeOperation)},
-        {"menu ", ids(stView.lstDevViewPopupMenu)},
-        {"tab ", ids(stView.lstDevViewTab)},
-        {"patchmenu ", strPatchMenu},
-        {"iso ", ids(stView.lstIsolationViewPopupMenu)},
-        {"steps ", strSteps},
+        {"dev ", operations(stOper.lstDevOperation)}, {"task ", ids(stOper.lstTaskOperation)},
+        {"patch ", ids(stOper.lstPatchOperation)}, {"check ", ids(stOper.lstCheckOperation)},
+        {"custom ", ids(stOper.lstCustomOperation)}, {"other ", operations(stOper.lstOtherOperation)},
+        {"upgrade ", ids(stOper.lstUpgradeOperation)}, {"menu ", ids(stView.lstDevViewPopupMenu)},
+        {"tab ", ids(stView.lstDevViewTab)}, {"patchmenu ", strPatchMenu},
+        {"iso ", ids(stView.lstIsolationViewPopupMenu)}, {"steps ", strSteps},
     };
+    // clang-format on
     std::string strText;
     for (const auto& [pszName, strList] : LISTS)
         strText += strList.empty() ? "" : pszName + strList + ";";
@@ -110,47 +106,34 @@ TEST(CapacityPruneTest, LeavesWhatTheEntryAllows)
         "<TaskConfigOper id='a'/></Parameter></TaskType>";
     const char* ALL     = "dev a()b();task a,c;patch a,d;other a()e();upgrade a;";
     const char* WITHOUT = "dev b();task c;patch d;other e();upgrade a;"; // upgrade operations are not pruned
+    // clang-format off
     const struct
     {
         const char* pszConfig;
         std::string strEntry; // of the capacity document
         const char* pszLeft;
     } CASES[] = {
-        {OPERATIONS, entry("z0"), ALL},
-        {OPERATIONS, entry("a1"), ALL},
-        {OPERATIONS, entry("a0"), WITHOUT},
-        {OPERATIONS, "<Operation id='a' isSupported='true'/><Operation id='b'/>",
-         "task c;patch d;other e();upgrade a;"},
+        {OPERATIONS, entry("z0"), ALL}, {OPERATIONS, entry("a1"), ALL}, {OPERATIONS, entry("a0"), WITHOUT},
+        {OPERATIONS, "<Operation id='a' isSupported='true'/><Operation id='b'/>", "task c;patch d;other e();upgrade a;"},
         {OPERATIONS, entry("A0") + "<Operation id='a ' isSupported='0'/>", ALL},
         // The first match decides over operations, parameters and checks.
-        {OPERATIONS, entry("a1 a0"), ALL},
-        {OPERATIONS, entry("a0 a1"), WITHOUT},
-        {PARAMETERS,
-         entryOfA("<Parameter id='q' isRequired='0'/><Parameter id='q' isRequired='1'/>") +
-             entryOfA("<Parameter id='p' isRequired='0'/>"),
-         "dev a(p[x=1 y=2 ]);"},
-        {CHECKS, entry("UpgradeCheck1 UpgradeCheck0"), "check PreCheck,a;"},
-        {CHECKS, entry("UpgradeCheck0"), ""},
+        {OPERATIONS, entry("a1 a0"), ALL}, {OPERATIONS, entry("a0 a1"), WITHOUT},
+        {PARAMETERS, entryOfA("<Parameter id='q' isRequired='0'/><Parameter id='q' isRequired='1'/>") + entryOfA("<Parameter id='p' isRequired='0'/>"), "dev a(p[x=1 y=2 ]);"},
+        {CHECKS, entry("UpgradeCheck1 UpgradeCheck0"), "check PreCheck,a;"}, {CHECKS, entry("UpgradeCheck0"), ""},
         {CHECKS, entry("PreCheck0"), "check PreCheck,a;"},
         {PARAMETERS, entryOfA("<Parameter id='z' isRequired='0'/>"), "dev a(p[x=1 y=2 ]q[z=3 ]);"},
-        {PARAMETERS, entryOfA("<Parameter id='p' isRequired='0'><Option id='x' value='1'/></Parameter>"),
-         "dev a(q[z=3 ]);"},
-        {PARAMETERS,
-         entryOfA("<Parameter id='p' isRequired='1'><Option id='x' value='2'/><Option id='y' value='2'/><Option id='n' "
-                  "value='9'/></Parameter>"),
-         "dev a(p[y=2 ]q[z=3 ]);"},
-        {PARAMETERS, entryOfA("<Parameter id='p' isRequired='1'><option id='x' value='1'/></Parameter>"),
-         "dev a(p[x=1 ]q[z=3 ]);"},
+        {PARAMETERS, entryOfA("<Parameter id='p' isRequired='0'><Option id='x' value='1'/></Parameter>"), "dev a(q[z=3 ]);"},
+        {PARAMETERS, entryOfA("<Parameter id='p' isRequired='1'><Option id='x' value='2'/><Option id='y' value='2'/><Option id='n' value='9'/></Parameter>"), "dev a(p[y=2 ]q[z=3 ]);"},
+        {PARAMETERS, entryOfA("<Parameter id='p' isRequired='1'><option id='x' value='1'/></Parameter>"), "dev a(p[x=1 ]q[z=3 ]);"},
         {PARAMETERS, entryOfA("<Parameter id='q' isRequired='1'/>"), "dev a(p[x=1 y=2 ]q[]);"},
         {OTHER, entryOfA("<Parameter id='p' isRequired='1'/><Parameter id='q'/>"), "other a(p[]);"},
         // The last one over custom operations and steps, the first one over views.
-        {CUSTOM, entry("a1 a0"), "custom b;"},
-        {CUSTOM, entry("a0 a1"), "custom a,b;"},
-        {STEPS, entry("a1 a0"), "steps <b><>;"},
-        {STEPS, entry("a0 a1"), "steps <a,b><a>;"},
+        {CUSTOM, entry("a1 a0"), "custom b;"}, {CUSTOM, entry("a0 a1"), "custom a,b;"},
+        {STEPS, entry("a1 a0"), "steps <b><>;"}, {STEPS, entry("a0 a1"), "steps <a,b><a>;"},
         {VIEWS, entry("a0 a1"), "menu b;patchmenu <c><>;iso b;"},
         {VIEWS, entry("a1 a0"), "menu a,b;tab a;patchmenu <a,c><a>;iso a,b;"},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszConfig + stCase.strEntry);

@@ -109,6 +109,7 @@ TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
     const std::string NO_RECORD =
         "I [DCServer]Version has no capacity record, DeviceType:C, SoftVersion:2, PatchVersion:\n"
         "E 3B000D21 [DCServer] The capacity XML file is not exist for DeviceType:C\n";
+    // clang-format off
     const struct
     {
         const char*   pszName;
@@ -122,32 +123,27 @@ TEST_F(CCapacityTest, EveryVersionThatCanBeReadIsGiven)
         const char*   pszReport;
         std::string   strLog;
     } CASES[] = {
-        {"two configurations", "5 4 3 2 1", "1 2 3 4 5", "531", "42", "", 0, "5,3,1, Backup;4,2, Save;",
-         "5 narrowed;4 narrowed;3 narrowed;2 narrowed;1 narrowed;", ""},
-        {"full configuration", "1 2 3", "3* 2 1*", "2", "", "", 0, "1,3, Save,Full;2, Backup;",
-         "1 full;2 narrowed;3 full;", ""},
-        {"document missing", "1 2 3", "1 2 3", "13", "", "", 0, "1,3, Backup;",
-         "1 narrowed;2 failed C_2_ServerConfiguration.xml: the file is not there;3 narrowed;", MISSING_DOCUMENT},
+        {"two configurations", "5 4 3 2 1", "1 2 3 4 5", "531", "42", "", 0, "5,3,1, Backup;4,2, Save;", "5 narrowed;4 narrowed;3 narrowed;2 narrowed;1 narrowed;", ""},
+        {"full configuration", "1 2 3", "3* 2 1*", "2", "", "", 0, "1,3, Save,Full;2, Backup;", "1 full;2 narrowed;3 full;", ""},
+        {"document missing", "1 2 3", "1 2 3", "13", "", "", 0, "1,3, Backup;", "1 narrowed;2 failed C_2_ServerConfiguration.xml: the file is not there;3 narrowed;", MISSING_DOCUMENT},
         {"document broken", "1 2 3", "1 2 3", "13", "", DOCUMENT, 0, "1,3, Backup;",
          "1 narrowed;2 failed C_2_ServerConfiguration.xml: line 1, column 4: input ended before all started tags were "
          "ended; last tag started is 'C';3 narrowed;",
          BROKEN_DOCUMENT},
-        {"entry missing", "1 2", "1 2", "1", "", "", 0, "1, Backup;2, Save,Backup;",
-         "1 narrowed;2 not narrowed C_2_ServerConfiguration.xml: no entry for sysoid \"1.2\";", NO_ENTRY},
+        {"entry missing", "1 2", "1 2", "1", "", "", 0, "1, Backup;2, Save,Backup;", "1 narrowed;2 not narrowed C_2_ServerConfiguration.xml: no entry for sysoid \"1.2\";", NO_ENTRY},
         {"common file broken", "1 2", "1* 2", "2", "", COMMON, 0, "1, Save,Full;",
          "1 full;2 failed Common_ServerConfiguration.xml: line 1, column 4: input ended before all started tags were "
          "ended; last tag started is 'C';",
          BROKEN_DOCUMENT},
-        {"no capacity record", "1 2", "1", "12", "", "", 0, "1, Backup;",
-         "1 narrowed;2 no record the version has no capacity record;", NO_RECORD},
+        {"no capacity record", "1 2", "1", "12", "", "", 0, "1, Backup;", "1 narrowed;2 no record the version has no capacity record;", NO_RECORD},
         {"no version readable", "2", "2", "", "", "", 0x3B0F0001, "",
          "2 failed C_2_ServerConfiguration.xml: the file is not there; C_2_ServerConfiguration.xml: the file is not "
          "there",
          MISSING_DOCUMENT},
-        {"nothing to offer", "2", "", "2", "", "", 0, "",
-         "2 no record the version has no capacity record; no version in service has a capacity record", NO_RECORD},
+        {"nothing to offer", "2", "", "2", "", "", 0, "", "2 no record the version has no capacity record; no version in service has a capacity record", NO_RECORD},
         {"no version in service", "", "1", "1", "", "", 0, " Save,Full;", "", ""},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);

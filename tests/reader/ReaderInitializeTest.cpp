@@ -27,6 +27,7 @@ std::string failed(const std::string& strCall)
 TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
 {
     using From = EnConfigSource;
+    // clang-format off
     const struct
     {
         const char*   pszName;
@@ -47,17 +48,13 @@ TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
         {"of a version", "", VERSION, "S+", "P", false, 0, From::CapacityDocument, VERSION, ""},
         {"of a patch alone", "", PATCH, "", "P", false, 0, From::CapacityDocument, PATCH, ""},
         {"twin", TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml", missing("own.xml")},
-        {"of a common type", ON_COMMON + TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml",
-         missing(COMMON)},
-        {"neither", TWIN, "", "", "", true, DC_RESULT_FILE_NOT_EXIST, From::None, "",
-         missing("own.xml") + missing("twin.xml")},
-        {"no twin", "", "", "", "", true, 0x3B0F0001, From::None, "",
-         missing("own.xml") + failed("getServerConfigFile(strDevTypeTemp, strFilePath)")},
-        {"no file", "DELETE FROM config_file;", "", "", "", true, 0x3B0F0001, From::None, "",
-         failed("getServerConfigFile(m_strDevType, strFilePath)")},
-        {"no type", "DELETE FROM device_type;", "", "", "", true, 0x3B0F0001, From::None, "",
-         failed("searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)")},
+        {"of a common type", ON_COMMON + TWIN, "twin.xml", "", "", true, 0, From::TelnetTwin, "twin.xml", missing(COMMON)},
+        {"neither", TWIN, "", "", "", true, DC_RESULT_FILE_NOT_EXIST, From::None, "", missing("own.xml") + missing("twin.xml")},
+        {"no twin", "", "", "", "", true, 0x3B0F0001, From::None, "", missing("own.xml") + failed("getServerConfigFile(strDevTypeTemp, strFilePath)")},
+        {"no file", "DELETE FROM config_file;", "", "", "", true, 0x3B0F0001, From::None, "", failed("getServerConfigFile(m_strDevType, strFilePath)")},
+        {"no type", "DELETE FROM device_type;", "", "", "", true, 0x3B0F0001, From::None, "", failed("searchDeviceType(m_strDevType, m_strDevTypeVer, oStDeviceType)")},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);

@@ -82,30 +82,24 @@ void expectComparesAllBut(const std::set<std::string>& setLeftOut)
     EXPECT_EQ(setLeftOut, setNotCompared) << typeid(Record).name();
 }
 
+template <typename... Records>
+void expectComparesAll()
+{
+    (expectComparesAllBut<Records>({}), ...);
+}
+
 TEST(RecordEqualityTest, ComparesEveryFieldButThese)
 {
-    expectComparesAllBut<StAsnDevVersion>({});
-    expectComparesAllBut<StAsnDevTypeInfo>({});
-    expectComparesAllBut<StAsnOptionInfo>({});
+    expectComparesAll<StAsnDevVersion, StAsnDevTypeInfo, StAsnOptionInfo, StAsnCustomOperationDef,
+                      StAsnOtherOperationDef, StAsnMenuOpDef, StAsnPatchItem, StAsnPatchStateDef, StAsnPatchDef,
+                      StAsnPatchTypeMenuDef, StAsnTaskConfigInfoOperation, StAsnUpgradeSubOperationDef,
+                      StAsnUpgradeOperationDef, StAsnDCErrorCodeInfo, StAsnOperationConfig, StAsnViewConfig>();
     expectComparesAllBut<StAsnOperParamDef>({"strSelected"});
     expectComparesAllBut<StAsnOperation>({"bExtFlag", "bIsSupported"});
-    expectComparesAllBut<StAsnCustomOperationDef>({});
-    expectComparesAllBut<StAsnOtherOperationDef>({});
     expectComparesAllBut<StAsnCheckType>({"strExtInfo"});
     expectComparesAllBut<StAsnCheckOperationDef>({"bIsCancelable"});
-    expectComparesAllBut<StAsnMenuOpDef>({});
-    expectComparesAllBut<StAsnPatchItem>({});
-    expectComparesAllBut<StAsnPatchStateDef>({});
-    expectComparesAllBut<StAsnPatchDef>({});
-    expectComparesAllBut<StAsnPatchTypeMenuDef>({});
     expectComparesAllBut<StAsnTaskOperationDef>({"strIsSelect", "strIsPauseBeforeOP"});
     expectComparesAllBut<StAsnTaskConfigOperation>({"strSelected"});
-    expectComparesAllBut<StAsnTaskConfigInfoOperation>({});
-    expectComparesAllBut<StAsnUpgradeSubOperationDef>({});
-    expectComparesAllBut<StAsnUpgradeOperationDef>({});
-    expectComparesAllBut<StAsnDCErrorCodeInfo>({});
-    expectComparesAllBut<StAsnOperationConfig>({});
-    expectComparesAllBut<StAsnViewConfig>({});
     // Two roots of one content are equal, whatever type and versions they are of.
     expectComparesAllBut<StAsnDevTypeVerXMLInfo>({"strDevType", "strDevTypeVer", "lstDevVersion"});
 }

@@ -76,18 +76,17 @@ std::vector<std::string> tableWords(const Table& arTable)
 
 TEST_F(SchemaTest, WordsAreThoseOfTheWordTables)
 {
+    // clang-format off
     const struct
     {
         const char*              pszType;
         std::vector<std::string> lstWord;
     } CASES[] = {
-        {"operationLevel", tableWords(OPERATION_LEVEL_WORDS)},
-        {"availability", tableWords(AVAILABILITY_WORDS)},
-        {"patchType", tableWords(PATCH_TYPE_WORDS)},
-        {"operationKind", tableWords(TYPE_REF_WORDS)},
-        {"isolationOperationKind", tableWords(ISOLATION_TYPE_REF_WORDS)},
-        {"taskTypeName", tableWords(TASK_TYPE_WORDS)},
+        {"operationLevel", tableWords(OPERATION_LEVEL_WORDS)}, {"availability", tableWords(AVAILABILITY_WORDS)},
+        {"patchType", tableWords(PATCH_TYPE_WORDS)}, {"operationKind", tableWords(TYPE_REF_WORDS)},
+        {"isolationOperationKind", tableWords(ISOLATION_TYPE_REF_WORDS)}, {"taskTypeName", tableWords(TASK_TYPE_WORDS)},
     };
+    // clang-format on
     XercesDOMParser oParser;
     oParser.parse((SCHEMAS / "types.xsd").c_str());
     ASSERT_EQ(0u, oParser.getErrorCount());

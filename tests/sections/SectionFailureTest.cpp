@@ -82,31 +82,22 @@ struct StFailureCase
 constexpr const char* LOOKUP = "DOMElement::getElementsByTagName failed :";
 constexpr const char* NO_DOC = "XercesDOMParser::getDocument failed :";
 
+// clang-format off
 const StFailureCase CASES[] = {
-    {CALL(CDevOpXMLConfig, setDevOperXMLConfig),
-     "DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: ", nullptr, NO_DOC},
-    {CALL(CDevOpXMLConfig, setTaskOperationXMLConfig),
-     "CDevOpXMLConfig::setTaskOperationXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
-    {CALL(CDevOpXMLConfig, setPatchOperXMLConfig),
-     "CDevOpXMLConfig::setPatchOperXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
-    {CALL(CCheckOpXMLConfig, setCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
-     "XercesDOMParser::getDocument failed."},
-    {CALL(CCheckOpXMLConfig, setFixedCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
-     "XercesDOMParser::getDocument failed."},
-    {CALL(CCheckOpXMLConfig, setCheckOpConfigurationTelnet), "pDOMParser is null.", "oAsnCheckOperationLst is null.",
-     "XercesDOMParser::getDocument failed."},
+    {CALL(CDevOpXMLConfig, setDevOperXMLConfig), "DOMElement::setDevOperXMLConfig(): pDOMParser pointer is NULL: ", nullptr, NO_DOC},
+    {CALL(CDevOpXMLConfig, setTaskOperationXMLConfig), "CDevOpXMLConfig::setTaskOperationXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
+    {CALL(CDevOpXMLConfig, setPatchOperXMLConfig), "CDevOpXMLConfig::setPatchOperXMLConfig() pDOMParser is NULL :", nullptr, NO_DOC},
+    {CALL(CCheckOpXMLConfig, setCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
+    {CALL(CCheckOpXMLConfig, setFixedCheckOpConfiguration), "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
+    {CALL(CCheckOpXMLConfig, setCheckOpConfigurationTelnet), "pDOMParser is null.", "oAsnCheckOperationLst is null.", "XercesDOMParser::getDocument failed."},
     {CALL(CCustomOpXMLConfig, setCustomOperXMLConfig), "pDOMParser is NULL.", nullptr, NO_DOC},
-    {CALL(COtherOpXMLConfig, setOtherOperXMLConfig), "Invalid para. NULL pointer.pDOMParser",
-     "Invalid para. NULL pointer. pAsnOtherOperationLst", NO_DOC, DC_RESULT_INVALID_PARA},
+    {CALL(COtherOpXMLConfig, setOtherOperXMLConfig), "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnOtherOperationLst", NO_DOC, DC_RESULT_INVALID_PARA},
     {CALL(CUpgradeOpXMLConfig, setUpgradeOperXMLConfig), "pDOMParser is null.", LOOKUP, NO_DOC},
     {CALL(CDevViewPopupMenuConfig, setDevViewPopupMenuConfig), NO_DOC, nullptr, NO_DOC},
     {CALL(CDevViewPopupMenuConfig, setDevViewTabConfig), NO_DOC, nullptr, NO_DOC},
-    {CALL(CIsolationViewPopupMenuConfig, setIsolationViewPopupMenuConfig), "pDOMParser is null.", nullptr,
-     "XercesDOMParser::getDocument failed."},
-    {CALL(CPatchXMLConfig, setPatchStateConfiguraion), "Invalid para. NULL pointer.pDOMParser",
-     "Invalid para. NULL pointer. pAsnPatchStateConfigLst", NO_DOC},
-    {CALL(CPatchViewPopupMenuConfig, setPatchViewPopupMenuConfig), "Invalid para. NULL pointer.pDOMParser",
-     "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", NO_DOC},
+    {CALL(CIsolationViewPopupMenuConfig, setIsolationViewPopupMenuConfig), "pDOMParser is null.", nullptr, "XercesDOMParser::getDocument failed."},
+    {CALL(CPatchXMLConfig, setPatchStateConfiguraion), "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnPatchStateConfigLst", NO_DOC},
+    {CALL(CPatchViewPopupMenuConfig, setPatchViewPopupMenuConfig), "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", NO_DOC},
     {CALL(CTaskXMLConfig, setTaskConfiguration), NO_DOC, LOOKUP, NO_DOC},
     // The readers of one element.
     {CALL(CDevOpXMLConfig, fillDevOperInfo), "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
@@ -123,15 +114,11 @@ const StFailureCase CASES[] = {
     {CALL(CDevOpXMLConfig, fillOperParaInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CDevOpXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CDevOpXMLConfig, fillTaskConfigInfoOperation), LOOKUP, nullptr, LOOKUP},
-    {CALL(CCheckOpXMLConfig, fillCheckOperInfo), "pOperElm is null.", "oAsnCheckOperationLst is null.",
-     "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillCheckOperInfo), "pOperElm is null.", "oAsnCheckOperationLst is null.", "pParaLst is null."},
     {CALL(CCheckOpXMLConfig, fillCheckType), "pOperElm is null.", " pParaLst is null.", " pParaLst is null."},
-    {CALL(CCheckOpXMLConfig, fillCheckTypeTelnet), "pElmCheckType is null.", "pCheckItemLst is null.",
-     "pParaLst is null."},
-    {CALL(CCheckOpXMLConfig, fillFixedCheckType), "pElmCheckType is null.", "oAsnCheckOperationLst is null.",
-     "pParaLst is null."},
-    {CALL(CCheckOpXMLConfig, fillFixedCheckItem), "pElmCheckOperation is null.", "pCheckItemLst is null.",
-     "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillCheckTypeTelnet), "pElmCheckType is null.", "pCheckItemLst is null.", "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillFixedCheckType), "pElmCheckType is null.", "oAsnCheckOperationLst is null.", "pParaLst is null."},
+    {CALL(CCheckOpXMLConfig, fillFixedCheckItem), "pElmCheckOperation is null.", "pCheckItemLst is null.", "pParaLst is null."},
     {CALL(CCustomOpXMLConfig, fillCustomOper), LOOKUP, LOOKUP, LOOKUP},
     {CALL(CCustomOpXMLConfig, fillResourceClass), LOOKUP, nullptr, LOOKUP},
     {CALL(CUpgradeOpXMLConfig, fillUpgradeOperInfo), LOOKUP, LOOKUP, LOOKUP},
@@ -146,8 +133,7 @@ const StFailureCase CASES[] = {
      "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
      "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
      "DOMElement::getElementsByTagName failed."},
-    {CALL(CPatchXMLConfig, fillPatchType), LOOKUP, "Invalid para. NULL pointer. pAsnPatchStateConfigLst",
-     "Invalid para. NULL pointer. pParaLst1"},
+    {CALL(CPatchXMLConfig, fillPatchType), LOOKUP, "Invalid para. NULL pointer. pAsnPatchStateConfigLst", "Invalid para. NULL pointer. pParaLst1"},
     {CALL(CPatchXMLConfig, fillPatchState), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
     {CALL(CPatchXMLConfig, fillPatchItem), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
     {CALL(CPatchViewPopupMenuConfig, fillPatchTypeInfo), "Invalid para. NULL pointer. pOperElm.",
@@ -157,17 +143,16 @@ const StFailureCase CASES[] = {
     {CALL(CCapacityXMLConfig, fillOperInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CCapacityXMLConfig, fillOperParaInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CCapacityXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
-    {CALL(CDevTypeXMLConfig, fillDevTypeInfo), "pElm is null.",
-     "DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:", "DOMElement::getElementsByTagName failed"},
-    {CALL(CTaskXMLConfig, fillTaskFeatureConfigInfo), "DOMElement::getElementsByTagName failed:", nullptr,
-     "DOMElement::getElementsByTagName failed:"},
+    {CALL(CDevTypeXMLConfig, fillDevTypeInfo), "pElm is null.", "DOMElement::getElementsByTagName failed or pDevTypeLst is NULL:", "DOMElement::getElementsByTagName failed"},
+    {CALL(CTaskXMLConfig, fillTaskFeatureConfigInfo), "DOMElement::getElementsByTagName failed:", nullptr, "DOMElement::getElementsByTagName failed:"},
 };
+// clang-format on
 
 TEST(SectionFailureTest, NamesWhatIsMissing)
 {
-    CUnparsedXml oUnparsed;
-    CParsedXml   oParsed("");
-    CForeignXml  oForeign(nested("X", 17));
+    const auto  pUnparsed = CXmlParser::create();
+    CParsedXml  oParsed("");
+    CForeignXml oForeign(nested("X", 17));
     for (const StFailureCase& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);
@@ -184,12 +169,12 @@ TEST(SectionFailureTest, NamesWhatIsMissing)
         const bool bIgnoresList = stCase.pszNoList == nullptr;
         fnExpect({nullptr, nullptr, true}, stCase.ulNoArgument, stCase.pszNoSource);
         fnExpect({oParsed.parser(), oParsed.root(), false}, bIgnoresList ? 0 : stCase.ulNoArgument, stCase.pszNoList);
-        fnExpect({oUnparsed.parser(), oForeign.innermost(u"X"), true}, stCase.ulNoContent, stCase.pszNoContent);
+        fnExpect({pUnparsed.get(), oForeign.innermost(u"X"), true}, stCase.ulNoContent, stCase.pszNoContent);
         // Two faults at once: the first one checked is told. A missing parser that counts as a missing document
         // comes after the list.
         const bool bListFirst = stCase.pszNoSource == NO_DOC && !bIgnoresList;
         fnExpect({nullptr, nullptr, false}, stCase.ulNoArgument, bListFirst ? stCase.pszNoList : stCase.pszNoSource);
-        fnExpect({oUnparsed.parser(), oForeign.innermost(u"X"), false},
+        fnExpect({pUnparsed.get(), oForeign.innermost(u"X"), false},
                  bIgnoresList ? stCase.ulNoContent : stCase.ulNoArgument,
                  bIgnoresList ? stCase.pszNoContent : stCase.pszNoList);
     }

@@ -64,13 +64,12 @@ struct StReadCase
     const char*   pszRecords;
 };
 
+// clang-format off
 const StReadCase CASES[] = {
     // What a section reads of an element, and what it does not. That every attribute reaches its field is
     // compared on the example server.
-    {"PatchIsNeverCancelable", PATCH, "<Operation id='Load' operationLevel='BoardLevel' isCancelable='1'/>",
-     "Load|0|1|[]|0|0"},
-    {"PreChecksComeFirst", TELNET, "<TaskType id='PackageDowngrade'><PostCheck/><PreCheck/></TaskType><TaskType/>",
-     "PreCheck|0|9|[]|0, PostCheck|0|9|[]|0"},
+    {"PatchIsNeverCancelable", PATCH, "<Operation id='Load' operationLevel='BoardLevel' isCancelable='1'/>", "Load|0|1|[]|0|0"},
+    {"PreChecksComeFirst", TELNET, "<TaskType id='PackageDowngrade'><PostCheck/><PreCheck/></TaskType><TaskType/>", "PreCheck|0|9|[]|0, PostCheck|0|9|[]|0"},
     {"FixedFile", FIXED,
      "<TaskType id='PatchUpdate'><Operation id='PreCheck' operationLevel='BoardLevel' isCancelable='1'><Parameter "
      "id='power' description='d' selected='1' cmdKey='not read'/><Parameter id='fan'/></Operation><Operation "
@@ -101,25 +100,16 @@ const StReadCase CASES[] = {
      "<Patch type='ColdPatch'><State name='n'><Item id='i' type='PatchOperation'/></State></Patch>"
      "<Patch type='HotPatch'/><Patch type='hotpatch'/><Patch type='Cold'/><Patch/>",
      "1|[n|[i|2]], 0|[], 0|[], 0|[], 0|[]"},
-    {"PatchTypesOfTheMenu", PATCH_MENU, "<Patch type='hotpatch'/><Patch type='ColdPatch'><Item/></Patch><Patch/>",
-     "0|[], 1|[6|], 0|[]"},
+    {"PatchTypesOfTheMenu", PATCH_MENU, "<Patch type='hotpatch'/><Patch type='ColdPatch'><Item/></Patch><Patch/>", "0|[], 1|[6|], 0|[]"},
     {"Kinds", PATCH_MENU,
      "<Patch><Item type='DeviceOperation'/><Item type='TaskOperation'/><Item type='PatchOperation'/><Item "
      "type='CheckOperation'/><Item type='CustomOperation'/><Item type='OtherOperation'/><Item type='BoardOperation'/>"
      "<Item type='deviceoperation'/></Patch>",
      "0|[0|, 1|, 2|, 3|, 4|, 5|, 6|, 6|]"},
     {"KindsOfAState", PATCH_STATE, "<Patch><State><Item type='BoardOperation'/></State></Patch>", "0|[|[|6]]"},
-    {"OtherParameter", OTHER,
-     "<OtherOperation><Parameter selected='s'><Option value='4294967297' target='t'/></Parameter></OtherOperation>",
-     "|0|[||0||[|1|]]"},
-    {"UpgradeParameter", UPGRADE,
-     "<Operation><SubOperation><Parameter value='v' selected='s'><Option target='t'/></Parameter></SubOperation>"
-     "</Operation>",
-     "|0|[|0|[||0||[|0|]]]"},
-    {"SectionsFollowEachOther", MENU,
-     "<Item id='a'/></DeviceViewPopupMenu><G><DeviceViewPopupMenu><R><Item id='b'/></R></DeviceViewPopupMenu></G>"
-     "<DeviceViewPopupMenu>",
-     "6|a, 6|b"},
+    {"OtherParameter", OTHER, "<OtherOperation><Parameter selected='s'><Option value='4294967297' target='t'/></Parameter></OtherOperation>", "|0|[||0||[|1|]]"},
+    {"UpgradeParameter", UPGRADE, "<Operation><SubOperation><Parameter value='v' selected='s'><Option target='t'/></Parameter></SubOperation></Operation>", "|0|[|0|[||0||[|0|]]]"},
+    {"SectionsFollowEachOther", MENU, "<Item id='a'/></DeviceViewPopupMenu><G><DeviceViewPopupMenu><R><Item id='b'/></R></DeviceViewPopupMenu></G><DeviceViewPopupMenu>", "6|a, 6|b"},
     {"IsolationKinds", ISOLATION,
      "<Item type='TaskOperation'/><Item type='DeviceOperation'/><Item type='BoardOperation'/><Item "
      "type='OtherOperation' id='GetWeakBd'/>",
@@ -134,12 +124,10 @@ const StReadCase CASES[] = {
      "<OtherOperation isSupported='2'/><OtherOperation isSupported='true'/><OtherOperation isSupported=' -1x'/>"
      "<OtherOperation isSupported='0x1'/><OtherOperation isSupported='4294967296'/>",
      "|1|[], |0|[], |1|[], |0|[], |0|[]"},
-    {"SelectedOfACheckItem", CHECK, "<Operation><Parameter selected='true' isCompare='7'/></Operation>",
-     "|0|-1|[||||0||0|1|0|[]|]|0"},
+    {"SelectedOfACheckItem", CHECK, "<Operation><Parameter selected='true' isCompare='7'/></Operation>", "|0|-1|[||||0||0|1|0|[]|]|0"},
 
     // Names are found at any depth, also inside their own kind.
-    {"OperationInOperation", DEVICE, "<Operation id='o'><Operation id='i'><Parameter id='p'/></Operation></Operation>",
-     "o|0|0|[p||0||[]]|0|0, i|0|0|[p||0||[]]|0|0"},
+    {"OperationInOperation", DEVICE, "<Operation id='o'><Operation id='i'><Parameter id='p'/></Operation></Operation>", "o|0|0|[p||0||[]]|0|0, i|0|0|[p||0||[]]|0|0"},
     {"SubItemInSubItem", CHECK,
      "<Operation><Parameter id='p'><SubItem id='a'><SubItem id='b'/></SubItem></Parameter></Operation>",
      "|0|-1|[p||||0||0|0|0|[a||||0||0|0|0|[b||||0||0|0|0|[]|]|, b||||0||0|0|1|[]|]|]|0"},
@@ -170,6 +158,7 @@ const StReadCase CASES[] = {
      "<Parameter checked='1'/><Parameter selected='1'/></PostCheck></TaskType>",
      "PostCheck|0|2|[||||0||1|0|0|[]|, ||||0||0|0|1|[]|, ||||0||0|0|2|[]|, ||||0||1|0|3|[]|]|0"},
 };
+// clang-format on
 
 // A caller names the elements by any text, in the local code page.
 TEST(SectionReadTest, TagNameIsTheCallers)

@@ -10,24 +10,20 @@ namespace
 {
 TEST(DatabaseFile, NamesTableAndColumn)
 {
+    // clang-format off
     const std::pair<const char*, const char*> CASES[] = {
         // run after the tables are made; the message
         {"CREATE TABLE note(x); ALTER TABLE device ADD COLUMN note TEXT;", ""},
         {"DROP TABLE capacity;", "/server.db: table capacity is missing"},
         {"ALTER TABLE device DROP COLUMN ip_address;", "/server.db: table device: column ip_address is missing"},
-        {"DROP TABLE setting; CREATE VIEW setting AS SELECT 'a' AS name, 'b' AS value;",
-         "/server.db: table setting is missing"},
-        {"DROP TABLE setting; CREATE TABLE setting(name TEXT, value TEXT AS (name || 'x'));",
-         "/server.db: table setting: column value is missing"},
-        {"DROP TABLE setting; CREATE TABLE setting(name, value); INSERT INTO setting VALUES('a', 5);",
-         "/server.db: table setting, column value, row 1: holds a number, needed is text"},
+        {"DROP TABLE setting; CREATE VIEW setting AS SELECT 'a' AS name, 'b' AS value;", "/server.db: table setting is missing"},
+        {"DROP TABLE setting; CREATE TABLE setting(name TEXT, value TEXT AS (name || 'x'));", "/server.db: table setting: column value is missing"},
+        {"DROP TABLE setting; CREATE TABLE setting(name, value); INSERT INTO setting VALUES('a', 5);", "/server.db: table setting, column value, row 1: holds a number, needed is text"},
         {"DROP TABLE config_item; CREATE TABLE config_item(section, key, value);"
          "INSERT INTO config_item VALUES('DC', 'X', 1.5);",
          "/server.db: table config_item, column value, row 1: holds a number with a fraction, needed is a number"},
-        {"DROP TABLE resource; CREATE TABLE resource(key, value); INSERT INTO resource(key) VALUES('a');",
-         "/server.db: table resource, column value, row 1: holds NULL, needed is text"},
-        {"INSERT INTO setting VALUES('a', CAST(x'C0AF' AS TEXT));",
-         "/server.db: table setting, column value, row 1: holds text that is not UTF-8"},
+        {"DROP TABLE resource; CREATE TABLE resource(key, value); INSERT INTO resource(key) VALUES('a');", "/server.db: table resource, column value, row 1: holds NULL, needed is text"},
+        {"INSERT INTO setting VALUES('a', CAST(x'C0AF' AS TEXT));", "/server.db: table setting, column value, row 1: holds text that is not UTF-8"},
         {"DROP TABLE setting; CREATE TABLE setting(name, value);"
          "INSERT INTO setting VALUES('a', '1'), ('b', '2'), ('a', '3');",
          "/server.db: table setting, column name, row 2: holds a key that an earlier row has as well"},
@@ -35,6 +31,7 @@ TEST(DatabaseFile, NamesTableAndColumn)
          "UPDATE sqlite_master SET name=CAST(x'610AE9' AS TEXT), sql='CREATE' WHERE name='device';",
          "/server.db: malformed database schema (a ?) - incomplete input"},
     };
+    // clang-format on
     for (const auto& [pszSql, pszProblem] : CASES)
     {
         SCOPED_TRACE(pszSql);

@@ -31,22 +31,16 @@ std::string problemOf(const std::string& strSql)
 
 TEST(ScriptFile, OpensOrSaysWhatIsWrong)
 {
+    // clang-format off
     const std::pair<std::string, std::string> CASES[] = {
         // the script; how the message goes on
-        {"", ""},
-        {"-- a\n/* b; */ ;;", ""},
-        {"\xEF\xBB\xBFINSERT INTO setting VALUES('a','b');", ""},
-        {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n LIMIT 5000) "
-         "INSERT INTO device_type(position, name, version) SELECT i, 'T' || i, 'V1' FROM n;",
-         ""},
+        {"", ""}, {"-- a\n/* b; */ ;;", ""}, {"\xEF\xBB\xBFINSERT INTO setting VALUES('a','b');", ""},
+        {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n LIMIT 5000) INSERT INTO device_type(position, name, version) SELECT i, 'T' || i, 'V1' FROM n;", ""},
         {"INSERT INTO version_in_service VALUES(0,'X','V1','','')" + rows(100'000), ""},
         // Statements.
-        {"-- types\n\nINSERT INTO\n  device_typ VALUES(1,\t'x');",
-         ", line 3: no such table: device_typ: INSERT INTO device_typ VALUES(1, 'x');"},
-        {"INSERT INTO setting VALUES('a;''b', ';'); /* ; */\n-- ; \n[x;y]",
-         ", line 3: near \"[x;y]\": syntax error: [x;y]"},
-        {"INSERT INTO nobody VALUES('" + std::string(500, 'x') + "');",
-         ", line 1: no such table: nobody: INSERT INTO nobody VALUES('" + std::string(53, 'x') + "..."},
+        {"-- types\n\nINSERT INTO\n  device_typ VALUES(1,\t'x');", ", line 3: no such table: device_typ: INSERT INTO device_typ VALUES(1, 'x');"},
+        {"INSERT INTO setting VALUES('a;''b', ';'); /* ; */\n-- ; \n[x;y]", ", line 3: near \"[x;y]\": syntax error: [x;y]"},
+        {"INSERT INTO nobody VALUES('" + std::string(500, 'x') + "');", ", line 1: no such table: nobody: INSERT INTO nobody VALUES('" + std::string(53, 'x') + "..."},
         {"INSERT INTO setting VALUES('a','b", ", line 1: unrecognized token"},
         // The line, or else the row, of the mistake.
         {"\nINSERT INTO setting VALUES\n('a', 'b'),\n('c', d),\n('e', 'f');", ", line 4: no such column: d: ('c', d),"},
@@ -54,22 +48,18 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
          ", line 1: row 58: UNIQUE constraint failed: version_in_service.position: INSERT INTO version"},
         {"DELETE FROM setting WHERE 1 SELECT 2;\n", ", line 1: near \"SELECT\": syntax error: DELETE FROM"},
         {";;/**/; nonsense -- ;\n;\nSELECT 1;", ", line 1: near \"nonsense\": syntax error: nonsense -- ;"},
-        {"INSERT INTO setting VALUES('a','b');\nINSERT INTO setting VALUES('a','c');",
-         ", line 2: UNIQUE constraint failed: setting.name"},
+        {"INSERT INTO setting VALUES('a','b');\nINSERT INTO setting VALUES('a','c');", ", line 2: UNIQUE constraint failed: setting.name"},
         {"INSERT INTO device_class(type_id,domain) VALUES(1,'x');", ", line 1: cannot store TEXT value"},
         // Bytes.
         {"INSERT INTO setting\nVALUES('a','\0b');"s, ", line 2: a NUL byte"},
         {"\n\nINSERT INTO setting VALUES('a','\xE9');", ", line 3: not UTF-8"},
         {"INSERT INTO setting VALUES('a',char(0));", ": table setting, column value, row 1: holds a NUL byte"},
         // Ranges.
-        {"INSERT INTO device_type(position,name,version,type_id) VALUES(1,'a','b',4294967296);",
-         ": table device_type, column type_id, row 1: holds 4294967296, allowed is 0 to 4294967295"},
-        {"INSERT INTO device_type(position,name,version,config_file_type) VALUES(1,'a','b',2147483648);",
-         ": table device_type, column config_file_type, row 1: holds 2147483648"},
+        {"INSERT INTO device_type(position,name,version,type_id) VALUES(1,'a','b',4294967296);", ": table device_type, column type_id, row 1: holds 4294967296, allowed is 0 to 4294967295"},
+        {"INSERT INTO device_type(position,name,version,config_file_type) VALUES(1,'a','b',2147483648);", ": table device_type, column config_file_type, row 1: holds 2147483648"},
         {"INSERT INTO device_class(type_id,domain) VALUES(1,6);", ": table device_class, column domain"},
         {"INSERT INTO device_class(type_id,domain,is_snmp) VALUES(1,1,2);", ": table device_class, column is_snmp"},
-        {"INSERT INTO device_class(type_id,domain,compatible_type_id) VALUES(1,1,65536);",
-         ": table device_class, column compatible_type_id, row 1: holds 65536, allowed is 0 to 65535"},
+        {"INSERT INTO device_class(type_id,domain,compatible_type_id) VALUES(1,1,65536);", ": table device_class, column compatible_type_id, row 1: holds 65536, allowed is 0 to 65535"},
         // What would reach outside the inventory.
         {"ATTACH 'x.db' AS x;", ", line 1: not allowed in an inventory: ATTACH 'x.db' AS x;"},
         {"PRAGMA writable_schema=1;", ", line 1: not allowed"},
@@ -80,6 +70,7 @@ TEST(ScriptFile, OpensOrSaysWhatIsWrong)
         {"INSERT INTO setting VALUES('a','" + std::string(20000, 'x') + "');", ", line 1: string or blob too big"},
         {"SELECT " + std::string(300, '~') + "1;", ", line 1: "},
     };
+    // clang-format on
     for (const auto& [strSql, strProblem] : CASES)
     {
         SCOPED_TRACE(strSql.substr(0, 100));

@@ -48,23 +48,20 @@ TEST_F(LookupTest, RegistryOrderIsThePosition)
 
 TEST_F(LookupTest, StorageKeyFindsTheTelnetVariant)
 {
+    // clang-format off
     const struct
     {
         const char* pszName;
         const char* pszVersion;
         const char* pszFound; // name and version id; "" when there is none
     } CASES[] = {
-        {"X", "V1_telnet", "X 2"}, // the first of two
-        {"X_telnet", "V1_telnet", "X 2"},
-        {"X_telnet", "V1", ""}, // no telnet variant
-        {"X_telnet", "V2", "X_telnet 1"},
-        {"Y_telnet", "V3_telnet", "Y_telnet 1"}, // a row of the whole key wins
-        {"Y_telnet_telnet", "V3_telnet", "Y_telnet 1"},
-        {"X_telnet_telnet", "V1_telnet", ""}, // one suffix only
-        {"_telnet", "V2", "_telnet 2"},
-        {"x", "V1", ""},
-        {"X", "", ""},
+        // the first of two; no telnet variant; a row of the whole key wins; one suffix only
+        {"X", "V1_telnet", "X 2"}, {"X_telnet", "V1_telnet", "X 2"}, {"X_telnet", "V1", ""},
+        {"X_telnet", "V2", "X_telnet 1"}, {"Y_telnet", "V3_telnet", "Y_telnet 1"},
+        {"Y_telnet_telnet", "V3_telnet", "Y_telnet 1"}, {"X_telnet_telnet", "V1_telnet", ""},
+        {"_telnet", "V2", "_telnet 2"}, {"x", "V1", ""}, {"X", "", ""},
     };
+    // clang-format on
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(fmt::format("{} {}", stCase.pszName, stCase.pszVersion));
