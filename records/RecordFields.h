@@ -78,7 +78,8 @@ struct StField
     Kind           stKind;
 };
 
-// The fields of a record: fieldsOf(static_cast<StAsnOperation*>(nullptr)).
+// The fields of a record: fieldsOf(static_cast<StAsnOperation*>(nullptr)). Records that
+// live elsewhere are described by these two as well.
 #define OPERATIONXML_RECORD(Record, ...)                                                                               \
     constexpr auto fieldsOf(const Record* /*pRecord*/)                                                                 \
     {                                                                                                                  \
@@ -235,9 +236,6 @@ OPERATIONXML_RECORD(StAsnDevTypeVerXMLInfo,
     OPERATIONXML_FIELD(stDCErrorCodeInfo, StRecord),
     OPERATIONXML_FIELD(lstTaskConfigInfoOperation, StList))
 // clang-format on
-
-#undef OPERATIONXML_FIELD
-#undef OPERATIONXML_RECORD
 
 // Calls fnVisit(name, kind, value) for every field of a record in order; the value
 // may be written to when the record may.
