@@ -1,4 +1,5 @@
-// Who stops what was thrown, and its log line.
+// See Guarded.h. Who stops what was thrown, and its log line; each thread counts its own
+// entries.
 #include "common/Guarded.h"
 
 #include "common/LogLine.h"

@@ -1,5 +1,6 @@
-// Capacity mode of the device-type reader: one read for each version in service,
-// one record for each distinct result.
+// Capacity mode of CDevTypeXMLResReader: one read for each version in service, one
+// record for each distinct result. Called at the load, and by the database for a type
+// whose capacities are asked for anew; every record has an owner at every moment.
 #include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "platform/DeviceDatabase.h"

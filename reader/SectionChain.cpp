@@ -1,4 +1,5 @@
-// One read of a whole document, row by row of the section table.
+// See SectionChain.h. One read of a whole document, row by row of the section table,
+// for the readers of device types and of modules, on their thread.
 #include "reader/SectionChain.h"
 
 #include "reader/SectionTable.h"

@@ -1,4 +1,5 @@
-// Lookups in the word tables that answer more than one caller.
+// See WordTables.h. Lookups for callers of the library and for the tool; parsers look
+// words up by attrRow().
 #include "records/WordTables.h"
 
 const StTaskTypeWord* findTaskType(std::string_view strName)
