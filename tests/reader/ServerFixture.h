@@ -34,9 +34,9 @@ protected:
         std::filesystem::create_directories(m_oRoot.path() + "/etc/oss_cfg/dc/ne_script/importscript");
     }
 
-    Lines log() const
+    // Lines of the log with the root's path written as ROOT.
+    Lines log(Lines lstLine = logLines()) const
     {
-        Lines lstLine = logLines();
         for (std::string& strLine : lstLine)
         {
             for (std::size_t nAt = 0; (nAt = strLine.find(m_oRoot.path())) != std::string::npos;)
@@ -46,10 +46,10 @@ protected:
     }
 
     // The same in one text, every line with its end.
-    std::string logText() const
+    std::string logText(const Lines& lstLine = logLines()) const
     {
         std::string strText;
-        for (const std::string& strLine : log())
+        for (const std::string& strLine : log(lstLine))
             strText += strLine + "\n";
         return strText;
     }

@@ -79,6 +79,7 @@ struct StFailureCase
     std::uint32_t ulNoContent  = DC_RESULT_XML_ERROR;
 };
 
+constexpr const char* SAME   = "as without a source";
 constexpr const char* LOOKUP = "DOMElement::getElementsByTagName failed :";
 constexpr const char* NO_DOC = "XercesDOMParser::getDocument failed :";
 
@@ -100,17 +101,9 @@ const StFailureCase CASES[] = {
     {CALL(CPatchViewPopupMenuConfig, setPatchViewPopupMenuConfig), "Invalid para. NULL pointer.pDOMParser", "Invalid para. NULL pointer. pAsnPatchViewMenuOpList", NO_DOC},
     {CALL(CTaskXMLConfig, setTaskConfiguration), NO_DOC, LOOKUP, NO_DOC},
     // The readers of one element.
-    {CALL(CDevOpXMLConfig, fillDevOperInfo), "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
-     "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:",
-     "DOMElement::getElementsByTagName failed"},
-    {CALL(CDevOpXMLConfig, fillTaskOperInfo),
-     "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
-     "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:",
-     "DOMElement::getElementsByTagName failed."},
-    {CALL(CDevOpXMLConfig, fillPatchOperInfo),
-     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
-     "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :",
-     "DOMElement::getElementsByTagName failed."},
+    {CALL(CDevOpXMLConfig, fillDevOperInfo), "DOMElement::getElementsByTagName failed or pAsnDevOperationLst is NULL:", SAME, "DOMElement::getElementsByTagName failed"},
+    {CALL(CDevOpXMLConfig, fillTaskOperInfo), "DOMElement::getElementsByTagName failed or pAsnTaskOperationLst is NULL:", SAME, "DOMElement::getElementsByTagName failed."},
+    {CALL(CDevOpXMLConfig, fillPatchOperInfo), "DOMElement::getElementsByTagName failed or pAsnPatchOperationLst is NULL :", SAME, "DOMElement::getElementsByTagName failed."},
     {CALL(CDevOpXMLConfig, fillOperParaInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CDevOpXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
     {CALL(CDevOpXMLConfig, fillTaskConfigInfoOperation), LOOKUP, nullptr, LOOKUP},
@@ -125,14 +118,8 @@ const StFailureCase CASES[] = {
     {CALL(CUpgradeOpXMLConfig, fillSubOperType), LOOKUP, nullptr, LOOKUP},
     {CALL(CUpgradeOpXMLConfig, fillSubParaType), LOOKUP, nullptr, LOOKUP},
     {CALL(CUpgradeOpXMLConfig, fillOperOptionInfo), LOOKUP, nullptr, LOOKUP},
-    {CALL(CDevViewPopupMenuConfig, fillDevViewPopUpMenu),
-     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
-     "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:",
-     "DOMElement::getElementsByTagName failed."},
-    {CALL(CIsolationViewPopupMenuConfig, fillIsolationViewPopUpMenu),
-     "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
-     "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.",
-     "DOMElement::getElementsByTagName failed."},
+    {CALL(CDevViewPopupMenuConfig, fillDevViewPopUpMenu), "DOMElement::getElementsByTagName failed or pAsnDevViewMenuDefList is NULL:", SAME, "DOMElement::getElementsByTagName failed."},
+    {CALL(CIsolationViewPopupMenuConfig, fillIsolationViewPopUpMenu), "DOMElement::getElementsByTagName failed or pAsnIsolationViewMenuDefList is NULL.", SAME, "DOMElement::getElementsByTagName failed."},
     {CALL(CPatchXMLConfig, fillPatchType), LOOKUP, "Invalid para. NULL pointer. pAsnPatchStateConfigLst", "Invalid para. NULL pointer. pParaLst1"},
     {CALL(CPatchXMLConfig, fillPatchState), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
     {CALL(CPatchXMLConfig, fillPatchItem), LOOKUP, LOOKUP, LOOKUP, DC_RESULT_XML_ERROR, 0},
@@ -166,17 +153,18 @@ TEST(SectionFailureTest, NamesWhatIsMissing)
             EXPECT_EQ(lstLine, logLinesWithPlace());
             clearLog();
         };
-        const bool bIgnoresList = stCase.pszNoList == nullptr;
+        const char* const pszNoList    = stCase.pszNoList == SAME ? stCase.pszNoSource : stCase.pszNoList;
+        const bool        bIgnoresList = pszNoList == nullptr;
         fnExpect({nullptr, nullptr, true}, stCase.ulNoArgument, stCase.pszNoSource);
-        fnExpect({oParsed.parser(), oParsed.root(), false}, bIgnoresList ? 0 : stCase.ulNoArgument, stCase.pszNoList);
+        fnExpect({oParsed.parser(), oParsed.root(), false}, bIgnoresList ? 0 : stCase.ulNoArgument, pszNoList);
         fnExpect({pUnparsed.get(), oForeign.innermost(u"X"), true}, stCase.ulNoContent, stCase.pszNoContent);
         // Two faults at once: the first one checked is told. A missing parser that counts as a missing document
         // comes after the list.
         const bool bListFirst = stCase.pszNoSource == NO_DOC && !bIgnoresList;
-        fnExpect({nullptr, nullptr, false}, stCase.ulNoArgument, bListFirst ? stCase.pszNoList : stCase.pszNoSource);
+        fnExpect({nullptr, nullptr, false}, stCase.ulNoArgument, bListFirst ? pszNoList : stCase.pszNoSource);
         fnExpect({pUnparsed.get(), oForeign.innermost(u"X"), false},
                  bIgnoresList ? stCase.ulNoContent : stCase.ulNoArgument,
-                 bIgnoresList ? stCase.pszNoContent : stCase.pszNoList);
+                 bIgnoresList ? stCase.pszNoContent : pszNoList);
     }
 }
 
