@@ -78,8 +78,7 @@ struct StField
     Kind           stKind;
 };
 
-// The fields of a record: fieldsOf(static_cast<StAsnOperation*>(nullptr)). Records that
-// live elsewhere are described by these two as well.
+// The fields of a record: fieldsOf(static_cast<StAsnOperation*>(nullptr)).
 #define OPERATIONXML_RECORD(Record, ...)                                                                               \
     constexpr auto fieldsOf(const Record* /*pRecord*/)                                                                 \
     {                                                                                                                  \
@@ -236,6 +235,7 @@ OPERATIONXML_RECORD(StAsnDevTypeVerXMLInfo,
     OPERATIONXML_FIELD(stDCErrorCodeInfo, StRecord),
     OPERATIONXML_FIELD(lstTaskConfigInfoOperation, StList))
 // clang-format on
+// Both macros stay defined: records that live elsewhere are described by them as well.
 
 // Calls fnVisit(name, kind, value) for every field of a record in order; the value
 // may be written to when the record may.
