@@ -14,11 +14,14 @@ struct StAny
     template <typename Member>
     operator Member() const;
 };
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers" // on purpose; clang++ names each
 template <typename Record, std::size_t... nAt>
 constexpr auto takes(std::index_sequence<nAt...>) -> decltype(Record{(static_cast<void>(nAt), StAny())...}, true)
 {
     return true;
 }
+#pragma GCC diagnostic pop
 template <typename Record>
 constexpr bool takes(...)
 {
