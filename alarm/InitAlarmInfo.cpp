@@ -15,6 +15,16 @@ namespace
 {
 constexpr const char* DC_SOURCE = "InitAlarmInfo";
 
+enum class EnAlarmParam
+{
+    Id,
+    Name,
+    Explain,
+};
+
+constexpr StWord<EnAlarmParam> ALARM_PARAMS[] = {
+    {"AlarmID", EnAlarmParam::Id}, {"AlarmName", EnAlarmParam::Name}, {"Explain", EnAlarmParam::Explain}};
+
 // One string of the right size: a table holds tens of thousands of alarms.
 std::string loadLine(const AlarmStaticInfo& stAlarm)
 {
@@ -61,8 +71,7 @@ InitAlarmInfo::InitAlarmInfo()
                  logInfo(stHere, loadLine(stAlarm));
                  // The first record of an id stays.
                  const std::uint64_t ulAlarmId = stAlarm.ulAlarmId;
-                 if (!m_mapAlarm.try_emplace(ulAlarmId, std::move(stAlarm)).second)
-                     addProblem("alarm " + std::to_string(ulAlarmId) + " stands in an earlier record, which is kept");
+                 m_mapAlarm.try_emplace(ulAlarmId, std::move(stAlarm));
              });
     }
     catch (...)
@@ -104,24 +113,17 @@ try
         logFail(DC_HERE, DC_RESULT_XML_ERROR, "DOMElement::getElementsByTagName failed :");
         return;
     }
-    bool bHasId = false;
     for (const DOMElement& oParam : oParams)
     {
-        const std::string strName = attrText(CAttributes(oParam), u"name");
-        if (strName == "AlarmID")
-        {
-            stAlarm.ulAlarmId = readNumber("AlarmID", elementText(oParam)).value_or(0);
-            bHasId            = true;
-        }
-        else if (strName == "AlarmName")
-            stAlarm.strAlarmName = elementText(oParam);
-        else if (strName == "Explain")
-            stAlarm.strExplain = elementText(oParam);
-        else if (m_setUnknownParam.insert(strName).second)
-            addProblem("a param named \"" + strName + "\" is not known and is passed over wherever it stands");
+        const StWord<EnAlarmParam>* pParam  = attrRow(CAttributes(oParam), u"name", ALARM_PARAMS);
+        std::string                 strText = elementText(oParam);
+        if (pParam == nullptr)
+            continue;
+        if (pParam->value == EnAlarmParam::Id)
+            stAlarm.ulAlarmId = readNumber(strText).value_or(0);
+        else
+            (pParam->value == EnAlarmParam::Name ? stAlarm.strAlarmName : stAlarm.strExplain) = std::move(strText);
     }
-    if (!bHasId)
-        addProblem("no \"AlarmID\", so the record is stored under 0");
 }
 catch (...)
 {

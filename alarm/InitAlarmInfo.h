@@ -10,7 +10,6 @@
 
 #include <cstdint>
 #include <map>
-#include <set>
 #include <string>
 
 struct AlarmStaticInfo
@@ -36,9 +35,8 @@ public:
     AlarmStaticInfo getAlarmNameByAlarmId(unsigned long ulAlarmId) const;
 
     // Fills one value from one "record" element; a later param of a name
-    // overwrites an earlier one, and params of other names are left alone. Notes
-    // problems in the dictionary, so nobody else may use it meanwhile.
-    void fillAlarmInfo(const xercesc::DOMElement* pRecord, AlarmStaticInfo& stAlarm);
+    // overwrites an earlier one, and params of other names are left alone.
+    static void fillAlarmInfo(const xercesc::DOMElement* pRecord, AlarmStaticInfo& stAlarm);
 
     // Every alarm of the file by its id; for tools.
     const std::map<std::uint64_t, AlarmStaticInfo>& alarms() const { return m_mapAlarm; }
@@ -52,7 +50,6 @@ private:
     static InitAlarmInfo* m_pInstance;
 
     std::map<std::uint64_t, AlarmStaticInfo> m_mapAlarm;
-    std::set<std::string>                    m_setUnknownParam; // each is named once as a problem, not per record
 };
 
 #endif

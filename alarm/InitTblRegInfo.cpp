@@ -24,6 +24,15 @@ constexpr unsigned long NO_DEV_TYPE = std::numeric_limits<unsigned long>::max();
 // nested in each other, which are read once for each level, could.
 constexpr std::size_t MAX_FAULT_IDS = 1'000'000;
 
+enum class EnTransferParam
+{
+    DevType,
+    FaultIds,
+};
+
+constexpr StWord<EnTransferParam> TRANSFER_PARAMS[] = {{"DevType", EnTransferParam::DevType},
+                                                       {"FaultIDList", EnTransferParam::FaultIds}};
+
 // As the ids stand in the table: 101,102
 std::string joined(const std::list<unsigned long>& lstFaultId)
 {
@@ -113,8 +122,6 @@ try
         if (ulResult != DC_RESULT_OK)
             logCall(DC_HERE, ulResult, "GetAlarmsAndDevType(paramNodeLst, devType, alaLst, j)");
     }
-    if (lstFaultId.empty())
-        addProblem("no fault id, so the record registers nothing");
     if (ulDevType < NO_DEV_TYPE)
         AddAlarmInfoToMap(ulDevType, lstFaultId);
     else
@@ -133,37 +140,37 @@ try
     const DOMElement* pParam = nIndex < lstParam.size() ? lstParam[nIndex] : nullptr;
     if (pParam == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "pElm is null.");
-    const std::string strName = attrText(CAttributes(*pParam), u"name");
-    const std::string strText = elementText(*pParam);
-    if (strName == "DevType")
-    {
-        // Without a number the record applies to device type 0, not to all of them.
-        ulDevType = readNumber("DevType", strText).value_or(0);
-        return DC_RESULT_OK;
-    }
-    if (strName != "FaultIDList")
-    {
-        addProblem("a param named \"" + strName + "\" is not known and is passed over");
-        return DC_RESULT_XML_ERROR;
-    }
-    for (std::size_t nFrom = 0; nFrom <= strText.size();)
-    {
-        const std::size_t nComma = std::min(strText.find(',', nFrom), strText.size());
-        if (++m_nFaultIds > MAX_FAULT_IDS)
-        {
-            addProblem("the table holds too many fault ids, the rest of this \"FaultIDList\" is passed over");
-            return logFail(DC_HERE, DC_RESULT_XML_ERROR, "The table holds too many fault ids.");
-        }
-        // A piece that is no number is dropped: 0 would be an id nobody wrote.
-        if (const auto ulFaultId = readNumber("FaultIDList", std::string_view(strText).substr(nFrom, nComma - nFrom)))
-            lstFaultId.push_back(*ulFaultId);
-        nFrom = nComma + 1;
-    }
-    return DC_RESULT_OK;
+    return readParam(DC_HERE, *pParam, ulDevType, lstFaultId, m_nFaultIds);
 }
 catch (...)
 {
     return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::uint32_t InitTblRegInfo::readParam(const LocationInfo& stWhere, const DOMElement& oParam, unsigned long& ulDevType,
+                                        std::list<unsigned long>& lstFaultId, std::size_t& nFaultIds)
+{
+    const StWord<EnTransferParam>* pParam  = attrRow(CAttributes(oParam), u"name", TRANSFER_PARAMS);
+    const std::string              strText = elementText(oParam);
+    if (pParam == nullptr)
+        return DC_RESULT_XML_ERROR;
+    if (pParam->value == EnTransferParam::DevType)
+    {
+        // Without a number the record applies to device type 0, not to all of them.
+        ulDevType = readNumber(strText).value_or(0);
+        return DC_RESULT_OK;
+    }
+    for (std::size_t nFrom = 0; nFrom <= strText.size();)
+    {
+        const std::size_t nComma = std::min(strText.find(',', nFrom), strText.size());
+        if (++nFaultIds > MAX_FAULT_IDS)
+            return logFail(stWhere, DC_RESULT_XML_ERROR, "The table holds too many fault ids.");
+        // A piece that is no number is dropped: 0 would be an id nobody wrote.
+        if (const auto ulFaultId = readNumber(std::string_view(strText).substr(nFrom, nComma - nFrom)))
+            lstFaultId.push_back(*ulFaultId);
+        nFrom = nComma + 1;
+    }
+    return DC_RESULT_OK;
 }
 
 // The ids are separated as in the table, the device type by a colon, so that a

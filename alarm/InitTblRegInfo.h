@@ -53,6 +53,12 @@ public:
     std::uint32_t GetAlarmsAndDevType(const ElementList& lstParam, unsigned long& ulDevType,
                                       std::list<unsigned long>& lstFaultId, std::size_t nIndex);
 
+    // Reads one parameter into the device type or onto the id list, as long as no
+    // more pieces than a table may hold were counted; logs for the operation that asks.
+    static std::uint32_t readParam(const LocationInfo& stWhere, const xercesc::DOMElement& oParam,
+                                   unsigned long& ulDevType, std::list<unsigned long>& lstFaultId,
+                                   std::size_t& nFaultIds);
+
     void AddAlarmToLst(const std::list<unsigned long>& lstFaultId);
 
     // A further record of a device type extends what is registered for it.

@@ -10,12 +10,22 @@
 #include <cstdint>
 #include <string>
 
+// What kind of thing it is, for whoever tells people what to do about it.
+enum class EnReadProblem : std::int32_t
+{
+    Content,  // what the file says is wrong or cannot be used
+    Encoding, // its bytes are no characters of its encoding
+    Limit,    // it passes a limit
+    File,     // it is not there or cannot be read
+};
+
 struct StReadProblem
 {
     std::string   strFile;      // empty when what was read is no file
     std::uint32_t ulLine   = 0; // counted from 1; 0 when there is no place
     std::uint32_t ulColumn = 0; // counted from 1 in characters; 0 when only the line is known
     std::string   strText;      // what is wrong; empty: nothing is
+    EnReadProblem enKind = EnReadProblem::Content;
 
     bool isSet() const { return !strText.empty(); }
 };

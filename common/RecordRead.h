@@ -24,6 +24,16 @@ enum class EnFate
     LookupFailed,     // what stands below it could not be looked up, and was needed
 };
 
+// The end of the record made last: takes it off again unless it is kept.
+template <typename Record>
+void endRecord(const xercesc::DOMElement& oElement, std::list<Record>& lstOut, EnFate enFate)
+{
+    if (CReadObserver* pObserver = ReadObserver::get())
+        pObserver->recordEnded(oElement, &lstOut.back(), enFate);
+    if (enFate != EnFate::Kept)
+        lstOut.pop_back();
+}
+
 // Appends a fresh record and has it filled: fnFill(attributes, record) says what
 // becomes of it. One that is not kept is taken off again, also when fnFill throws.
 template <typename Record, typename Fill>
@@ -32,18 +42,20 @@ EnFate readRecord(const xercesc::DOMElement& oElement, std::list<Record>& lstOut
     static_assert(std::is_same_v<std::invoke_result_t<const Fill&, const CAttributes&, Record&>, EnFate>,
                   "whoever fills a record says what becomes of it");
     Record& stRecord = lstOut.emplace_back();
+    if (CReadObserver* pObserver = ReadObserver::get())
+        pObserver->recordBegun(oElement, &stRecord, &lstOut);
+    EnFate enFate = EnFate::LookupFailed;
     try
     {
-        const EnFate enFate = fnFill(CAttributes(oElement), stRecord);
-        if (enFate != EnFate::Kept)
-            lstOut.pop_back();
-        return enFate;
+        enFate = fnFill(CAttributes(oElement), stRecord);
     }
     catch (...)
     {
-        lstOut.pop_back();
+        endRecord(oElement, lstOut, enFate);
         throw;
     }
+    endRecord(oElement, lstOut, enFate);
+    return enFate;
 }
 
 #endif

@@ -15,6 +15,7 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLExceptMsgs.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
 #include <algorithm>
@@ -184,15 +185,20 @@ void CXmlParser::parseFile(const std::string& strPath)
         if (strProblem.empty())
             parseText(strBytes);
         else
-            m_stProblem.strText = strProblem;
+            m_stProblem = {"", 0, 0, strProblem, EnReadProblem::File};
     }
     catch (const std::bad_alloc&)
     {
         m_stProblem.strText = "out of memory";
     }
-    if (m_stProblem.isSet())
-        m_stProblem.strFile = strPath;
+    nameProblem(strPath);
     tellReadListener(m_stProblem);
+}
+
+void CXmlParser::nameProblem(const std::string& strFile)
+{
+    if (m_stProblem.isSet())
+        m_stProblem.strFile = strFile;
 }
 
 void CXmlParser::parseText(std::string_view strXml)
@@ -268,13 +274,14 @@ void CXmlParser::readDocument(std::string_view strXml, std::size_t nBytewiseFrom
 void CXmlParser::noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn)
 {
     if (!m_stProblem.isSet())
-        m_stProblem = {"", static_cast<std::uint32_t>(nLine), static_cast<std::uint32_t>(nColumn), strText};
+        m_stProblem = {"", static_cast<std::uint32_t>(nLine), static_cast<std::uint32_t>(nColumn), strText, {}};
 }
 
 void CXmlParser::refuse(const std::string& strText)
 {
     const Locator* pPlace = getScanner()->getLocator(); // gone as soon as the scanner is left
     noteProblem(strText, pPlace->getLineNumber(), pPlace->getColumnNumber());
+    m_stProblem.enKind = EnReadProblem::Limit;
     throw StRefused();
 }
 
@@ -290,6 +297,8 @@ void CXmlParser::error(unsigned int nCode, const XMLCh* pszDomain, ErrTypes enTy
     if (!m_stProblem.isSet()) // exceptions inside the parser: those of its decoders, and some more
         m_bIsBytesProblem = XMLString::equals(pszDomain, XMLUni::fgExceptDomain);
     noteProblem(toLocal(pszText), nLine, nColumn);
+    if (bIsEncoding || (m_bIsBytesProblem && nCode != XMLExcepts::Gen_UnexpectedEOF))
+        m_stProblem.enKind = EnReadProblem::Encoding;
 }
 
 void CXmlParser::resetDocument()

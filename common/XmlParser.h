@@ -30,7 +30,7 @@ using ElementList = std::vector<const xercesc::DOMElement*>;
 
 // Counts what a parser asks memory for. A base, since the parser that allocates
 // through it must die first.
-class CCountedMemory : private xercesc::MemoryManager
+class OPERATIONXML_API CCountedMemory : private xercesc::MemoryManager
 {
 protected:
     xercesc::MemoryManager* memory() { return this; }
@@ -74,9 +74,22 @@ public:
     // drops the index: whoever holds the parser as a XercesDOMParser may use it as one.
     bool hasIndex() const;
 
-private:
+protected:
     CXmlParser();
 
+    // Says in which file a problem of parseText is.
+    void nameProblem(const std::string& strFile);
+
+    // For a parser that notes more of elements and comments as they come, and then
+    // calls these.
+    void startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
+                      const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
+                      bool bIsRoot) override;
+    void endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
+                    const XMLCh* pszPrefix) override;
+    void docComment(const XMLCh* pszText) override;
+
+private:
     // Where these would go round the limits they cannot be called by mistake.
     using xercesc::XercesDOMParser::adoptDocument;
     using xercesc::XercesDOMParser::parse;
@@ -97,14 +110,8 @@ private:
     void              entityDecl(const xercesc::DTDEntityDecl& oEntity, bool bIsParameter, bool bIsIgnored) override;
     void              notationDecl(const xercesc::XMLNotationDecl& oNotation, bool bIsIgnored) override;
     void              startAttList(const xercesc::DTDElementDecl& oElement) override;
-    void              startElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
-                                   const xercesc::RefVectorOf<xercesc::XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty,
-                                   bool bIsRoot) override;
-    void              endElement(const xercesc::XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot,
-                                 const XMLCh* pszPrefix) override;
     xercesc::DOMAttr* createAttr(const XMLCh* pszName) override;
     void              docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData) override;
-    void              docComment(const XMLCh* pszText) override;
     void              docPI(const XMLCh* pszTarget, const XMLCh* pszData) override;
 
     friend class CXmlStream; // what the parser takes in goes through it

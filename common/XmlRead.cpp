@@ -36,6 +36,14 @@ bool isNestedTooDeep(const DOMElement& oElement)
     }
     return nSameName >= XmlLimits::MAX_SAME_NAME_DEPTH;
 }
+
+void tellElements(CReadObserver& oObserver, const DOMDocument& oDocument, const char16_t* pszName,
+                  const ElementList& lstElement)
+{
+    oObserver.lookup(oDocument, pszName);
+    for (const DOMElement* pElement : lstElement)
+        oObserver.elementMet(*pElement);
+}
 } // namespace
 
 const DOMDocument* documentOf(const XercesDOMParser* pDOMParser)
@@ -62,7 +70,12 @@ ElementList documentElements(const XercesDOMParser& oDOMParser, const char16_t* 
 {
     const auto* pXmlParser = dynamic_cast<const CXmlParser*>(&oDOMParser);
     if (pXmlParser != nullptr && pXmlParser->hasIndex())
-        return pXmlParser->elements(pszName);
+    {
+        const ElementList& lstElement = pXmlParser->elements(pszName);
+        if (CReadObserver* pObserver = ReadObserver::get())
+            tellElements(*pObserver, *documentOf(&oDOMParser), pszName, lstElement);
+        return lstElement;
+    }
     ElementList       lstElement;
     const DOMElement* pRoot = const_cast<XercesDOMParser&>(oDOMParser).getDocument()->getDocumentElement();
     if (XMLString::equals(pRoot->getTagName(), pszName))
@@ -110,14 +123,26 @@ std::u16string_view CAttributes::value(const char16_t* pszName) const
     return pAttr->getValue(); // entity references in it
 }
 
+void CAttributes::tell(const char16_t* pszName, EnReadAs enReadAs, std::vector<std::string_view> lstWord) const
+{
+    if (CReadObserver* pObserver = ReadObserver::get())
+        pObserver->attributeRead({m_oElement, pszName, find(pszName), enReadAs, std::move(lstWord)});
+}
+
 std::string attrText(const CAttributes& oAttributes, const char16_t* pszName)
 {
+    if (ReadObserver::get() != nullptr)
+        oAttributes.tell(pszName, EnReadAs::Text);
     const std::u16string_view strValue = oAttributes.value(pszName);
     return toLocal(strValue.data(), strValue.size());
 }
 
-std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName)
+namespace
 {
+std::uint32_t readNumber(const CAttributes& oAttributes, const char16_t* pszName, EnReadAs enReadAs)
+{
+    if (ReadObserver::get() != nullptr)
+        oAttributes.tell(pszName, enReadAs);
     const std::u16string_view strValue = oAttributes.value(pszName);
     if (strValue.empty())
         return 0;
@@ -125,10 +150,16 @@ std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName
         return static_cast<std::uint32_t>(strValue[0] - u'0');
     return toNumber(toLocal(strValue.data(), strValue.size()));
 }
+} // namespace
+
+std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName)
+{
+    return readNumber(oAttributes, pszName, EnReadAs::Number);
+}
 
 bool attrFlag(const CAttributes& oAttributes, const char16_t* pszName)
 {
-    return attrNumber(oAttributes, pszName) != 0;
+    return readNumber(oAttributes, pszName, EnReadAs::Flag) != 0;
 }
 
 bool isWord(std::u16string_view strText, std::string_view strWord)
@@ -138,6 +169,8 @@ bool isWord(std::u16string_view strText, std::string_view strWord)
 
 std::string elementText(const DOMElement& oElement)
 {
+    if (CReadObserver* pObserver = ReadObserver::get())
+        pObserver->textRead(oElement);
     std::u16string strText;
     CSubtreeWalk   oWalk(&oElement);
     while (const DOMNode* pNode = oWalk.next())
@@ -180,6 +213,8 @@ const DOMNode* CSubtreeWalk::nextBeside()
 CElements::CElements(const DOMElement* pRoot, const char16_t* pszName)
     : m_pRoot(pRoot == nullptr || isNestedTooDeep(*pRoot) ? nullptr : pRoot), m_pszName(pszName)
 {
+    if (CReadObserver* pObserver = ReadObserver::get(); pObserver != nullptr && m_pRoot != nullptr)
+        pObserver->lookup(*m_pRoot, m_pszName);
 }
 
 CElements::Iterator& CElements::Iterator::operator++()
@@ -198,6 +233,8 @@ CElements::Iterator& CElements::Iterator::operator++()
             break;
     }
     m_pCurrent = static_cast<const DOMElement*>(pNode);
+    if (CReadObserver* pObserver = ReadObserver::get(); pObserver != nullptr && m_pCurrent != nullptr)
+        pObserver->elementMet(*m_pCurrent);
     return *this;
 }
 

@@ -1,10 +1,12 @@
 // The small readers that every section parser stands on: the document of a
 // parser, elements by name, and an attribute as text, number, flag or word.
+// Exported for lint and the catalog, which are a library of their own; not installed.
 // Tag and attribute names are u"..." literals: XMLCh is char16_t, so a name costs
 // no transcoding and no start-up order.
 #ifndef OPERATIONXML_COMMON_XMLREAD_H
 #define OPERATIONXML_COMMON_XMLREAD_H
 
+#include "common/ReadObserver.h"
 #include "common/XmlParser.h"
 #include "common/XmlText.h"
 #include "platform/Export.h"
@@ -17,6 +19,8 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 // The parser's document, or null: no parser, no document, or one whose nesting
 // passes the limits (then logged). A document that was not parsed by
@@ -26,10 +30,10 @@ const xercesc::DOMDocument* documentOf(const xercesc::XercesDOMParser* pDOMParse
 
 // All elements of the parser's document with this tag name, in document order.
 // The parser has a document.
-ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const char16_t* pszName);
+OPERATIONXML_API ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const char16_t* pszName);
 
 // The attributes of one element, at hand for several readings.
-class CAttributes
+class OPERATIONXML_API CAttributes
 {
 public:
     explicit CAttributes(const xercesc::DOMElement& oElement);
@@ -38,6 +42,9 @@ public:
 
     // The value of an attribute, empty when it is missing.
     std::u16string_view value(const char16_t* pszName) const;
+
+    // Tells the observer that there is how an attribute is read.
+    void tell(const char16_t* pszName, EnReadAs enReadAs, std::vector<std::string_view> lstWord = {}) const;
 
 private:
     static constexpr std::size_t REMEMBERED = 12;
@@ -57,9 +64,9 @@ private:
 
 // One attribute of an element: as text ("" when it is missing), as a number by
 // toNumber(), as a flag (true when that number is not 0, so "true" is false).
-std::string   attrText(const CAttributes& oAttributes, const char16_t* pszName);
-std::uint32_t attrNumber(const CAttributes& oAttributes, const char16_t* pszName);
-bool          attrFlag(const CAttributes& oAttributes, const char16_t* pszName);
+OPERATIONXML_API std::string attrText(const CAttributes& oAttributes, const char16_t* pszName);
+std::uint32_t                attrNumber(const CAttributes& oAttributes, const char16_t* pszName);
+bool                         attrFlag(const CAttributes& oAttributes, const char16_t* pszName);
 
 // Whether a text is this word, exact and case-sensitive. Words are plain ASCII.
 bool isWord(std::u16string_view strText, std::string_view strWord);
@@ -70,6 +77,13 @@ template <typename Row, std::size_t nRows>
 const Row* attrRow(const CAttributes& oAttributes, const char16_t* pszName, const Row (&arRows)[nRows])
 {
     const std::u16string_view strText = oAttributes.value(pszName);
+    if (ReadObserver::get() != nullptr)
+    {
+        std::vector<std::string_view> lstWord;
+        for (const Row& stRow : arRows)
+            lstWord.push_back(stRow.strWord);
+        oAttributes.tell(pszName, EnReadAs::Word, std::move(lstWord));
+    }
     for (const Row& stRow : arRows)
     {
         if (isWord(strText, stRow.strWord))
@@ -92,7 +106,7 @@ std::string elementText(const xercesc::DOMElement& oElement);
 
 // Walks the nodes below one root in document order. Remembers the way down for
 // the usual depths: asking Xerces for a parent casts through its class hierarchy.
-class CSubtreeWalk
+class OPERATIONXML_API CSubtreeWalk
 {
 public:
     explicit CSubtreeWalk(const xercesc::DOMNode* pRoot) : m_pNode(pRoot) {} // null: nothing to walk
@@ -118,7 +132,7 @@ private:
 // is allocated. A lookup fails (isMissing) on a null element and below one that
 // stands directly inside too many of its own kind: documents of CXmlParser hold
 // no such element, but a reader may be handed an element of any document.
-class CElements
+class OPERATIONXML_API CElements
 {
 public:
     struct StEnd

@@ -3,6 +3,8 @@
 #ifndef OPERATIONXML_COMMON_XMLTEXT_H
 #define OPERATIONXML_COMMON_XMLTEXT_H
 
+#include "platform/Export.h"
+
 #include <xercesc/util/XercesDefs.hpp>
 
 #include <cstddef>
@@ -14,14 +16,14 @@ static_assert(std::is_same_v<XMLCh, char16_t>, "names are written as u\"...\" li
 
 // A text in the server's local code page; empty when that cannot express it. The
 // text ends with a null, also where its length is known.
-std::string toLocal(const XMLCh* pszText);
-std::string toLocal(const XMLCh* pszText, std::size_t nLength);
+OPERATIONXML_API std::string toLocal(const XMLCh* pszText);
+OPERATIONXML_API std::string toLocal(const XMLCh* pszText, std::size_t nLength);
 
 // A text of the local code page as the parser holds it.
 std::u16string fromLocal(const std::string& strText);
 
 // Base 10 by the C library's string-to-long rule, kept to its low 32 bits; text
 // without digits gives 0.
-std::uint32_t toNumber(const std::string& strText);
+OPERATIONXML_API std::uint32_t toNumber(const std::string& strText);
 
 #endif

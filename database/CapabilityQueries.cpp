@@ -2,6 +2,7 @@
 #include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "database/QueryGuard.h"
+#include "reader/ConfigPlan.h"
 #include "records/RecordSearch.h"
 #include "records/Vocabulary.h"
 
@@ -173,8 +174,7 @@ try
         logFail(DC_HERE, ulResult, "CDeviceAdapterInterface::getInstance()->searchDeviceType failed.");
         return false;
     }
-    return stDeviceType.nSupportUpgrade == 1 && stDeviceType.nSupportCapacity == 1 &&
-           stDeviceType.nCapacityPerVersion == 1;
+    return isCapacityType(stDeviceType);
 }
 catch (...)
 {

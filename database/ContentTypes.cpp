@@ -2,27 +2,26 @@
 // parameter of one operation.
 #include "common/Guarded.h"
 #include "common/LogLine.h"
+#include "database/ContentQuestions.h"
 #include "database/QueryGuard.h"
 #include "records/RecordSearch.h"
-#include "records/Vocabulary.h"
 
 namespace
 {
-constexpr const char* DC_SOURCE         = "CXMLConfigDatabase";
-constexpr const char* CONTENT_PARAMETER = "ContentType";
+constexpr const char* DC_SOURCE = "CXMLConfigDatabase";
 
 // Visits the parameters of an id in the operations of an id, all of them in order.
 template <typename Operation, typename Visit>
-void visitParameters(const std::list<Operation>& lstOper, std::string_view strOperId, std::string_view strParamId,
+void visitParameters(const StAsnDevTypeVerXMLInfo& stInfo, const StContentQuestion<Operation>& stQuestion,
                      Visit fnVisit)
 {
-    for (const Operation& stOper : lstOper)
+    for (const Operation& stOper : stInfo.stOperationConfig.*stQuestion.pList)
     {
-        if (stOper.strId != strOperId)
+        if (stOper.strId != stQuestion.strOperation)
             continue;
         for (const StAsnOperParamDef& stParam : stOper.lstParam)
         {
-            if (stParam.strId == strParamId)
+            if (stParam.strId == stQuestion.strParameter)
                 fnVisit(stParam.lstOption);
         }
     }
@@ -31,10 +30,10 @@ void visitParameters(const std::list<Operation>& lstOper, std::string_view strOp
 // The name of an option value: the first match in one parameter, the last
 // parameter that has one. No match leaves the name as it came.
 template <typename Operation>
-void readOptionName(const std::list<Operation>& lstOper, std::string_view strOperId, std::string_view strParamId,
-                    int nValue, std::string& strName)
+void readOptionName(const StAsnDevTypeVerXMLInfo& stInfo, const StContentQuestion<Operation>& stQuestion, int nValue,
+                    std::string& strName)
 {
-    visitParameters(lstOper, strOperId, strParamId,
+    visitParameters(stInfo, stQuestion,
                     [&](const std::list<StAsnOptionInfo>& lstOption)
                     {
                         for (const StAsnOptionInfo& stOption : lstOption)
@@ -53,8 +52,10 @@ std::uint32_t CXMLConfigDatabase::readContentName(const std::string& strDevType,
 {
     const auto* pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
     if (pInfo == nullptr)
-        return DC_RESULT_INVALID_PARA; // the fetch has logged it
-    readOptionName(pInfo->stOperationConfig.lstDevOperation, strOperId, CONTENT_PARAMETER, nValue, strName);
+        return DC_RESULT_INVALID_PARA;        // the fetch has logged it
+    auto stQuestion         = BACKUP_CONTENT; // or that of another operation
+    stQuestion.strOperation = strOperId;
+    readOptionName(*pInfo, stQuestion, nValue, strName);
     return DC_RESULT_OK;
 }
 
@@ -75,7 +76,7 @@ try
 {
     const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
-    return readDeviceContentName(DC_HERE, ulDeviceID, Vocabulary::OP_BACKUP, nContentType, strName);
+    return readDeviceContentName(DC_HERE, ulDeviceID, BACKUP_CONTENT.strOperation, nContentType, strName);
 }
 catch (...)
 {
@@ -88,7 +89,7 @@ try
 {
     const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
-    return readDeviceContentName(DC_HERE, ulDeviceID, Vocabulary::OP_LOAD_DATA, nContentType, strName);
+    return readDeviceContentName(DC_HERE, ulDeviceID, LOAD_DATA_CONTENT.strOperation, nContentType, strName);
 }
 catch (...)
 {
@@ -119,7 +120,7 @@ try
         logInfo(DC_HERE, strDevTypeName + "is telnet device.");
         strDeviceTypeVersion += Vocabulary::TELNET_SUFFIX;
     }
-    return readContentName(strDevTypeName, strDeviceTypeVersion, Vocabulary::OP_BACKUP, nContentType, strName);
+    return readContentName(strDevTypeName, strDeviceTypeVersion, BACKUP_CONTENT.strOperation, nContentType, strName);
 }
 catch (...)
 {
@@ -136,7 +137,7 @@ try
     const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
     if (pInfo == nullptr)
         return DC_RESULT_INVALID_PARA;
-    readOptionName(pInfo->stOperationConfig.lstOtherOperation, "SAM", CONTENT_PARAMETER, nContentType, strName);
+    readOptionName(*pInfo, SAM_CONTENT, nContentType, strName);
     return DC_RESULT_OK;
 }
 catch (...)
@@ -155,7 +156,7 @@ try
     const auto*          pInfo = getFirstDevTypeXMLConfig(strDevType, strDevTypeVer);
     if (pInfo == nullptr)
         return DC_RESULT_INVALID_PARA;
-    visitParameters(pInfo->stOperationConfig.lstOtherOperation, "SAM", CONTENT_PARAMETER,
+    visitParameters(*pInfo, SAM_CONTENT,
                     [&](const std::list<StAsnOptionInfo>& lstOption)
                     {
                         if (const StAsnOptionInfo* pOption = findFirst(lstOption, strName))
@@ -186,10 +187,9 @@ try
     const auto* pInfo = getFirstDevTypeXMLConfig(strDevTypeName, strDeviceTypeVersion);
     if (pInfo == nullptr)
         return DC_RESULT_INVALID_PARA;
-    const auto& lstTaskOperation = pInfo->stOperationConfig.lstTaskOperation;
-    if (lstTaskOperation.empty())
+    if (pInfo->stOperationConfig.lstTaskOperation.empty())
         return DC_RESULT_FILE_NOT_EXIST;
-    readOptionName(lstTaskOperation, Vocabulary::OP_ACTIVATE_SOFTWARE, "BoardType", nBoardType, strName);
+    readOptionName(*pInfo, BOARD_TYPE, nBoardType, strName);
     return DC_RESULT_OK;
 }
 catch (...)
@@ -209,7 +209,7 @@ try
     if (pInfo == nullptr)
         return DC_RESULT_INVALID_PARA;
     strList.clear();
-    visitParameters(pInfo->stOperationConfig.lstDevOperation, Vocabulary::OP_BACKUP, CONTENT_PARAMETER,
+    visitParameters(*pInfo, BACKUP_CONTENT,
                     [&](const std::list<StAsnOptionInfo>& lstOption)
                     {
                         for (const StAsnOptionInfo& stOption : lstOption)

@@ -3,9 +3,8 @@
 #include "common/Guarded.h"
 #include "common/LogLine.h"
 #include "database/CXMLConfigDatabase.h"
-#include "platform/Paths.h"
 #include "reader/CModuleXMLResReader.h"
-#include "reader/SectionTable.h"
+#include "reader/ModuleAppend.h"
 
 namespace
 {
@@ -17,13 +16,10 @@ try
 {
     const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
-    std::string          strModulePath = ns_kivosdk_wrap::GetEnvValue("APP_ROOT", false, true);
-    strModulePath += "etc/oss_cfg/dc/";
-    strModulePath += "ne_script/importscript";
     m_mapModulesOfType.clear();
     m_pModuleInfoMap = std::make_unique<ModuleInfoMap>(); // the map of an earlier read is freed
     CModuleXMLResReader oModuleXMLReader;
-    const std::uint32_t ulResult    = oModuleXMLReader.parseXMLOfDirs(strModulePath, *m_pModuleInfoMap);
+    const std::uint32_t ulResult    = oModuleXMLReader.parseXMLOfDirs(moduleFolder(), *m_pModuleInfoMap);
     m_stLoadReport.lstModule        = oModuleXMLReader.files();
     m_stLoadReport.lstModuleProblem = oModuleXMLReader.problems();
     // A name listed twice merges the module twice.
@@ -66,24 +62,8 @@ try
 {
     const CEntry         oEntry;
     const _TraceFunction oTrace(DC_HERE);
-    if (pInfo == nullptr)
-        return;
-    // Copied first and moved over when all is there, at the addresses of the copies.
-    StAsnModuleInfoVerXMLInfo stCopy;
-    forEachSection(
-        [&](const auto& stSection)
-        {
-            if (stSection.enModuleUse == EnModuleUse::Appends)
-                listOf(stCopy, stSection.pList) = listOf(stModule, stSection.pList);
-        });
-    // Appended without a check for equal ids: lookups take the first match, so
-    // the device type's own definition wins.
-    forEachSection(
-        [&](const auto& stSection)
-        {
-            auto& lstTo = listOf(*pInfo, stSection.pList);
-            lstTo.splice(lstTo.end(), listOf(stCopy, stSection.pList));
-        });
+    if (pInfo != nullptr)
+        appendModule(stModule, *pInfo);
 }
 catch (...)
 {

@@ -33,19 +33,6 @@ constexpr StParam PARAMS[] = {
     {u"file_suffix", &UncompressedType::strFileSuffix},
 };
 
-void addProblem(std::vector<std::string>* pLstProblem, const std::string& strProblem)
-{
-    if (pLstProblem != nullptr && !strProblem.empty())
-        pLstProblem->push_back(strProblem);
-}
-
-// A missing "value" is an empty text, as the DOM has it, and not null.
-const XMLCh* valueOf(const DOMElement& oElement)
-{
-    const std::u16string_view strValue = CAttributes(oElement).value(u"value");
-    return strValue.data() == nullptr ? u"" : strValue.data();
-}
-
 const DOMElement* firstOf(const CElements& oElements)
 {
     return oElements.isEmpty() ? nullptr : &*oElements.begin();
@@ -53,11 +40,11 @@ const DOMElement* firstOf(const CElements& oElements)
 
 // Takes one "uncompressed_type" element into the map; logs for the operation that walks them.
 std::uint32_t readUncompressedType(const LocationInfo& stWhere, const DOMElement* pElement,
-                                   ParseXMLFile::TypeMap& mapType, std::vector<std::string>* pLstProblem)
+                                   ParseXMLFile::TypeMap& mapType)
 {
     if (pElement == nullptr)
         return logFail(stWhere, DC_RESULT_XML_ERROR, "uncompressed_type is not exist in the file_check.xml ");
-    const XMLCh* pszValue = valueOf(*pElement);
+    const XMLCh* pszValue = ParseXMLFile::valueOf(*pElement);
     if (pszValue == nullptr)
         return logFail(stWhere, DC_RESULT_XML_ERROR,
                        "Attribute value of element <uncompressed_type> is invalid in the file_check.xml");
@@ -68,24 +55,19 @@ std::uint32_t readUncompressedType(const LocationInfo& stWhere, const DOMElement
     const std::uint32_t ulResult = ParseXMLFile::ReadStrParam(pElement, stType);
     if (ulResult != DC_RESULT_OK)
         return ulResult;
-    if (!mapType.try_emplace(strValue, std::move(stType)).second)
-        addProblem(pLstProblem, "uncompressed_type \"" + strValue + "\" is there already, this one is dropped");
+    mapType.try_emplace(strValue, std::move(stType)); // the first of a value stays
     return DC_RESULT_OK;
 }
 } // namespace
 
-std::uint32_t ParseXMLFile::GetXMLInfo(const std::string& strPath, TypeMap& mapType,
-                                       std::vector<std::string>* pLstProblem)
+std::uint32_t ParseXMLFile::GetXMLInfo(const std::string& strPath, TypeMap& mapType)
 try
 {
     const CEntry                      oEntry;
     const _TraceFunction              oTrace(DC_HERE);
     const std::unique_ptr<CXmlParser> pDOMParser = CXmlParser::create();
     if (pDOMParser != nullptr)
-    {
         pDOMParser->parseFile(kIVOGlobalUtils::LOCTOUTF8(strPath));
-        addProblem(pLstProblem, problemText(pDOMParser->problem()));
-    }
     const DOMElement*   pRoot    = nullptr;
     const std::uint32_t ulResult = GoNextParam(pDOMParser.get(), pRoot, u"zipcheck");
     if (ulResult != DC_RESULT_OK)
@@ -96,7 +78,7 @@ try
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, "Element <uncompressed_type> is not exist in the file_check.xml");
     for (const DOMElement& oType : oTypes)
     {
-        const std::uint32_t ulTypeResult = readUncompressedType(DC_HERE, &oType, mapType, pLstProblem);
+        const std::uint32_t ulTypeResult = readUncompressedType(DC_HERE, &oType, mapType);
         if (ulTypeResult != DC_RESULT_OK)
             return ulTypeResult;
     }
@@ -178,6 +160,23 @@ try
 catch (...)
 {
     return answerThrown(DC_HERE, DC_RESULT_XML_ERROR);
+}
+
+std::vector<const char16_t*> ParseXMLFile::paramNames()
+{
+    std::vector<const char16_t*> lstName;
+    for (const StParam& stParam : PARAMS)
+        lstName.push_back(stParam.pszName);
+    return lstName;
+}
+
+const XMLCh* ParseXMLFile::valueOf(const DOMElement& oElement)
+{
+    const CAttributes oAttributes(oElement);
+    if (ReadObserver::get() != nullptr)
+        oAttributes.tell(u"value", EnReadAs::Text);
+    const std::u16string_view strValue = oAttributes.value(u"value");
+    return strValue.data() == nullptr ? u"" : strValue.data();
 }
 
 std::string ParseXMLFile::xmlChToStr(const XMLCh* pszText)

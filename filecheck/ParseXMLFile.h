@@ -37,10 +37,8 @@ public:
     using TypeMap = std::map<std::string, UncompressedType>; // by the type's "value"
 
     // Reads the file at a path of the local code page. A type that is in the map
-    // already is dropped. pLstProblem, when given, is told what the log does not
-    // say: why a file cannot be parsed, and which types were dropped.
-    static std::uint32_t GetXMLInfo(const std::string& strPath, TypeMap& mapType,
-                                    std::vector<std::string>* pLstProblem = nullptr);
+    // already is dropped.
+    static std::uint32_t GetXMLInfo(const std::string& strPath, TypeMap& mapType);
 
     // The first element of the tag name in the parsed document; null on failure.
     static std::uint32_t GoNextParam(xercesc::XercesDOMParser* pDOMParser, const xercesc::DOMElement*& pElement,
@@ -52,6 +50,12 @@ public:
     // Reads one parameter into its field. 0 when there is none.
     static std::uint32_t GetXMLParam(const xercesc::DOMElement* pElement, const char16_t* pszName,
                                      UncompressedType& stType);
+
+    // The names of the parameters, in the order they are read.
+    static std::vector<const char16_t*> paramNames();
+
+    // The "value" of a type or parameter as the parser has it, "" when it is missing.
+    static const XMLCh* valueOf(const xercesc::DOMElement& oElement);
 
     // A parser text in the local code page; one that cannot be converted is
     // logged and gives an empty text.

@@ -93,6 +93,8 @@ std::uint32_t CCapacityXMLConfig::parseCapacityXML(const std::string& strDevSysO
         logFail(DC_HERE, DC_RESULT_XML_ERROR,
                 "No capacity entry for sysoid :" + strDevSysOid + ", DeviceType:" + pInfo->strDevType +
                     versionText(*pInfo));
+    if (CReadObserver* pObserver = ReadObserver::get())
+        pObserver->capacityRead(*pDOMParser, pEntry, lstCapacity);
     const std::uint32_t ulResult = parseCommonXML(pInfo, stRead);
     if (ulResult != DC_RESULT_OK)
         return ulResult;

@@ -1,4 +1,5 @@
 // What a capacity list takes out of a record, list by list.
+#include "common/ReadObserver.h"
 #include "reader/CCapacityXMLConfig.h"
 #include "reader/SectionTable.h"
 #include "records/Vocabulary.h"
@@ -88,7 +89,12 @@ template <typename Record, typename FindDenial>
 void removeDenied(std::list<Record>& lstRecord, FindDenial fnDenial)
 {
     for (auto itRecord = lstRecord.begin(); itRecord != lstRecord.end();)
-        itRecord = fnDenial(*itRecord) == nullptr ? std::next(itRecord) : lstRecord.erase(itRecord);
+    {
+        const auto* pDenial = fnDenial(*itRecord);
+        if (CReadObserver* pObserver = ReadObserver::get(); pObserver != nullptr && pDenial != nullptr)
+            pObserver->recordPruned(&*itRecord, pDenial);
+        itRecord = pDenial == nullptr ? std::next(itRecord) : lstRecord.erase(itRecord);
+    }
 }
 
 // A parameter that the entry does not name is kept whole; one that it names as

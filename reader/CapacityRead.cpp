@@ -3,6 +3,7 @@
 // whose capacities are asked for anew; every record has an owner at every moment.
 #include "common/Guarded.h"
 #include "common/LogLine.h"
+#include "common/ReadObserver.h"
 #include "platform/DeviceDatabase.h"
 #include "platform/Events.h"
 #include "reader/CCapacityXMLConfig.h"
@@ -213,6 +214,8 @@ catch (...)
 void CDevTypeXMLResReader::raiseCapacityMissing(const LocationInfo& stWhere, const StAsnDevVersion& stAsnDevVersion)
 {
     logInfo(stWhere, "Version has no capacity record, " + versionText(m_strDevType, stAsnDevVersion));
+    if (ReadObserver::isRecorded())
+        return;
     std::list<StDeviceInfo> lstDeviceInfo;
     const std::uint32_t     ulResult =
         CDCDeviceInfoDB::getDevInfo(m_strDevType, m_strDevTypeVer, stAsnDevVersion, lstDeviceInfo);

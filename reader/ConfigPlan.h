@@ -44,6 +44,14 @@ struct StConfigPlan
     std::vector<StVersionPlan> lstVersion;   // of a capacity type, in the platform's order
 };
 
+// Whether a registered type has a configuration for each version in service: all
+// three of its flags are 1.
+inline bool isCapacityType(const StDeviceType& stDeviceType)
+{
+    return stDeviceType.nSupportUpgrade == 1 && stDeviceType.nSupportCapacity == 1 &&
+           stDeviceType.nCapacityPerVersion == 1;
+}
+
 // The plan of a type, asked for by its storage key, as the start-up load would read
 // it now. Asks the platform what the read would ask, raises no event, writes no log.
 OPERATIONXML_API StConfigPlan makeConfigPlan(const std::string& strDevType, const std::string& strDevTypeVer,

@@ -2,6 +2,7 @@
 // for the readers of device types and of modules, on their thread.
 #include "reader/SectionChain.h"
 
+#include "common/ReadObserver.h"
 #include "reader/SectionTable.h"
 #include "records/ResultCodes.h"
 
@@ -26,13 +27,18 @@ template <typename Root>
 std::uint32_t readSections(xercesc::XercesDOMParser* pDOMParser, Root& stRoot, const CheckSectionReader& fnReadChecks)
 {
     std::uint32_t ulResult = DC_RESULT_OK;
+    std::size_t   nRow     = 0;
     forEachSection(
         [&](const auto& stSection)
         {
+            auto&      lstRecord = listOf(stRoot, stSection.pList);
             const bool bIsRead =
                 std::is_same_v<Root, StAsnDevTypeVerXMLInfo> || stSection.enModuleUse != EnModuleUse::None;
+            if (CReadObserver* pObserver = ReadObserver::get())
+                pObserver->sectionRead(nRow, &lstRecord);
             if (ulResult == DC_RESULT_OK && bIsRead)
-                ulResult = readSection(stSection, pDOMParser, listOf(stRoot, stSection.pList), fnReadChecks);
+                ulResult = readSection(stSection, pDOMParser, lstRecord, fnReadChecks);
+            ++nRow;
         });
     return ulResult;
 }

@@ -59,7 +59,8 @@ struct StTaskSteps // the steps go by their last entry
 template <typename Record, typename Owner, typename Parser, typename Pruned, typename Identity>
 struct StSectionRow
 {
-    using OwnerOfList = Owner;
+    using OwnerOfList  = Owner;
+    using RecordOfList = Record;
 
     const char16_t*   pszElement;
     std::list<Record> Owner::*pList; // of a device type; a module's list has the same name

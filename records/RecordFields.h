@@ -78,12 +78,16 @@ struct StField
     Kind           stKind;
 };
 
-// The fields of a record: fieldsOf(static_cast<StAsnOperation*>(nullptr)).
+// The fields of a record, and its name: fieldsOf(static_cast<StAsnOperation*>(nullptr)).
 #define OPERATIONXML_RECORD(Record, ...)                                                                               \
     constexpr auto fieldsOf(const Record* /*pRecord*/)                                                                 \
     {                                                                                                                  \
         using Fields = Record;                                                                                         \
         return std::tuple{__VA_ARGS__};                                                                                \
+    }                                                                                                                  \
+    constexpr const char* nameOf(const Record* /*pRecord*/)                                                            \
+    {                                                                                                                  \
+        return #Record;                                                                                                \
     }
 #define OPERATIONXML_FIELD(Name, Kind)                                                                                 \
     StField<Fields, decltype(Fields::Name), Kind>                                                                      \

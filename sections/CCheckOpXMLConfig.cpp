@@ -19,8 +19,7 @@ constexpr StSection CHECK_SECTION = {
     "XercesDOMParser::getDocument failed.",
 };
 
-// Both check files begin with the device type, which is not compared with anything:
-// the caller has chosen the file by it.
+// Both check files begin with the device type.
 constexpr StSection TELNET_FILE = {
     {DC_SOURCE, "setCheckOpConfigurationTelnet", __LINE__},
     u"DeviceType",
@@ -64,7 +63,7 @@ constexpr StRecordReader<StAsnCheckType> FIXED_ITEMS = {
 };
 
 // An item that says nothing about it is integrated. The spelling is the attribute's.
-constexpr StWord<bool> INTEGRATED_WORDS[] = {{"", true}, {"1", true}};
+constexpr StWord<bool> INTEGRATED_WORDS[] = {{"", true}, {"1", true}, {"0", false}}; // any other word is no, too
 constexpr StWord<bool> FLAG_WORDS[]       = {{Vocabulary::TRUE_LOWER, true}, {Vocabulary::FALSE_LOWER, false}};
 
 // The check types of a telnet check file, in the order in which they run.
@@ -164,6 +163,13 @@ constexpr StReader FIXED_OPERATIONS = {
     "pParaLst is null.",
 };
 
+// The device type that both files name is for whoever reads them: it is read and
+// compared with nothing, since the caller has chosen the file by it.
+void passOverName(const DOMElement& oDeviceType)
+{
+    attrText(CAttributes(oDeviceType), u"name");
+}
+
 // The number of a task type of a check file. An unknown id gives -1 and keeps its
 // checks, as an operation of a server configuration file has them.
 std::int32_t readTaskType(const DOMElement& oTaskType)
@@ -218,6 +224,7 @@ std::uint32_t CCheckOpXMLConfig::setCheckOpConfigurationTelnet(XercesDOMParser* 
     return readSections(TELNET_FILE, pDOMParser, pLstOut,
                         [pLstOut](const DOMElement& oDeviceType)
                         {
+                            passOverName(oDeviceType);
                             for (const DOMElement& oTaskType : CElements(&oDeviceType, u"TaskType"))
                                 readTelnetTaskType(oTaskType, *pLstOut);
                         });
@@ -229,6 +236,7 @@ std::uint32_t CCheckOpXMLConfig::setFixedCheckOpConfiguration(XercesDOMParser*  
     return readSections(FIXED_FILE, pDOMParser, pLstOut,
                         [pLstOut](const DOMElement& oDeviceType)
                         {
+                            passOverName(oDeviceType);
                             for (const DOMElement& oTaskType : CElements(&oDeviceType, u"TaskType"))
                                 readFixedOperations(&oTaskType, readTaskType(oTaskType), pLstOut);
                         });

@@ -2,6 +2,7 @@
 #include "sections/CDevOpXMLConfig.h"
 
 #include "platform/Settings.h"
+#include "records/ServerNames.h"
 #include "sections/ItemRead.h"
 #include "sections/TaskRead.h"
 
@@ -16,7 +17,7 @@ constexpr LocationInfo PROGRAM_FILE = {DC_SOURCE, "isBackupProgramEnable", __LIN
 bool isProgramFileBackedUp()
 {
     std::string         strValue;
-    const std::uint32_t ulResult = CSysCommonFunc::readResourceFile("BACKUP_PROGRAM_SUPPORT", strValue);
+    const std::uint32_t ulResult = CSysCommonFunc::readResourceFile(ServerNames::BACKUP_PROGRAM_SUPPORT, strValue);
     if (ulResult != DC_RESULT_OK)
     {
         logFail(PROGRAM_FILE, ulResult, "CSysCommonFunc::readResourceFile failed for BACKUP_PROGRAM_SUPPORT.");

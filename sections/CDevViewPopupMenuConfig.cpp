@@ -3,6 +3,7 @@
 #include "sections/CDevViewPopupMenuConfig.h"
 
 #include "platform/Settings.h"
+#include "records/ServerNames.h"
 #include "sections/ItemRead.h"
 
 using namespace xercesc;
@@ -30,7 +31,7 @@ bool isLeftOut(const StAsnMenuOpDef& stEntry)
     if (stEntry.strId != "GetWeakBd")
         return false;
     std::string strMode = "0"; // what an absent setting leaves
-    CDCSettingInfoTab::Instance()->getValueByParam("WDM_SUPPORT_ISSU_UPGRADE", strMode);
+    CDCSettingInfoTab::Instance()->getValueByParam(ServerNames::ISSU_MODE, strMode);
     const bool bOffered = strMode == "1" || strMode == "2";
     if (strMode == "0")
         logInfo(FILTER, "User does not care ISSU mode."); // not the text of the other operations' filter

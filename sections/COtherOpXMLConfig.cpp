@@ -2,6 +2,7 @@
 #include "sections/COtherOpXMLConfig.h"
 
 #include "platform/Settings.h"
+#include "records/ServerNames.h"
 #include "sections/ItemRead.h"
 
 using namespace xercesc;
@@ -38,7 +39,7 @@ bool isFilteredOut(const std::string& strId)
         return false;
     logInfo(FILTER, "ISSU item is configed.");
     std::string strMode = "0";
-    CDCSettingInfoTab::Instance()->getValueByParam("WDM_SUPPORT_ISSU_UPGRADE", strMode);
+    CDCSettingInfoTab::Instance()->getValueByParam(ServerNames::ISSU_MODE, strMode);
     if (strMode == "1" || strMode == "2")
         return false;
     if (strMode == "0")

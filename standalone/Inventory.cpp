@@ -1,9 +1,12 @@
 // See Inventory.h.
 #include "standalone/Inventory.h"
 
+#include "records/ServerNames.h"
+#include "standalone/InventoryRows.h"
 #include "standalone/ServerRoot.h"
 
 #include <atomic>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -14,15 +17,10 @@ namespace
 constexpr std::string_view TELNET_SUFFIX = "_telnet";
 constexpr std::string_view ROOT_MARK     = "${ROOT}";
 
-struct StDefault
-{
-    std::string_view strName;
-    const char*      pszValue;
-};
-constexpr StDefault ENVIRONMENT_DEFAULTS[] = {
-    {"APP_ROOT", "${ROOT}/"},
-    {"ENV_ROOT", "${ROOT}/"},
-    {"OSS_LANG", "en_US/"},
+constexpr StEnvironmentDefault ENVIRONMENT_DEFAULTS[] = {
+    {ServerNames::APP_ROOT, "${ROOT}/"},
+    {ServerNames::ENV_ROOT, "${ROOT}/"},
+    {ServerNames::LANGUAGE, "en_US/"},
     {"XML_PATH", "${ROOT}/xml"},
 };
 
@@ -118,7 +116,7 @@ std::string StInventory::environment(const std::string& strName, bool bExpand) c
     if (const std::string* pValue = findValue(mapEnvironment, strName))
         strValue = *pValue;
     else
-        for (const StDefault& stDefault : ENVIRONMENT_DEFAULTS)
+        for (const StEnvironmentDefault& stDefault : ENVIRONMENT_DEFAULTS)
             if (stDefault.strName == strName)
                 strValue = stDefault.pszValue;
     if (!bExpand)
@@ -126,6 +124,11 @@ std::string StInventory::environment(const std::string& strName, bool bExpand) c
     for (std::size_t nAt = 0; (nAt = strValue.find(ROOT_MARK, nAt)) != std::string::npos; nAt += strRoot.size())
         strValue.replace(nAt, ROOT_MARK.size(), strRoot);
     return strValue;
+}
+
+std::vector<StEnvironmentDefault> environmentDefaults()
+{
+    return {std::begin(ENVIRONMENT_DEFAULTS), std::end(ENVIRONMENT_DEFAULTS)};
 }
 
 std::shared_ptr<const StInventory> currentInventory()

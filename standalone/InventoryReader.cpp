@@ -90,7 +90,7 @@ std::string selectOf(const StInventoryTable& stTable)
     return strSql.append(" FROM main.").append(stTable.pszName).append(" ORDER BY ").append(stTable.pszOrder);
 }
 
-void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
+void readTables(CSqlite& oDb, std::size_t nSize, const TableReader& fnTable)
 {
     StRowBudget stBudget{BASE_ROWS + nSize / BYTES_PER_ROW, BASE_TEXT + TEXT_PER_BYTE * nSize};
     oDb.startClock(nSize);
@@ -98,13 +98,11 @@ void readTables(CSqlite& oDb, std::size_t nSize, StInventory& stInventory)
     {
         const StatementPtr oRows = oDb.prepare(selectOf(stTable).c_str());
         CInventoryRow      oRow(oDb, oRows.get(), stTable.pszName, stBudget);
-        while (oRow.next())
-            stTable.pfnAdd(oRow, stInventory);
+        fnTable(oRow, stTable);
     }
-    stInventory.buildIndexes();
 }
 
-void readDatabase(const std::string& strPath, StInventory& stInventory)
+void readDatabase(const std::string& strPath, const TableReader& fnTable)
 {
     const std::size_t nSize = fileSize(strPath, DATABASE_MEGABYTES);
     const CHeapLimit  oLimit(nSize);
@@ -113,7 +111,7 @@ void readDatabase(const std::string& strPath, StInventory& stInventory)
     oDb.execute("BEGIN"); // one state of the file for all tables
     for (const StInventoryTable& stTable : inventoryTables())
         checkTable(oDb, stTable);
-    readTables(oDb, nSize, stInventory);
+    readTables(oDb, nSize, fnTable);
 }
 
 // The messages of what is below name no file.
@@ -129,21 +127,37 @@ void namingFile(const std::string& strPath, Read fnRead)
         throw CInventoryError(strPath + ": " + oProblem.what());
     }
 }
+
+std::string rootOf(std::string strFolder)
+{
+    while (!strFolder.empty() && strFolder.back() == '/')
+        strFolder.pop_back();
+    return strFolder;
+}
 } // namespace
 
 StInventory readInventory(const std::string& strFolder)
 {
     StInventory stInventory;
-    stInventory.strRoot = strFolder;
-    while (!stInventory.strRoot.empty() && stInventory.strRoot.back() == '/')
-        stInventory.strRoot.pop_back();
+    stInventory.strRoot = rootOf(strFolder);
+    readInventoryTables(strFolder,
+                        [&stInventory](CInventoryRow& oRow, const StInventoryTable& stTable)
+                        {
+                            while (oRow.next())
+                                stTable.pfnAdd(oRow, stInventory);
+                        });
+    stInventory.buildIndexes();
+    return stInventory;
+}
 
-    const std::string strDatabase = stInventory.strRoot + "/server.db";
-    const std::string strScript   = stInventory.strRoot + "/server.sql";
+std::string readInventoryTables(const std::string& strFolder, const TableReader& fnTable)
+{
+    std::string strDatabase = rootOf(strFolder) + "/server.db";
+    std::string strScript   = rootOf(strFolder) + "/server.sql";
     if (standsThere(strDatabase))
     {
-        namingFile(strDatabase, [&] { readDatabase(strDatabase, stInventory); });
-        return stInventory;
+        namingFile(strDatabase, [&] { readDatabase(strDatabase, fnTable); });
+        return strDatabase;
     }
     if (!standsThere(strScript))
         throw CInventoryError(strFolder + ": no inventory: neither server.db nor server.sql is there");
@@ -151,7 +165,7 @@ StInventory readInventory(const std::string& strFolder)
     namingFile(strScript, [&] { strText = readScript(strScript); });
     const CHeapLimit oLimit(strText.size());
     CSqlite          oDb = runInventoryScript(strScript, strText);
-    namingFile(strScript, [&] { readTables(oDb, strText.size(), stInventory); });
-    return stInventory;
+    namingFile(strScript, [&] { readTables(oDb, strText.size(), fnTable); });
+    return strScript;
 }
 } // namespace standalone

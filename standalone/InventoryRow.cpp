@@ -82,6 +82,13 @@ bool CInventoryRow::isNull()
     return bIsNull;
 }
 
+std::string CInventoryRow::anyText()
+{
+    if (sqlite3_column_type(m_pStatement, m_nColumn) != SQLITE_INTEGER)
+        return text();
+    return std::to_string(number<std::int64_t>());
+}
+
 void CInventoryRow::requireNew(bool bInserted, int nKeyColumn) const
 {
     if (!bInserted)

@@ -32,7 +32,8 @@ public:
     // Each takes the next column.
     std::string  text();
     std::int64_t number(std::int64_t nLeast, std::int64_t nMost);
-    bool         isNull(); // takes it only when it is NULL
+    bool         isNull();  // takes it only when it is NULL
+    std::string  anyText(); // of a number its digits
 
     bool flag() { return number(0, 1) != 0; }
 

@@ -11,16 +11,6 @@
 constexpr const char* ALARM_FILE    = "kivo/fm/dc_tbl_alm_exp_info.xml";
 constexpr const char* TRANSFER_FILE = "kivo/fm/dc_tbl_RegInfo.xml";
 
-// The mistakes found in a file, each with ";" behind it.
-template <typename Problems>
-std::string joined(const Problems& lstProblem)
-{
-    std::string strAll;
-    for (const std::string& strProblem : lstProblem)
-        strAll += strProblem + ";";
-    return strAll;
-}
-
 class CAlarmRoot : public CTempServerRoot
 {
 public:
