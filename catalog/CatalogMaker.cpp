@@ -1,0 +1,207 @@
+// See CatalogMaker.h.
+#include "catalog/CatalogMaker.h"
+
+#include "catalog/EntryMaker.h"
+#include "catalog/PlacedSource.h"
+#include "catalog/Shadowing.h"
+#include "database/CXMLConfigDatabase.h"
+#include "platform/DeviceAdapter.h"
+#include "reader/CDevTypeXMLResReader.h"
+#include "reader/CModuleXMLResReader.h"
+#include "reader/ModuleAppend.h"
+#include "reader/SectionTable.h"
+#include "records/ResultCodes.h"
+
+#include <list>
+#include <utility>
+
+namespace catalog
+{
+namespace
+{
+// Roots that nobody else owns.
+struct StOwnedRoots
+{
+    StOwnedRoots() = default;
+    ~StOwnedRoots()
+    {
+        for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+            delete pInfo;
+    }
+    StOwnedRoots(const StOwnedRoots&)            = delete;
+    StOwnedRoots& operator=(const StOwnedRoots&) = delete;
+
+    std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
+};
+
+// The sections of a type or module. Lost entries of a module are not known by its
+// lists any more.
+template <typename Root>
+std::vector<StSection> makeSections(const CReadRecorder& oRecorder, const Root& stRoot,
+                                    const std::vector<StLost>& lstModuleLost)
+{
+    std::vector<StSection> lstSection;
+    forEachSection(
+        [&](const auto& stRow)
+        {
+            StSection& stSection          = lstSection.emplace_back();
+            stSection.nRow                = lstSection.size() - 1;
+            const auto&         lstRecord = listOf(stRoot, stRow.pList);
+            std::vector<StLost> lstLost   = oRecorder.lost(&lstRecord);
+            for (const StLost& stLost : lstModuleLost)
+            {
+                if (stLost.nRow == stSection.nRow)
+                    lstLost.push_back(stLost);
+            }
+            addEntries(oRecorder, lstRecord, lstLost, StLost::IN_SECTION, stSection.lstEntry);
+            markShadowed(stSection);
+        });
+    return lstSection;
+}
+} // namespace
+
+class CCatalogMaker::CImpl
+{
+public:
+    void readModules()
+    {
+        m_oModuleSource.begin({}, {}, "");
+        CModuleXMLResReader oReader;
+        {
+            const ReadObserver::CScope oScope(m_oModuleRecorder);
+            oReader.readFrom(m_oModuleSource);
+            oReader.parseXMLOfDirs(moduleFolder(), m_mapModule); // what failed stands with the files
+        }
+        m_oModuleRecorder.endModules();
+        m_lstModuleProblem = oReader.problems();
+        for (const StModuleLoad& stLoad : oReader.files())
+            m_lstModule.push_back(moduleCatalog(stLoad));
+        m_lstModuleFile = m_oModuleSource.files();
+    }
+
+    StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer)
+    {
+        StTypeCatalog stType;
+        stType.strDevType    = strDevType;
+        stType.strDevTypeVer = strDevTypeVer;
+        stType.strKey        = CXMLConfigDatabase::trans2TelnetDevType(strDevType, strDevTypeVer);
+        StDeviceType stDeviceType;
+        const bool   bKnown    = CDeviceAdapterInterface::getInstance()->searchDeviceType(strDevType, strDevTypeVer,
+                                                                                          stDeviceType) == DC_RESULT_OK;
+        const bool   bCapacity = bKnown && isCapacityType(stDeviceType);
+        stType.strDevSysOid    = stDeviceType.strDevSysOid;
+        stType.stPlan          = makeConfigPlan(stType.strKey, strDevTypeVer, bCapacity);
+        m_oRecorder.clear();
+        m_oSource.begin(stType.stPlan, m_lstModuleFile, CXMLConfigDatabase::getCommonDevTypeXMLFileName(true));
+        StOwnedRoots oRoots;
+        {
+            const ReadObserver::CScope oScope(m_oRecorder);
+            read(stType, bCapacity, oRoots.lstInfo);
+        }
+        for (const StAsnDevTypeVerXMLInfo* pInfo : oRoots.lstInfo)
+            stType.lstConfiguration.push_back(configuration(*pInfo));
+        stType.lstFile             = m_oSource.files();
+        stType.lstCapacityDocument = m_oRecorder.takeCapacity();
+        m_oRecorder.clear(); // the addresses die with the records
+        return stType;
+    }
+
+    std::vector<StModuleCatalog> m_lstModule;
+    std::vector<StReadProblem>   m_lstModuleProblem;
+    CReadRecorder                m_oModuleRecorder;
+    CReadRecorder                m_oRecorder{&m_oModuleRecorder};
+    CPlacedSource                m_oModuleSource{m_oModuleRecorder, EnOrigin::Module};
+    CPlacedSource                m_oSource{m_oRecorder, EnOrigin::OwnFile};
+
+private:
+    void read(StTypeCatalog& stType, bool bCapacity, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+    {
+        CDevTypeXMLResReader oReader(stType.strKey, stType.strDevTypeVer, bCapacity);
+        oReader.readFrom(m_oSource);
+        oReader.initializeCheck();
+        stType.ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
+        stType.stOrigin = oReader.origin();
+        if (stType.ulResult != DC_RESULT_OK || lstInfo.empty())
+            return;
+        // Modules name the type, never its telnet key, and the first record gets them.
+        for (const auto& [strName, stModule] : m_mapModule)
+        {
+            for (const std::string& strSupported : stModule.lstSupportDevType)
+            {
+                if (strSupported == stType.strDevType)
+                    appendModule(stModule, *lstInfo.front());
+            }
+        }
+    }
+
+    StConfiguration configuration(const StAsnDevTypeVerXMLInfo& stInfo) const
+    {
+        StConfiguration stConfiguration;
+        for (const StAsnDevVersion& stVersion : stInfo.lstDevVersion)
+            stConfiguration.lstVersion.push_back({stVersion.strSoftVersion, stVersion.strPatchVersion});
+        stConfiguration.lstSection = makeSections(m_oRecorder, stInfo, {});
+        return stConfiguration;
+    }
+
+    StModuleCatalog moduleCatalog(const StModuleLoad& stLoad)
+    {
+        StModuleCatalog stCatalog;
+        stCatalog.strFile          = stLoad.strFile;
+        stCatalog.ulFile           = m_oModuleSource.numberOf(stLoad.strFile);
+        const StModuleHead& stHead = m_oModuleRecorder.module(stCatalog.ulFile);
+        stCatalog.strName          = stHead.strName;
+        stCatalog.stName           = stHead.stName;
+        stCatalog.lstSupported     = stHead.lstSupported;
+        stCatalog.ulResult         = stLoad.ulResult;
+        stCatalog.stProblem        = stLoad.stProblem;
+        const auto itModule        = m_mapModule.find(stLoad.strName);
+        if (stLoad.ulResult == DC_RESULT_OK && itModule != m_mapModule.end())
+            stCatalog.lstSection = makeSections(m_oModuleRecorder, itModule->second, stHead.lstLost);
+        return stCatalog;
+    }
+
+    ModuleInfoMap            m_mapModule;
+    std::vector<std::string> m_lstModuleFile;
+};
+
+CCatalogMaker::CCatalogMaker() : m_pImpl(std::make_unique<CImpl>())
+{
+    try
+    {
+        m_pImpl->readModules();
+    }
+    catch (...) // half the modules would be a wrong answer
+    {
+        m_pImpl = std::make_unique<CImpl>();
+    }
+}
+
+CCatalogMaker::~CCatalogMaker() = default;
+
+StTypeCatalog CCatalogMaker::make(const std::string& strDevType, const std::string& strDevTypeVer)
+try
+{
+    return m_pImpl->make(strDevType, strDevTypeVer);
+}
+catch (...)
+{
+    StTypeCatalog stFailed;
+    stFailed.ulResult = DC_RESULT_XML_ERROR;
+    return stFailed;
+}
+
+const std::vector<StModuleCatalog>& CCatalogMaker::modules() const
+{
+    return m_pImpl->m_lstModule;
+}
+
+const std::vector<StReadProblem>& CCatalogMaker::moduleProblems() const
+{
+    return m_pImpl->m_lstModuleProblem;
+}
+
+CPlacedParser* CCatalogMaker::document(const std::string& strFile) const
+{
+    return m_pImpl->m_oSource.find(strFile);
+}
+} // namespace catalog

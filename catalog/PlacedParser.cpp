@@ -1,0 +1,248 @@
+// See PlacedParser.h. The scanner knows the byte at which a start tag has ended; the
+// tag begins at the last "<" before it, which no attribute value can hold. Elements
+// are numbered as they open, and the finished document is walked in the same order.
+#include "catalog/PlacedParser.h"
+
+#include "common/FileBytes.h"
+#include "common/XmlRead.h"
+
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/TransService.hpp>
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+using namespace xercesc;
+
+namespace catalog
+{
+namespace
+{
+constexpr std::string_view BLANKS = " \t\r\n";
+
+// Where the name of the encoding stands in the declaration of a text.
+StRange declaredEncoding(std::string_view strText)
+{
+    if (strText.substr(0, 5) != "<?xml")
+        return {};
+    const std::size_t nEnd  = strText.find("?>");
+    const std::size_t nName = strText.substr(0, nEnd).find("encoding");
+    const std::size_t nOpen = nName == std::string_view::npos ? nName : strText.find_first_of("\"'", nName);
+    if (nOpen == std::string_view::npos || nEnd == std::string_view::npos || nOpen > nEnd)
+        return {};
+    return {nOpen + 1, strText.find(strText[nOpen], nOpen + 1)};
+}
+
+std::string lowerCase(std::string_view strText)
+{
+    std::string strLower(strText);
+    std::transform(strLower.begin(), strLower.end(), strLower.begin(),
+                   [](unsigned char cChar) { return static_cast<char>(std::tolower(cChar)); });
+    return strLower;
+}
+
+// The bytes of a text as UTF-8, or nothing when they do not fit the encoding.
+std::string decoded(const std::string& strBytes, const char* pszEncoding)
+{
+    try
+    {
+        const TranscodeFromStr oWide(reinterpret_cast<const XMLByte*>(strBytes.data()), strBytes.size(), pszEncoding);
+        const TranscodeToStr   oUtf8(oWide.str(), oWide.length(), "UTF-8");
+        const std::string      strUtf8(reinterpret_cast<const char*>(oUtf8.str()), oUtf8.length());
+        return strUtf8.compare(0, 3, "\xEF\xBB\xBF") == 0 ? strUtf8.substr(3) : strUtf8;
+    }
+    catch (const XMLException&)
+    {
+        return {};
+    }
+}
+} // namespace
+
+const StElementPlace& CDocumentPlaces::element(const DOMElement& oElement) const
+{
+    static const StElementPlace s_stUnknown = {{}, {}, false};
+    const auto                  itElement   = m_mapElement.find(&oElement);
+    return itElement == m_mapElement.end() ? s_stUnknown : m_lstElement[itElement->second];
+}
+
+StSpot CDocumentPlaces::nameSpot(const DOMElement& oElement) const
+{
+    const StElementPlace& stPlace = element(oElement);
+    if (stPlace.stTag.nEnd == 0)
+        return {};
+    const std::size_t nBegin = stPlace.stTag.nBegin + 1;
+    const std::size_t nEnd   = m_pText->bytes().find_first_of(" \t\r\n/>", nBegin);
+    return m_pText->spot(nBegin, std::min(nEnd, stPlace.stTag.nEnd) - nBegin);
+}
+
+std::vector<StAttributePlace> CDocumentPlaces::attributes(const StElementPlace& stElement) const
+{
+    std::vector<StAttributePlace> lstAttribute;
+    const std::string_view        strText = m_pText->bytes();
+    std::size_t nAt = std::min(strText.find_first_of(" \t\r\n/>", stElement.stTag.nBegin), stElement.stTag.nEnd);
+    while (stElement.bWritten)
+    {
+        nAt                      = strText.find_first_not_of(BLANKS, nAt);
+        const std::size_t nEqual = strText.find('=', nAt);
+        if (nEqual == std::string_view::npos || nEqual >= stElement.stTag.nEnd)
+            break;
+        const std::size_t nOpen  = strText.find_first_of("\"'", nEqual);
+        const std::size_t nClose = nOpen == std::string_view::npos ? nOpen : strText.find(strText[nOpen], nOpen + 1);
+        if (nClose == std::string_view::npos)
+            break;
+        const std::size_t nNameEnd = strText.find_last_not_of(BLANKS, nEqual - 1) + 1;
+        lstAttribute.push_back({strText.substr(nAt, nNameEnd - nAt), {nAt, nNameEnd}, {nOpen + 1, nClose}});
+        nAt = nClose + 1;
+    }
+    return lstAttribute;
+}
+
+StSpot CDocumentPlaces::valueSpot(const DOMElement& oElement, const char16_t* pszName) const
+{
+    const std::string strName = toLocal(pszName);
+    for (const StAttributePlace& stAttribute : attributes(element(oElement)))
+    {
+        if (stAttribute.strName == strName)
+            return spot(stAttribute.stValue);
+    }
+    return nameSpot(oElement);
+}
+
+StSpot CDocumentPlaces::attributeSpot(const DOMElement& oElement, const char16_t* pszName) const
+{
+    const std::string strName = toLocal(pszName);
+    for (const StAttributePlace& stAttribute : attributes(element(oElement)))
+    {
+        if (stAttribute.strName == strName)
+            return spot(stAttribute.stName);
+    }
+    return nameSpot(oElement);
+}
+
+std::unique_ptr<CPlacedParser> CPlacedParser::create()
+{
+    if (CXmlParser::create() == nullptr) // also starts Xerces
+        return nullptr;
+    return std::unique_ptr<CPlacedParser>(new CPlacedParser());
+}
+
+CPlacedParser::CPlacedParser()
+{
+    setCalculateSrcOfs(true);
+}
+
+void CPlacedParser::parsePlaced(const std::string& strPath)
+{
+    m_lstOpen.clear();
+    m_lstPending.clear();
+    m_pPlaces.reset(); // nothing is noted before the text is known
+    std::string strBytes;
+    if (!readFileBytes(strPath, strBytes).empty())
+    {
+        parseFile(strPath); // says why
+        m_pPlaces = std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(""));
+        return;
+    }
+    if (strBytes.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        strBytes.erase(0, 3);
+    const StRange     stEncoding = declaredEncoding(strBytes);
+    const std::string strEncoding =
+        lowerCase(std::string_view(strBytes).substr(stEncoding.nBegin, stEncoding.nEnd - stEncoding.nBegin));
+    const bool bWide = strBytes.size() > 1 &&
+                       (strBytes[0] == '\0' || strBytes[1] == '\0' || strBytes[0] == '\xFE' || strBytes[0] == '\xFF');
+    if (!bWide && (strEncoding.empty() || strEncoding == "utf-8" || strEncoding == "us-ascii"))
+    {
+        m_pPlaces = std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(std::move(strBytes)));
+        parseText(m_pPlaces->text()->bytes());
+        return indexElements();
+    }
+    // Whether the file can be read is decided as the server does; then it is read
+    // once more as UTF-8, so that places count characters.
+    parseFile(strPath);
+    const std::string strUtf8 = problem().isSet() ? "" : decoded(strBytes, bWide ? "UTF-16" : strEncoding.c_str());
+    m_pPlaces =
+        std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(strUtf8.empty() ? strBytes : strUtf8));
+    if (strUtf8.empty())
+        return;
+    std::string   strRenamed = strUtf8;
+    const StRange stName     = declaredEncoding(strUtf8);
+    if (stName.nEnd > stName.nBegin) // blanks keep every place where it is
+        strRenamed.replace(stName.nBegin, stName.nEnd - stName.nBegin + 1,
+                           std::string("UTF-8") + strUtf8[stName.nEnd] +
+                               std::string(stName.nEnd - stName.nBegin - 5, ' '));
+    parseText(strRenamed);
+    indexElements();
+}
+
+bool CPlacedParser::isInEntity() const
+{
+    return const_cast<CPlacedParser*>(this)->getScanner()->getReaderMgr()->getReaderDepth() > 1;
+}
+
+StRange CPlacedParser::tagBefore(std::size_t nEnd) const
+{
+    const std::size_t nBegin = m_pPlaces->text()->bytes().rfind('<', nEnd - 1);
+    return {nBegin == std::string::npos ? 0 : nBegin, nEnd};
+}
+
+void CPlacedParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
+                                 const RefVectorOf<XMLAttr>& lstAttr, XMLSize_t nAttrs, bool bIsEmpty, bool bIsRoot)
+{
+    if (m_pPlaces == nullptr)
+        return CXmlParser::startElement(oDecl, nUri, pszPrefix, lstAttr, nAttrs, bIsEmpty, bIsRoot);
+    StElementPlace stPlace = {{}, {}, !isInEntity()};
+    if (stPlace.bWritten)
+        stPlace.stTag = tagBefore(static_cast<std::size_t>(getScanner()->getSrcOffset()));
+    else if (!m_lstOpen.empty())
+        stPlace.stTag = m_pPlaces->m_lstElement[m_lstOpen.back()].stTag;
+    stPlace.stWhole = stPlace.stTag;
+    for (const std::size_t nComment : m_lstPending)
+        m_pPlaces->m_lstComment[nComment].nElement = m_pPlaces->m_lstElement.size();
+    m_lstPending.clear();
+    m_lstOpen.push_back(m_pPlaces->m_lstElement.size());
+    m_pPlaces->m_lstElement.push_back(stPlace);
+    CXmlParser::startElement(oDecl, nUri, pszPrefix, lstAttr, nAttrs, bIsEmpty, bIsRoot);
+}
+
+void CPlacedParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, bool bIsRoot, const XMLCh* pszPrefix)
+{
+    if (m_pPlaces == nullptr)
+        return CXmlParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
+    StElementPlace& stPlace = m_pPlaces->m_lstElement[m_lstOpen.back()];
+    if (stPlace.bWritten)
+        stPlace.stWhole.nEnd = static_cast<std::size_t>(getScanner()->getSrcOffset());
+    m_lstOpen.pop_back();
+    m_lstPending.clear(); // a comment at the end of an element stands before none
+    CXmlParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
+}
+
+void CPlacedParser::docComment(const XMLCh* pszText)
+{
+    if (m_pPlaces != nullptr && !isInEntity())
+    {
+        m_lstPending.push_back(m_pPlaces->m_lstComment.size());
+        m_pPlaces->m_lstComment.push_back(
+            {toLocal(pszText), tagBefore(static_cast<std::size_t>(getScanner()->getSrcOffset())), NO_ELEMENT});
+    }
+    CXmlParser::docComment(pszText);
+}
+
+void CPlacedParser::indexElements()
+{
+    nameProblem(m_pPlaces->file());
+    if (problem().isSet())
+        return;
+    const DOMElement* pRoot    = getDocument()->getDocumentElement();
+    std::size_t       nElement = 0;
+    m_pPlaces->m_mapElement.reserve(m_pPlaces->m_lstElement.size());
+    m_pPlaces->m_mapElement.emplace(pRoot, nElement++);
+    CSubtreeWalk oWalk(pRoot);
+    while (const DOMNode* pNode = oWalk.next())
+    {
+        if (pNode->getNodeType() == DOMNode::ELEMENT_NODE)
+            m_pPlaces->m_mapElement.emplace(static_cast<const DOMElement*>(pNode), nElement++);
+    }
+}
+} // namespace catalog

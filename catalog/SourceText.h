@@ -1,0 +1,48 @@
+// The text of a file as it was read: UTF-8, by lines, for places that are known as
+// an offset, and for showing the line of a place. Not changed after construction.
+#ifndef OPERATIONXML_CATALOG_SOURCETEXT_H
+#define OPERATIONXML_CATALOG_SOURCETEXT_H
+
+#include "platform/Export.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace catalog
+{
+// Some characters of one line; lines and columns from 1, columns in characters, a
+// tab as one. Line 0: no place, or the whole file.
+struct StSpot
+{
+    std::uint32_t ulLine   = 0;
+    std::uint32_t ulColumn = 0;
+    std::uint32_t ulLength = 0;
+};
+
+class OPERATIONXML_API CSourceText
+{
+public:
+    explicit CSourceText(std::string strBytes);
+
+    const std::string& bytes() const { return m_strBytes; }
+
+    // The text of a line without its end; nothing when there is no such line.
+    std::string_view line(std::uint32_t ulLine) const;
+
+    // The spot of some bytes; its length ends with the line.
+    StSpot spot(std::size_t nOffset, std::size_t nBytes) const;
+
+private:
+    std::size_t charactersBefore(std::size_t nOffset) const;
+    std::size_t charactersBetween(std::size_t nBegin, std::size_t nEnd) const;
+
+    std::string              m_strBytes;
+    std::vector<std::size_t> m_lstLine;  // first byte of each line
+    std::vector<std::size_t> m_lstBlock; // characters before each block: a file may be one long line
+};
+} // namespace catalog
+
+#endif
