@@ -17,11 +17,16 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "SectionRead.h" EXCLUDE
             PATTERN "TaskRead.h" EXCLUDE
             PATTERN "SectionChain.h" EXCLUDE
+            PATTERN "ModuleAppend.h" EXCLUDE
             PATTERN "ConfigSearch.h" EXCLUDE
             PATTERN "SectionTable.h" EXCLUDE
+            PATTERN "ContentQuestions.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
 install(FILES common/XmlParser.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
+
+install(TARGETS operationXmlLint EXPORT operationXmlTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES lint/Lint.h DESTINATION ${HEADER_FOLDER}/lint)
 
 # For the editors of those who write the files: docs/editors.md.
 install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/operationXml)

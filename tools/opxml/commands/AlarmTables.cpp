@@ -2,10 +2,9 @@
 #include "tools/opxml/commands/AlarmTables.h"
 
 #include "platform/Paths.h"
+#include "records/ServerNames.h"
 #include "standalone/ServerRoot.h"
-#include "tools/opxml/commands/UnreadElements.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Terminal.h"
 #include "tools/opxml/output/Text.h"
 
@@ -21,7 +20,7 @@ namespace
 // The folders of the languages stand here.
 std::string languageRoot()
 {
-    return ns_kivosdk_wrap::GetEnvValue("ENV_ROOT", false, true) + "pub/i18n/";
+    return ns_kivosdk_wrap::GetEnvValue(ServerNames::ENV_ROOT, false, true) + "pub/i18n/";
 }
 
 std::string languageNames()
@@ -46,7 +45,7 @@ void addAlarmOptions(CLI::App& oCommand, StAlarmOptions& stOptions)
         .add_option("--lang", stOptions.strLanguage, "Language of the table, for example ja_JP; else OSS_LANG counts")
         ->type_name("LANG");
     oCommand.add_flag("--check", stOptions.bCheck,
-                      "Name the mistakes that are passed over; status 1 when there are any");
+                      "Name the mistakes, as opxml lint does; status 1 when there are any");
     oCommand.add_flag("--json", stOptions.bJson, "Print JSON");
 }
 
@@ -67,31 +66,15 @@ void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOpti
                                    strNames.empty() ? "there is none" : "there is " + printable(strNames)));
     }
     // The value carries its separator: the library joins the path as it stands.
-    standalone::setEnvironmentValue("OSS_LANG", strLanguage + "/");
+    standalone::setEnvironmentValue(ServerNames::LANGUAGE, strLanguage + "/");
 }
 
 void requireTable(const CAlarmTable& oTable)
 {
     if (oTable.isRead())
         return;
-    const std::string strWhy = oTable.problems().empty() ? "cannot be read" : oTable.problems().front();
+    const std::string strWhy = oTable.problem().isSet() ? problemText(oTable.problem()) : "cannot be read";
     throw CTrouble(printable(shortPath(oTable.path()) + ": " + strWhy));
-}
-
-int printMistakes(const CAlarmTable& oTable, bool bJson)
-{
-    const std::string        strFile    = shortPath(oTable.path());
-    std::vector<std::string> lstMistake = oTable.problems();
-    for (const StReadProblem& stUnread : findUnreadInTable(oTable.path()))
-        lstMistake.push_back(problemText(stUnread));
-    if (bJson)
-        print(jsonText({{"file", strFile}, {"mistakes", lstMistake}}) + "\n");
-    else if (lstMistake.empty())
-        printLine(strFile + ": no mistakes");
-    else
-        for (const std::string& strMistake : lstMistake)
-            printLine(strFile + ": " + strMistake);
-    return lstMistake.empty() ? EXIT_YES : EXIT_NO;
 }
 
 std::uint64_t readId(const std::string& strWhat, const std::string& strText)

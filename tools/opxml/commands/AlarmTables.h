@@ -1,5 +1,5 @@
-// What the commands on the alarm tables share: the language they are read in, a
-// table that cannot be read, and the list of its mistakes.
+// What the commands on the alarm tables share: the language they are read in, and a
+// table that cannot be read.
 #ifndef OPERATIONXML_TOOLS_OPXML_COMMANDS_ALARMTABLES_H
 #define OPERATIONXML_TOOLS_OPXML_COMMANDS_ALARMTABLES_H
 
@@ -25,10 +25,6 @@ void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOpti
 
 // Throws CTrouble with the reason when the table was not read.
 void requireTable(const CAlarmTable& oTable);
-
-// Prints what the table's load passed over, and what it did not look at; EXIT_NO
-// when there is any.
-int printMistakes(const CAlarmTable& oTable, bool bJson);
 
 // A whole unsigned decimal number; throws CTrouble, naming what was asked for.
 std::uint64_t readId(const std::string& strWhat, const std::string& strText);

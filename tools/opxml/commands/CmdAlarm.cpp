@@ -2,6 +2,7 @@
 // mention a text. Loads the alarm table only, no device type.
 #include "alarm/InitAlarmInfo.h"
 #include "tools/opxml/commands/AlarmTables.h"
+#include "tools/opxml/lint/CheckFile.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/RecordJson.h"
@@ -69,7 +70,8 @@ int runAlarm(const StGlobalOptions& stGlobal, const StWanted& stWanted)
     const InitAlarmInfo& oTable = *InitAlarmInfo::Instance();
     requireTable(oTable);
     if (stWanted.stOptions.bCheck)
-        return printMistakes(oTable, stWanted.stOptions.bJson);
+        return printMistakes(oTable.path(), shortPath(oTable.path()), lint::EnFileKind::AlarmExplanation,
+                             stWanted.stOptions.bJson);
 
     std::vector<AlarmStaticInfo> lstAlarm;
     bool                         bAllKnown = true;

@@ -1,9 +1,10 @@
 // opxml filecheck: the rules of a file-check file, what makes it invalid, and
 // what is passed over. Needs no server root and loads nothing else.
+#include "common/ReadProblem.h"
 #include "filecheck/ParseXMLFile.h"
 #include "standalone/LogSink.h"
 #include "tools/opxml/commands/Command.h"
-#include "tools/opxml/commands/UnreadElements.h"
+#include "tools/opxml/lint/CheckFile.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
@@ -31,7 +32,6 @@ struct StRules
     ParseXMLFile::TypeMap    mapType; // up to the first failure
     std::uint32_t            ulResult = 0;
     std::vector<std::string> lstFailure; // the error lines of the log
-    std::vector<std::string> lstProblem; // what the log does not say
 };
 
 struct StRuleField
@@ -70,7 +70,7 @@ StRules readRules(const std::string& strFile)
             if (stLine.bError)
                 stRules.lstFailure.push_back(stLine.strText);
         });
-    stRules.ulResult = ParseXMLFile::GetXMLInfo(strFile, stRules.mapType, &stRules.lstProblem);
+    stRules.ulResult = ParseXMLFile::GetXMLInfo(strFile, stRules.mapType);
     standalone::setLogListener({});
     return stRules;
 }
@@ -91,7 +91,16 @@ std::string rulesTable(const ParseXMLFile::TypeMap& mapType)
     return oTable.text();
 }
 
-std::string rulesJson(const std::string& strFile, const StRules& stRules, bool bWithTypes)
+// "line 3, column 5: MESSAGE", as other mistakes of a file are told.
+std::vector<std::string> mistakesOf(const std::string& strFile)
+{
+    std::vector<std::string> lstMistake;
+    for (const lint::StFinding& stFinding : findMistakes(strFile, strFile, lint::EnFileKind::FileCheck))
+        lstMistake.push_back(problemText({"", stFinding.ulLine, stFinding.ulColumn, stFinding.strMessage}));
+    return lstMistake;
+}
+
+std::string rulesJson(const std::string& strFile, const StRules& stRules)
 {
     Json oTypes = Json::object();
     for (const auto& [strType, stType] : stRules.mapType)
@@ -99,45 +108,34 @@ std::string rulesJson(const std::string& strFile, const StRules& stRules, bool b
         for (const StRuleField& stField : RULE_FIELDS)
             oTypes[strType][stField.pszField] = stType.*stField.pField;
     }
-    Json oRules = {{"file", strFile}, {"result", stRules.ulResult}};
-    if (bWithTypes)
-        oRules["types"] = oTypes;
-    oRules["failures"] = stRules.lstFailure;
-    oRules["mistakes"] = stRules.lstProblem;
-    return jsonText(oRules) + "\n";
+    return jsonText({{"file", strFile},
+                     {"result", stRules.ulResult},
+                     {"types", oTypes},
+                     {"failures", stRules.lstFailure},
+                     {"mistakes", mistakesOf(strFile)}}) +
+           "\n";
 }
 
 int runFileCheck(const StGlobalOptions& stGlobal, const StFileCheckOptions& stOptions)
 {
     openLog(stGlobal);
     requireFile(stOptions.strFile);
-    StRules stRules = readRules(stOptions.strFile);
-    for (const StReadProblem& stUnread : findUnreadInRules(stOptions.strFile))
-        stRules.lstProblem.push_back(problemText(stUnread));
-
-    std::vector<std::string> lstFinding;
-    for (const auto* pLst : {&stRules.lstFailure, &stRules.lstProblem})
-    {
-        for (const std::string& strFinding : *pLst)
-            lstFinding.push_back(stOptions.strFile + ": " + strFinding);
-    }
+    if (stOptions.bCheck)
+        return printMistakes(stOptions.strFile, stOptions.strFile, lint::EnFileKind::FileCheck, stOptions.bJson);
+    const StRules stRules = readRules(stOptions.strFile);
+    const int     nExit   = stRules.ulResult == 0 ? EXIT_YES : EXIT_NO;
     if (stOptions.bJson)
-        print(rulesJson(stOptions.strFile, stRules, !stOptions.bCheck));
-    else if (stOptions.bCheck && lstFinding.empty())
-        printLine(stOptions.strFile + ": no mistakes");
-    else if (stOptions.bCheck)
     {
-        for (const std::string& strFinding : lstFinding)
-            printLine(strFinding);
+        print(rulesJson(stOptions.strFile, stRules));
+        return nExit;
     }
-    else
-    {
-        if (!stRules.mapType.empty())
-            print(rulesTable(stRules.mapType));
-        for (const std::string& strFinding : lstFinding)
-            remark(strFinding);
-    }
-    return stRules.ulResult == 0 && !(stOptions.bCheck && !lstFinding.empty()) ? EXIT_YES : EXIT_NO;
+    if (!stRules.mapType.empty())
+        print(rulesTable(stRules.mapType));
+    for (const std::string& strFailure : stRules.lstFailure)
+        remark(stOptions.strFile + ": " + strFailure);
+    for (const std::string& strMistake : mistakesOf(stOptions.strFile))
+        remark(stOptions.strFile + ": " + strMistake);
+    return nExit;
 }
 } // namespace
 
@@ -147,7 +145,8 @@ void addFileCheckCommand(CLI::App& oApp, StTool& stTool)
         oApp.add_subcommand("filecheck", "Show the rules of a file-check file and what is wrong with it");
     auto pOptions = std::make_shared<StFileCheckOptions>();
     pCommand->add_option("FILE", pOptions->strFile, "The rule file; no server root is needed")->required();
-    pCommand->add_flag("--check", pOptions->bCheck, "Name the mistakes only; status 1 when there are any");
+    pCommand->add_flag("--check", pOptions->bCheck,
+                       "Name the mistakes only, as opxml lint does; status 1 when there are any");
     pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
     pCommand->footer("Exit status: 0 valid (--check: no mistakes), 1 invalid, 2 trouble (no such file).");
     pCommand->callback([&stTool, pOptions]

@@ -3,6 +3,8 @@
 #include "alarm/InitTblRegInfo.h"
 #include "platform/DeviceAdapter.h"
 #include "tools/opxml/commands/AlarmTables.h"
+#include "tools/opxml/lint/CheckFile.h"
+#include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Terminal.h"
@@ -124,7 +126,8 @@ int runTransfer(const StGlobalOptions& stGlobal, const StQuestion& stQuestion)
     const InitTblRegInfo& oTable = *InitTblRegInfo::Instance();
     requireTable(oTable);
     if (stQuestion.stOptions.bCheck)
-        return printMistakes(oTable, stQuestion.stOptions.bJson);
+        return printMistakes(oTable.path(), shortPath(oTable.path()), lint::EnFileKind::AlarmRegistration,
+                             stQuestion.stOptions.bJson);
     const StAnswer stAnswer = findAnswer(oTable, stAlarm);
     print(stQuestion.stOptions.bJson ? answerJson(stAnswer) : answerText(stAnswer, lstDeviceType));
     return oTable.NeedTransfer(stAlarm) ? EXIT_YES : EXIT_NO;

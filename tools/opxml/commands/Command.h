@@ -42,5 +42,6 @@ void addDevicesCommand(CLI::App& oApp, StTool& stTool);
 void addAlarmCommand(CLI::App& oApp, StTool& stTool);
 void addTransferCommand(CLI::App& oApp, StTool& stTool);
 void addFileCheckCommand(CLI::App& oApp, StTool& stTool);
+void addLintCommand(CLI::App& oApp, StTool& stTool);
 
 #endif

@@ -38,4 +38,5 @@ void describeTool(CLI::App& oApp, StTool& stTool)
     addAlarmCommand(oApp, stTool);
     addTransferCommand(oApp, stTool);
     addFileCheckCommand(oApp, stTool);
+    addLintCommand(oApp, stTool);
 }

@@ -4,6 +4,7 @@
 
 #include "alarm/InitAlarmInfo.h"
 #include "alarm/InitTblRegInfo.h"
+#include "common/XmlParser.h"
 #include "database/CXMLConfigDatabase.h"
 #include "filecheck/ParseXMLFile.h"
 #include "records/RecordSearch.h"
@@ -13,6 +14,8 @@
 #include "tools/opxml/query/QueryPlace.h"
 
 #include <fmt/format.h>
+
+#include <memory>
 
 namespace
 {
@@ -196,10 +199,15 @@ StQueryReason whyNoTransfer(const QueryArguments& lstArgument)
 
 StQueryReason whyNoRules(const QueryArguments& lstArgument)
 {
-    ParseXMLFile::TypeMap    mapType;
-    std::vector<std::string> lstProblem;
-    if (ParseXMLFile::GetXMLInfo(lstArgument[0].strText, mapType, &lstProblem) == DC_RESULT_OK)
+    ParseXMLFile::TypeMap mapType;
+    if (ParseXMLFile::GetXMLInfo(lstArgument[0].strText, mapType) == DC_RESULT_OK)
         return {};
-    const std::string strProblem = lstProblem.empty() ? "the rules are not as they should be" : lstProblem.front();
+    std::string strProblem = "the rules are not as they should be";
+    if (const std::unique_ptr<CXmlParser> pParser = CXmlParser::create())
+    {
+        pParser->parseFile(lstArgument[0].strText);
+        if (pParser->problem().isSet())
+            strProblem = problemText(pParser->problem());
+    }
     return {fmt::format("{}: {}", lstArgument[0].strText, strProblem), {}};
 }

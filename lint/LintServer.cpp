@@ -1,0 +1,164 @@
+// A whole server: its files in their order, each with the types that are made of it.
+// A type is looked at together with the first of its files, so a finding may concern a
+// file that comes later, never one that is done.
+#include "catalog/CatalogMaker.h"
+#include "lint/LintDocument.h"
+#include "lint/SenseRules.h"
+#include "lint/ServerFiles.h"
+
+#include <memory>
+#include <numeric>
+
+namespace lint
+{
+namespace
+{
+class CServerCheck
+{
+public:
+    CServerCheck(const std::string& strInventory, const FindingSink& fnFinding,
+                 const std::function<void(const std::string&)>& fnBegin)
+        : m_strInventory(strInventory), m_fnFinding(fnFinding), m_fnBegin(fnBegin), m_stFiles(findServerFiles()),
+          m_lstIsDone(m_stFiles.lstType.size())
+    {
+        // Any type may have something to say about a module.
+        std::vector<std::size_t> lstAll(m_stFiles.lstType.size());
+        std::iota(lstAll.begin(), lstAll.end(), std::size_t{0});
+        for (const catalog::StModuleCatalog& stModule : m_oMaker.modules())
+            m_stFiles.mapFile[stModule.strFile] = {EnFileKind::Module, lstAll};
+        for (const StServerType& stType : m_stFiles.lstType)
+            m_setSysOid.insert(stType.strDevSysOid);
+    }
+
+    void run()
+    {
+        reportMissing();
+        for (const std::string& strFile : m_stFiles.lstUnused)
+            reportOf(strFile).add("file-unused", {}, "no device type uses the file", "file");
+        checkModuleFiles();
+        for (const auto& [strFile, stFile] : m_stFiles.mapFile)
+        {
+            if (m_fnBegin)
+                m_fnBegin(strFile);
+            for (const std::size_t nType : stFile.lstType)
+                checkType(nType);
+            checkDocument(strFile, stFile.enKind, nullptr);
+            m_oTypeFindings.tell(strFile, reportOf(strFile));
+            flushUpTo(strFile);
+        }
+        for (auto& [strFile, pReport] : m_mapReport)
+            pReport->flush(m_fnFinding);
+    }
+
+private:
+    CFileReport& reportOf(const std::string& strFile)
+    {
+        std::unique_ptr<CFileReport>& pReport = m_mapReport[strFile];
+        if (pReport == nullptr)
+            pReport = std::make_unique<CFileReport>(strFile, nullptr);
+        return *pReport;
+    }
+
+    // Reports of files that are done, and of those between them that are not read.
+    void flushUpTo(const std::string& strFile)
+    {
+        const auto itEnd = m_mapReport.upper_bound(strFile);
+        for (auto itReport = m_mapReport.begin(); itReport != itEnd; itReport = m_mapReport.erase(itReport))
+            itReport->second->flush(m_fnFinding);
+    }
+
+    void reportMissing()
+    {
+        for (const StServerType& stType : m_stFiles.lstType)
+        {
+            const StPlannedFile& stConfig = stType.stPlan.stConfig;
+            if (stConfig.isFound() || !stConfig.stProblem.isSet())
+                continue;
+            reportOf(stConfig.strFile.empty() ? m_strInventory : stConfig.strFile)
+                .add("file-missing", {},
+                     stType.strDevType + " " + stType.strDevTypeVer +
+                         " has no configuration: " + stConfig.stProblem.strText,
+                     stType.strKey);
+        }
+    }
+
+    // Modules come first: what was lost in them must be known when a type refers to it.
+    void checkModuleFiles()
+    {
+        std::vector<std::string> lstType;
+        for (const StServerType& stType : m_stFiles.lstType)
+            lstType.push_back(stType.strDevType);
+        for (const catalog::StModuleCatalog& stModule : m_oMaker.modules())
+        {
+            checkDocument(stModule.strFile, EnFileKind::Module, nullptr);
+            const StLostNames& stLost = m_mapLost[stModule.strFile];
+            m_stLostInModules.setText.insert(stLost.setText.begin(), stLost.setText.end());
+        }
+        checkModules(m_oMaker.modules(), lstType, m_stLostInModules,
+                     [this](const std::string& strFile) -> CFileReport& { return reportOf(strFile); });
+    }
+
+    // A type with all its files, whose documents are at hand right after it was read.
+    void checkType(std::size_t nType)
+    {
+        if (m_lstIsDone[nType])
+            return;
+        m_lstIsDone[nType]                  = true;
+        const StServerType&          stType = m_stFiles.lstType[nType];
+        const catalog::StTypeCatalog stMade = m_oMaker.make(stType.strDevType, stType.strDevTypeVer);
+        StLostNames                  stLost = m_stLostInModules;
+        for (const std::string& strFile : stMade.lstFile)
+        {
+            const auto itFile = m_stFiles.mapFile.find(strFile);
+            if (itFile == m_stFiles.mapFile.end() || itFile->second.enKind == EnFileKind::Module)
+                continue;
+            checkDocument(strFile, itFile->second.enKind, m_oMaker.document(strFile));
+            const StLostNames& stOfFile = m_mapLost[strFile];
+            stLost.setText.insert(stOfFile.setText.begin(), stOfFile.setText.end());
+        }
+        m_oTypeFindings.begin(stMade);
+        checkSense(stMade, stLost, m_oTypeFindings);
+        checkCapacity(stMade, m_setSysOid, stLost, m_oTypeFindings);
+        checkVersions(stMade, reportOf(m_strInventory));
+    }
+
+    // Once for each file; pParser is its parsed document where there is one already.
+    void checkDocument(const std::string& strFile, EnFileKind enKind, catalog::CPlacedParser* pParser)
+    {
+        const auto [itLost, bFirst] = m_mapLost.try_emplace(strFile);
+        if (!bFirst)
+            return;
+        std::unique_ptr<catalog::CPlacedParser> pOwn;
+        if (pParser == nullptr)
+        {
+            pOwn    = catalog::CPlacedParser::create();
+            pParser = pOwn.get();
+            if (pParser == nullptr)
+                return;
+            pParser->parsePlaced(strFile);
+        }
+        CFileReport& oReport = reportOf(strFile);
+        oReport.showLinesOf(pParser->places().text());
+        lintDocument(*pParser, enKind, oReport, itLost->second);
+    }
+
+    const std::string&                                  m_strInventory;
+    const FindingSink&                                  m_fnFinding;
+    const std::function<void(const std::string&)>&      m_fnBegin;
+    catalog::CCatalogMaker                              m_oMaker;
+    StServerFiles                                       m_stFiles;
+    std::vector<bool>                                   m_lstIsDone; // by type
+    std::set<std::string>                               m_setSysOid;
+    std::map<std::string, std::unique_ptr<CFileReport>> m_mapReport; // of files that are not done
+    CTypeFindings                                       m_oTypeFindings;
+    std::map<std::string, StLostNames>                  m_mapLost; // of the files that are checked
+    StLostNames                                         m_stLostInModules;
+};
+} // namespace
+
+void lintServer(const std::string& strInventory, const FindingSink& fnFinding,
+                const std::function<void(const std::string&)>& fnBegin)
+{
+    CServerCheck(strInventory, fnFinding, fnBegin).run();
+}
+} // namespace lint

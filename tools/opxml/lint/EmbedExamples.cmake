@@ -1,0 +1,16 @@
+# Writes the files of tests/lint as C++, for "opxml lint --explain".
+#   cmake -DFOLDER=… -DOUTPUT=… -P EmbedExamples.cmake
+file(GLOB_RECURSE FILES LIST_DIRECTORIES false RELATIVE ${FOLDER} ${FOLDER}/*/*)
+list(SORT FILES)
+set(TEXT "// Made from tests/lint.\n#include \"tools/opxml/lint/RuleText.h\"\n\n")
+string(APPEND TEXT "const std::vector<StRuleExample> RULE_EXAMPLES = {\n")
+foreach(FILE ${FILES})
+    string(FIND ${FILE} "/" SLASH)
+    string(SUBSTRING ${FILE} 0 ${SLASH} RULE)
+    math(EXPR AFTER "${SLASH} + 1")
+    string(SUBSTRING ${FILE} ${AFTER} -1 NAME)
+    file(READ ${FOLDER}/${FILE} CONTENT)
+    string(APPEND TEXT "    {\"${RULE}\", \"${NAME}\", R\"example(${CONTENT})example\"},\n")
+endforeach()
+string(APPEND TEXT "};\n")
+file(WRITE ${OUTPUT} "${TEXT}")

@@ -1,0 +1,103 @@
+// See LintRoot.h.
+#include "tools/opxml/lint/LintRoot.h"
+
+#include "tools/opxml/lint/InventoryRules.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <tuple>
+#include <vector>
+
+namespace
+{
+// What only a stand-alone root has: rules that a server's caller would name.
+constexpr const char* FILE_CHECK_RULES = "file_check.xml";
+
+// What follows from a row that is told is not told again where it shows.
+bool followsFrom(const StInventoryFindings& stInventory, const lint::StFinding& stFinding)
+{
+    if (stFinding.strRule == "file-missing" || stFinding.strRule == "file-unused")
+        return stInventory.setToldFile.count(stFinding.strFile) != 0;
+    return stFinding.strRule == "capacity-no-record" && stInventory.setToldVersion.count(stFinding.strSubject) != 0;
+}
+
+// Puts what is found about the tool's own files among the server's, by their names.
+class CSorter
+{
+public:
+    CSorter(std::vector<lint::StFinding> lstOwn, const lint::FindingSink& fnFinding)
+        : m_lstOwn(std::move(lstOwn)), m_fnFinding(fnFinding)
+    {
+    }
+
+    // The next finding of the server, whose findings are sorted.
+    void take(const lint::StFinding& stFinding)
+    {
+        tellOwn([&stFinding](const lint::StFinding& stOwn) { return stOwn.strFile < stFinding.strFile; });
+        m_fnFinding(stFinding);
+    }
+
+    // What the server's check says about one of the own files goes there.
+    void add(const lint::StFinding& stFinding) { m_lstOwn.push_back(stFinding); }
+
+    void end()
+    {
+        tellOwn([](const lint::StFinding& /*stOwn*/) { return true; });
+    }
+
+private:
+    template <typename IsNext>
+    void tellOwn(IsNext fnIsNext)
+    {
+        const auto fnPlace = [](const lint::StFinding& stFinding)
+        { return std::tie(stFinding.strFile, stFinding.ulLine, stFinding.ulColumn); };
+        std::stable_sort(m_lstOwn.begin(), m_lstOwn.end(),
+                         [&](const lint::StFinding& stLeft, const lint::StFinding& stRight)
+                         { return fnPlace(stLeft) < fnPlace(stRight); });
+        auto itOwn = m_lstOwn.begin();
+        for (; itOwn != m_lstOwn.end() && fnIsNext(*itOwn); ++itOwn)
+            m_fnFinding(*itOwn);
+        m_lstOwn.erase(m_lstOwn.begin(), itOwn);
+    }
+
+    std::vector<lint::StFinding> m_lstOwn;
+    const lint::FindingSink&     m_fnFinding;
+};
+} // namespace
+
+std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell)
+{
+    // "./" in front of every path would only be in the way.
+    const lint::FindingSink fnFinding = [&](lint::StFinding stFinding)
+    {
+        if (strRoot == "." && stFinding.strFile.compare(0, 2, "./") == 0)
+            stFinding.strFile.erase(0, 2);
+        fnTell(stFinding);
+    };
+    const StInventoryFindings stInventory = lintInventory(strRoot);
+    CSorter                   oSorter(stInventory.lstFinding, fnFinding);
+    std::size_t               nFiles   = 1;
+    const std::string         strRules = strRoot + "/" + FILE_CHECK_RULES;
+    std::error_code           oIgnored;
+    if (std::filesystem::is_regular_file(strRules, oIgnored))
+    {
+        lint::lintFile(strRules, lint::EnFileKind::FileCheck,
+                       [&oSorter](const lint::StFinding& stFinding) { oSorter.add(stFinding); });
+        ++nFiles;
+    }
+    lint::lintServer(
+        stInventory.strFile,
+        [&](const lint::StFinding& stFinding)
+        {
+            if (followsFrom(stInventory, stFinding))
+                return;
+            if (stFinding.strFile == stInventory.strFile)
+                oSorter.add(stFinding);
+            else
+                oSorter.take(stFinding);
+        },
+        [&nFiles](const std::string& /*strFile*/) { ++nFiles; });
+    oSorter.end();
+    return nFiles;
+}
