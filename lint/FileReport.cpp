@@ -12,6 +12,9 @@ namespace
 {
 constexpr std::string_view ALLOWANCE = "opxml-lint:";
 
+// A longer line is no help, and a file of one line may have as many findings as bytes.
+constexpr std::size_t SHOWN_LINE = 4096;
+
 std::string_view trimmed(std::string_view strText)
 {
     constexpr const char* BLANKS = " \t\r\n";
@@ -121,8 +124,9 @@ void CFileReport::flush(const FindingSink& fnFinding)
                      lstFinding.end());
     for (StFinding& stFinding : lstFinding)
     {
-        if (m_pText != nullptr)
-            stFinding.strSource = std::string(m_pText->line(stFinding.ulLine));
+        const std::string_view strLine = m_pText == nullptr ? std::string_view() : m_pText->line(stFinding.ulLine);
+        if (strLine.size() <= SHOWN_LINE)
+            stFinding.strSource = std::string(strLine);
         fnFinding(stFinding);
     }
 }
