@@ -13,6 +13,7 @@
 #include "records/ResultCodes.h"
 
 #include <list>
+#include <map>
 #include <utility>
 
 namespace catalog
@@ -77,6 +78,12 @@ public:
         for (const StModuleLoad& stLoad : oReader.files())
             m_lstModule.push_back(moduleCatalog(stLoad));
         m_lstModuleFile = m_oModuleSource.files();
+        // A name listed twice appends the module twice.
+        for (const auto& [strName, stModule] : m_mapModule)
+        {
+            for (const std::string& strSupported : stModule.lstSupportDevType)
+                m_mapModulesOfType[strSupported].push_back(&stModule);
+        }
     }
 
     StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer)
@@ -124,14 +131,11 @@ private:
         if (stType.ulResult != DC_RESULT_OK || lstInfo.empty())
             return;
         // Modules name the type, never its telnet key, and the first record gets them.
-        for (const auto& [strName, stModule] : m_mapModule)
-        {
-            for (const std::string& strSupported : stModule.lstSupportDevType)
-            {
-                if (strSupported == stType.strDevType)
-                    appendModule(stModule, *lstInfo.front());
-            }
-        }
+        const auto itModules = m_mapModulesOfType.find(stType.strDevType);
+        if (itModules == m_mapModulesOfType.end())
+            return;
+        for (const StAsnModuleInfoVerXMLInfo* pModule : itModules->second)
+            appendModule(*pModule, *lstInfo.front());
     }
 
     StConfiguration configuration(const StAsnDevTypeVerXMLInfo& stInfo) const
@@ -159,6 +163,8 @@ private:
             stCatalog.lstSection = makeSections(m_oModuleRecorder, itModule->second, stHead.lstLost);
         return stCatalog;
     }
+
+    std::map<std::string, std::vector<const StAsnModuleInfoVerXMLInfo*>> m_mapModulesOfType; // by plain type name
 
     ModuleInfoMap            m_mapModule;
     std::vector<std::string> m_lstModuleFile;
