@@ -5,6 +5,8 @@
 
 #include <thread>
 
+CReadObserver::~CReadObserver() = default;
+
 namespace ReadObserver
 {
 std::atomic<CReadObserver*> g_pObserver{nullptr};

@@ -44,7 +44,7 @@ struct StAttributeRead
 class OPERATIONXML_API CReadObserver
 {
 public:
-    virtual ~CReadObserver() = default;
+    virtual ~CReadObserver();
 
     // A reader looks for the elements of a name below a node, at any depth; for
     // sections below the document itself.
