@@ -34,6 +34,8 @@ LINES = [
     ("opxml query isDeviceOpSupported 'LX 2400/S' V3.8 Back", ["Backup"]),
     ("opxml query isCancelOperSupported 101 Back", ["Backup"]),
     ("opxml query isSupportTaskType 101 PatchU", ["PatchUpdate"]),
+    ("opxml lint --explain not-well", ["opxml", "lint", "--explain", "not-well-formed"]),
+    ("opxml lint --format sar", ["opxml", "lint", "--format", "sarif"]),
     ("opxml --root odd show co:lo", ["co:lon=x"]),
     ("opxml --root odd show q", [ODD_NAMES[0]]),
     ("opxml --root odd show '<", ["<script>&;"]),

@@ -61,9 +61,27 @@ std::vector<const CLI::Option*> shownOptions(const CLI::App& oApp, bool bPositio
                             { return !pOption->get_group().empty() && pOption->nonpositional() != bPositional; });
 }
 
+// "TEXT:{text,json}" without the words.
 std::string valueOf(const CLI::Option& oOption)
 {
-    return oOption.get_items_expected_max() == 0 ? "" : " " + italic(oOption.get_type_name());
+    const std::string strKind = oOption.get_type_name();
+    return oOption.get_items_expected_max() == 0 ? "" : " " + italic(strKind.substr(0, strKind.find(':')));
+}
+
+// ". One of: text, json" for an option with such words.
+std::string listedWords(const CLI::Option& oOption)
+{
+    const std::string strKind = oOption.get_type_name();
+    const std::size_t nBegin  = strKind.find('{');
+    if (nBegin == std::string::npos)
+        return "";
+    std::string strWords = ". One of:";
+    for (std::size_t nAt = nBegin + 1; nAt < strKind.size() && strKind[nAt] != '}'; ++nAt)
+    {
+        strWords += nAt == nBegin + 1 || strKind[nAt - 1] == ',' ? " " : "";
+        strWords += strKind[nAt];
+    }
+    return strWords;
 }
 
 std::string positional(const CLI::Option& oOption)
@@ -120,7 +138,7 @@ void writeArguments(std::ostream& oPage, const CLI::App& oApp)
     oPage << ".SH OPTIONS\n";
     for (const CLI::Option* pOption : shownOptions(oApp, false))
     {
-        std::string strText = pOption->get_description();
+        std::string strText = pOption->get_description() + listedWords(*pOption);
         if (!pOption->get_default_str().empty())
             strText += ". Default: \"" + pOption->get_default_str() + "\"";
         if (!pOption->get_envname().empty())
@@ -137,16 +155,24 @@ void writeCommands(std::ostream& oPage, const CLI::App& oApp)
 }
 
 // "Exit status: 0 all" is a section with a text, "Columns:" one with lines as they
-// stand. What has no title belongs to what stands before it.
+// stand. What has no title, or a sentence for one, belongs to what stands before it;
+// at the beginning, to notes.
+constexpr std::size_t LONGEST_TITLE = 40;
+
 void writeFooter(std::ostream& oPage, const std::string& strFooter)
 {
     std::istringstream oLines(strFooter);
     bool               bAsItStands = false;
+    bool               bFirst      = true;
     for (std::string strLine; std::getline(oLines, strLine);)
     {
         const std::size_t nColon = strLine.find(':');
-        const bool bTitle = nColon != std::string::npos && std::isupper(static_cast<unsigned char>(strLine[0])) != 0 &&
+        const bool bTitle = nColon < LONGEST_TITLE && std::isupper(static_cast<unsigned char>(strLine[0])) != 0 &&
                             strLine.find_first_not_of("abcdefghijklmnopqrstuvwxyz ", 1) == nColon;
+        if (!bTitle && bFirst)
+            oPage << ".SH NOTES\n.EX\n";
+        bAsItStands = bAsItStands || (!bTitle && bFirst);
+        bFirst      = false;
         if (!bTitle)
         {
             oPage << (bAsItStands ? "" : ".br\n") << roffText(strLine) << "\n";

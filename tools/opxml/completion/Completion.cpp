@@ -151,9 +151,10 @@ void addNames(const StLine& stLine, const std::string& strKind, const ArgumentVa
         return;
     }
     addListedWords(strKind, stCompletion);
-    std::string strError;
-    if (!stCompletion.lstCandidate.empty() || !standalone::openServerRoot(stLine.strRoot, strError))
+    if (!stCompletion.lstCandidate.empty())
         return;
+    std::string strIgnored;
+    standalone::openServerRoot(stLine.strRoot, strIgnored); // without one, rules have names still
     const std::string strParts = strKind.substr(0, strKind.find('['));
     for (std::size_t nBegin = 0; nBegin <= strParts.size();)
     {

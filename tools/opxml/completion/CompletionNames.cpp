@@ -2,6 +2,7 @@
 #include "tools/opxml/completion/CompletionNames.h"
 
 #include "database/CXMLConfigDatabase.h"
+#include "lint/Lint.h"
 #include "platform/DeviceAdapter.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "records/WordTables.h"
@@ -158,6 +159,14 @@ std::vector<StCandidate> taskTypes(const ArgumentValues& /*mapValue*/)
     return lstName;
 }
 
+std::vector<StCandidate> lintRules(const ArgumentValues& /*mapValue*/)
+{
+    std::vector<StCandidate> lstName;
+    for (const lint::StRule& stRule : lint::rules())
+        lstName.push_back({stRule.pszId, stRule.pszTitle});
+    return lstName;
+}
+
 struct StNames
 {
     const char* pszArgument;
@@ -165,7 +174,7 @@ struct StNames
 };
 constexpr StNames NAMES[] = {
     {"TYPE", types},     {"DEVICE-TYPE", types},    {"VERSION", versions},    {"DEVICE-ID", deviceIds},
-    {"DEVICE", devices}, {"OPERATION", operations}, {"TASK-TYPE", taskTypes},
+    {"DEVICE", devices}, {"OPERATION", operations}, {"TASK-TYPE", taskTypes}, {"RULE", lintRules},
 };
 } // namespace
 

@@ -13,7 +13,7 @@
 using ArgumentValues = std::map<std::string, std::string>;
 
 // Candidates for an argument of this name, as the help has it ("TYPE", "DEVICE-ID");
-// a name that means nothing here has none. Needs an open server root.
+// a name that means nothing here has none. What the root knows needs an open one.
 std::vector<StCandidate> namesFor(const std::string& strArgument, const ArgumentValues& mapValue);
 
 #endif
