@@ -14,15 +14,23 @@
 namespace
 {
 constexpr std::size_t BAR_WIDTH = 40;
+
+std::size_t registeredCount()
+{
+    std::list<StDeviceType> lstDeviceType;
+    CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstDeviceType); // a failure shows in the load itself
+    return lstDeviceType.size();
+}
 } // namespace
 
-CProgress::CProgress() : m_bShown(isTerminal(stderr))
+CProgress::CProgress() : CProgress(registeredCount())
+{
+}
+
+CProgress::CProgress(std::size_t nTypes) : m_bShown(isTerminal(stderr)), m_nTotal(std::max<std::size_t>(nTypes, 1))
 {
     if (!m_bShown)
         return;
-    std::list<StDeviceType> lstDeviceType;
-    CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstDeviceType); // a failure shows in the load itself
-    m_nTotal = std::max<std::size_t>(lstDeviceType.size(), 1);
     // Every registry entry is read by one call of this operation.
     standalone::setTraceListener(
         [this](const LocationInfo& stWhere)

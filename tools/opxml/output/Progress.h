@@ -1,4 +1,4 @@
-// A progress bar on stderr while the database loads; nothing when stderr is no
+// A progress bar on stderr while device types are read; nothing when stderr is no
 // terminal.
 #ifndef OPERATIONXML_TOOLS_OPXML_OUTPUT_PROGRESS_H
 #define OPERATIONXML_TOOLS_OPXML_OUTPUT_PROGRESS_H
@@ -8,8 +8,10 @@
 class CProgress
 {
 public:
-    // Follows the load from here on, until the object dies.
+    // Follows the load of all registered types, or the reads of so many, from here on,
+    // until the object dies.
     CProgress();
+    explicit CProgress(std::size_t nTypes);
     ~CProgress();
     CProgress(const CProgress&)            = delete;
     CProgress& operator=(const CProgress&) = delete;
