@@ -17,7 +17,12 @@ std::uint32_t CDeviceAdapterInterface::getALLDLLInfo(std::list<StDeviceType>& ls
     return answerCode<operation("CDeviceAdapterInterface::getALLDLLInfo")>(
         [&](const StInventory& stInventory)
         {
-            lstDllInfo.insert(lstDllInfo.end(), stInventory.lstDeviceType.begin(), stInventory.lstDeviceType.end());
+            const auto& oListed = stInventory.oListed;
+            for (const StDeviceType& stType : stInventory.lstDeviceType)
+            {
+                if (!oListed || oListed->count(withoutTelnet(stType.strDevType)) != 0)
+                    lstDllInfo.push_back(stType);
+            }
             return 0u;
         });
 }

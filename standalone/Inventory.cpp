@@ -24,6 +24,12 @@ constexpr StEnvironmentDefault ENVIRONMENT_DEFAULTS[] = {
     {"XML_PATH", "${ROOT}/xml"},
 };
 
+bool endsInTelnet(std::string_view strName)
+{
+    return strName.size() >= TELNET_SUFFIX.size() &&
+           strName.substr(strName.size() - TELNET_SUFFIX.size()) == TELNET_SUFFIX;
+}
+
 std::uint64_t idKey(std::uint32_t ulDeviceTypeID, std::uint32_t ulDeviceTypeVersionID)
 {
     return (std::uint64_t{ulDeviceTypeID} << 32) | ulDeviceTypeVersionID;
@@ -36,6 +42,13 @@ std::shared_ptr<const StInventory>& inventorySlot()
     return *pSlot;
 }
 } // namespace
+
+std::string withoutTelnet(std::string strName)
+{
+    while (endsInTelnet(strName))
+        strName.resize(strName.size() - TELNET_SUFFIX.size());
+    return strName;
+}
 
 std::string pairKey(const std::string& strFirst, const std::string& strSecond)
 {
@@ -65,12 +78,8 @@ void StInventory::buildIndexes()
 const StDeviceType* StInventory::findType(const std::string& strName, const std::string& strVersion) const
 {
     const std::size_t* pAt = findValue(mapTypeByName, pairKey(strName, strVersion));
-    if (pAt == nullptr && strName.size() >= TELNET_SUFFIX.size() && strVersion.find(TELNET_SUFFIX) != std::string::npos)
-    {
-        const std::size_t nPlain = strName.size() - TELNET_SUFFIX.size();
-        if (strName.compare(nPlain, std::string::npos, TELNET_SUFFIX) == 0)
-            pAt = findValue(mapTypeByName, pairKey(strName.substr(0, nPlain), strVersion));
-    }
+    if (pAt == nullptr && endsInTelnet(strName) && strVersion.find(TELNET_SUFFIX) != std::string::npos)
+        pAt = findValue(mapTypeByName, pairKey(strName.substr(0, strName.size() - TELNET_SUFFIX.size()), strVersion));
     return pAt == nullptr ? nullptr : &lstDeviceType[*pAt];
 }
 

@@ -49,8 +49,9 @@ struct StInventory
     // logs and results show what people typed. "" for the file system's root.
     std::string strRoot;
 
-    std::vector<StDeviceType>    lstDeviceType; // registry order
-    std::vector<StManagedDevice> lstDevice;     // by device id
+    std::vector<StDeviceType>            lstDeviceType; // registry order
+    std::optional<std::set<std::string>> oListed;       // names withoutTelnet() that the adapter lists; none: all
+    std::vector<StManagedDevice>         lstDevice;     // by device id
 
     std::unordered_map<std::string, std::string>                mapConfigFile; // storage key to whole path
     std::unordered_map<std::string, StCheckFile>                mapCheckFile;  // storage key, whole path
@@ -94,6 +95,9 @@ struct StInventory
     // The value of an environment name or its default, "" when it has neither.
     std::string environment(const std::string& strName, bool bExpand) const;
 };
+
+// A type name or storage key without "_telnet" at its end, however often it stands there.
+std::string withoutTelnet(std::string strName);
 
 // Two texts as one map key. No text of an inventory holds a NUL byte.
 std::string pairKey(const std::string& strFirst, const std::string& strSecond);

@@ -6,6 +6,7 @@
 #include "platform/Settings.h"
 #include "records/OperationRecords.h"
 #include "standalone/ServerRoot.h"
+#include "standalone/TypeList.h"
 
 #include <fmt/format.h>
 
@@ -34,16 +35,47 @@ protected:
     CTempServerRoot m_oRoot;
 };
 
-TEST_F(LookupTest, RegistryOrderIsThePosition)
+// The registry as a load sees it.
+std::string listedTypes()
 {
     std::list<StDeviceType> lstType;
-    EXPECT_EQ(0u, adapter().getALLDLLInfo(lstType));
+    EXPECT_EQ(0u, CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstType));
     std::string strSeen;
     for (const StDeviceType& stType : lstType)
         strSeen += fmt::format("{} {} {}, ", stType.strDevType, stType.strDevTypeVer, stType.ulDeviceTypeVersionID);
+    return strSeen;
+}
+
+TEST_F(LookupTest, RegistryOrderIsThePosition)
+{
     EXPECT_EQ("X V1 1, X V1_telnet 2, X V1_telnet 3, X_telnet V2 1, _telnet V2 2, "
               "Y V3_telnet 2, Y_telnet V3_telnet 1, Last V1 1, ",
-              strSeen);
+              listedTypes());
+}
+
+TEST_F(LookupTest, ListIsNarrowedToWhatSharesAKey)
+{
+    const struct
+    {
+        std::set<std::string> setName;
+        const char*           pszListed;
+    } CASES[] = {
+        {{"Last", "X_telnet_telnet"}, "X V1 1, X V1_telnet 2, X V1_telnet 3, X_telnet V2 1, Last V1 1, "},
+        {{"Y"}, "Y V3_telnet 2, Y_telnet V3_telnet 1, "}, // a list takes the place of the one before
+        {{""}, "_telnet V2 2, "},
+        {{"unknown"}, ""},
+        {{}, ""},
+    };
+    for (const auto& [setName, pszListed] : CASES)
+    {
+        standalone::listOnlyTypes(setName);
+        EXPECT_EQ(pszListed, listedTypes());
+        EXPECT_EQ(8u, standalone::listTypes().size());
+        StDeviceType stType;
+        EXPECT_EQ(0u, adapter().searchDeviceType("Last", "V1", stType));
+    }
+    m_oRoot.open(INVENTORY);
+    EXPECT_NE("", listedTypes());
 }
 
 TEST_F(LookupTest, StorageKeyFindsTheTelnetVariant)

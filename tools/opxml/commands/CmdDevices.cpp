@@ -1,11 +1,9 @@
 // opxml devices: the devices of the inventory, how each resolves, and which
 // configuration serves it.
-#include "database/CXMLConfigDatabase.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/commands/Devices.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
-#include "tools/opxml/output/Progress.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
@@ -102,14 +100,11 @@ std::string noDeviceText(const std::vector<StServedDevice>& lstDevice, const std
 int runDevices(const StGlobalOptions& stGlobal, const StDevicesOptions& stOptions)
 {
     openRoot(stGlobal);
-    {
-        const CProgress oProgress;
-        CXMLConfigDatabase::getInstance();
-    }
-    const std::vector<StServedDevice> lstAll = gatherDevices(CXMLConfigDatabase::getInstance()->getLoadReport());
+    const std::vector<StServedDevice> lstAll = gatherDevices();
     std::vector<StServedDevice>       lstDevice;
     std::copy_if(lstAll.begin(), lstAll.end(), std::back_inserter(lstDevice),
                  [&stOptions](const StServedDevice& stDevice) { return isNamed(stDevice, stOptions.strWord); });
+    loadConfigurations(lstDevice);
     if (stOptions.bJson)
         print(devicesJson(lstDevice));
     else if (!lstDevice.empty())

@@ -2,6 +2,7 @@
 // records, in store order. Written key by key: a large store is never held as
 // JSON as a whole.
 #include "database/CXMLConfigDatabase.h"
+#include "standalone/TypeList.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/RecordJson.h"
@@ -18,17 +19,18 @@
 namespace
 {
 // The keys that are asked for; every unknown name is told on stderr.
-std::set<std::string> selectKeys(const StLoadReport& stReport, const std::vector<std::string>& lstName, bool& bAllKnown)
+std::set<std::string> selectKeys(const std::vector<std::string>& lstName, bool& bAllKnown)
 {
-    std::set<std::string> setKey;
+    std::set<std::string>               setKey;
+    const std::vector<StRegisteredType> lstType = registeredTypes();
     for (const std::string& strName : lstName)
     {
-        const std::set<std::string> setFound = findKeys(stReport, strName);
+        const std::set<std::string> setFound = findKeys(lstType, strName);
         setKey.insert(setFound.begin(), setFound.end());
         if (!setFound.empty())
             continue;
         bAllKnown = false;
-        remark(unknownTypeText(stReport, strName));
+        remark(unknownTypeText(lstType, strName));
     }
     return setKey;
 }
@@ -58,8 +60,10 @@ int runDump(const StGlobalOptions& stOptions, const std::vector<std::string>& ls
 {
     openRoot(stOptions);
     bool                  bAllKnown = true;
-    std::set<std::string> setKey = selectKeys(CXMLConfigDatabase::getInstance()->getLoadReport(), lstName, bAllKnown);
-    const char*           pszBefore = "{\n  ";
+    std::set<std::string> setKey    = selectKeys(lstName, bAllKnown);
+    if (!lstName.empty())
+        standalone::listOnlyTypes(setKey);
+    const char* pszBefore = "{\n  ";
     for (const StStoredKey& stStored : gather(setKey, lstName.empty()))
     {
         print(pszBefore + jsonLine(Json(stStored.strKey)) + ": " + jsonText(toJson(stStored.lstInfo), 2));

@@ -1,5 +1,6 @@
 // opxml query: asks one operation of the library by its name, or a whole file of
 // questions, and says why an answer is no.
+#include "standalone/TypeList.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Table.h"
@@ -80,6 +81,7 @@ int runQuestion(const StGlobalOptions& stGlobal, const StQueryOptions& stOptions
     if (pOperation == nullptr)
         throw CTrouble(printable(strError));
     openRoot(stGlobal);
+    standalone::listOnlyTypes(typesAsked(*pOperation, lstArgument));
     const StQueryAnswer stAnswer = pOperation->pfnAsk(lstArgument);
     if (stOptions.bJson)
         print(answerLine(*pOperation, stAnswer));

@@ -1,6 +1,7 @@
 // opxml show: what one device type, one version in service of it, or one device
 // supports, as a readable tree.
 #include "database/CXMLConfigDatabase.h"
+#include "standalone/TypeList.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/commands/Devices.h"
 #include "tools/opxml/output/DevTypes.h"
@@ -120,11 +121,11 @@ void explainMissing(const StLoadReport& stReport, const std::string& strKey)
 
 // Type and versions as they are written: TYPE:VERSION:SOFTWARE:PATCH. A type's own
 // name may hold colons, so the longest name that exists counts.
-void splitName(const StLoadReport& stReport, StShowOptions& stOptions, StWanted& stWanted)
+void splitName(const std::vector<StRegisteredType>& lstType, StShowOptions& stOptions, StWanted& stWanted)
 {
     const std::string strAll = stOptions.strName;
     std::size_t       nColon = std::string::npos;
-    while (findKeys(stReport, strAll.substr(0, nColon)).empty())
+    while (findKeys(lstType, strAll.substr(0, nColon)).empty())
     {
         nColon = nColon == 0 ? std::string::npos : strAll.rfind(':', nColon == std::string::npos ? nColon : nColon - 1);
         if (nColon == std::string::npos)
@@ -144,65 +145,70 @@ void splitName(const StLoadReport& stReport, StShowOptions& stOptions, StWanted&
     }
 }
 
-// The device of this id, name or address, with what serves it; false when there is
-// none.
-bool findDevice(const StLoadReport& stReport, const std::string& strName, StWanted& stWanted)
+// What serves the device of this id, name or address; false when there is none.
+bool findDevice(const std::string& strName, StWanted& stWanted)
 {
-    for (const StServedDevice& stDevice : gatherDevices(stReport))
+    const std::vector<StServedDevice> lstAll = gatherDevices();
+    const auto                        itNamed =
+        std::find_if(lstAll.begin(), lstAll.end(),
+                     [&strName](const StServedDevice& stDevice) { return isDeviceNamed(stDevice.stInfo, strName); });
+    if (itNamed == lstAll.end())
+        return false;
+    std::vector<StServedDevice> lstFound = {*itNamed};
+    loadConfigurations(lstFound);
+    const StServedDevice& stDevice = lstFound.front();
+    const StDeviceInfo&   stInfo   = stDevice.stInfo;
+    stWanted.strDevice =
+        fmt::format("device {} {}: {} {}{}", stInfo.ulDeviceID, stInfo.strDeviceName, stDevice.strDevType,
+                    stDevice.strDevTypeVer, stDevice.bTelnet ? ", managed over telnet" : "");
+    if (!stDevice.strProblem.empty())
+        remark(fmt::format("device {}: {}", stInfo.ulDeviceID, stDevice.strProblem));
+    else
+        stWanted.setKey.insert(stDevice.strKey);
+    if (stDevice.bByVersion)
     {
-        const StDeviceInfo& stInfo = stDevice.stInfo;
-        if (strName != std::to_string(stInfo.ulDeviceID) && strName != stInfo.strDeviceName &&
-            strName != stInfo.strIPAddress)
-            continue;
-        stWanted.strDevice =
-            fmt::format("device {} {}: {} {}{}", stInfo.ulDeviceID, stInfo.strDeviceName, stDevice.strDevType,
-                        stDevice.strDevTypeVer, stDevice.bTelnet ? ", managed over telnet" : "");
-        if (!stDevice.strProblem.empty())
-            remark(fmt::format("device {}: {}", stInfo.ulDeviceID, stDevice.strProblem));
-        else
-            stWanted.setKey.insert(stDevice.strKey);
-        if (stDevice.bByVersion)
-        {
-            stWanted.strSoftVersion  = stDevice.stVersion.strSoftVersion;
-            stWanted.strPatchVersion = stDevice.stVersion.strPatchVersion;
-            stWanted.bExactPatch     = true;
-        }
-        return true;
+        stWanted.strSoftVersion  = stDevice.stVersion.strSoftVersion;
+        stWanted.strPatchVersion = stDevice.stVersion.strPatchVersion;
+        stWanted.bExactPatch     = true;
     }
-    return false;
+    return true;
 }
 
-// What is asked for; no key, with a remark, when there is no such thing.
-StWanted resolve(const StLoadReport& stReport, StShowOptions stOptions)
+// What is asked for, and loads it; no key, with a remark, when there is no such thing.
+StWanted resolve(StShowOptions stOptions)
 {
-    StWanted stWanted;
+    const std::vector<StRegisteredType> lstType = registeredTypes();
+    StWanted                            stWanted;
     if (stOptions.strVersion.empty())
-        splitName(stReport, stOptions, stWanted);
-    stWanted.setKey = findKeys(stReport, stOptions.strName, stOptions.strVersion);
+        splitName(lstType, stOptions, stWanted);
+    stWanted.setKey = findKeys(lstType, stOptions.strName, stOptions.strVersion);
     if (!stWanted.setKey.empty())
-        return stWanted;
-    std::string strVersions;
-    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
     {
-        if (stLoad.strDevType == stOptions.strName)
-            strVersions += " \"" + stLoad.strDevTypeVer + "\"";
+        standalone::listOnlyTypes(stWanted.setKey);
+        return stWanted;
+    }
+    std::string strVersions;
+    for (const StRegisteredType& stType : lstType)
+    {
+        if (stType.strDevType == stOptions.strName)
+            strVersions += " \"" + stType.strDevTypeVer + "\"";
     }
     if (!strVersions.empty())
         remark(fmt::format("device type \"{}\" has no version \"{}\"; it has{}", stOptions.strName,
                            stOptions.strVersion, strVersions));
-    else if (!stOptions.strVersion.empty() || !findDevice(stReport, stOptions.strName, stWanted))
-        remark(unknownTypeText(stReport, stOptions.strName));
+    else if (!stOptions.strVersion.empty() || !findDevice(stOptions.strName, stWanted))
+        remark(unknownTypeText(lstType, stOptions.strName));
     return stWanted;
 }
 
 int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
 {
     openRoot(stGlobal);
-    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
-    const StWanted     stWanted = resolve(stReport, stOptions);
+    const StWanted stWanted = resolve(stOptions);
     if (stWanted.setKey.empty())
         return EXIT_NO;
-    StShown stShown;
+    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
+    StShown            stShown;
     gather(stReport, stWanted, stOptions.bJson, stShown);
     if (!stWanted.strDevice.empty() && !stOptions.bJson)
         printLine(stWanted.strDevice);

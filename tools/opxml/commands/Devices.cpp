@@ -5,13 +5,16 @@
 #include "records/ResultCodes.h"
 #include "records/Vocabulary.h"
 #include "standalone/DeviceList.h"
+#include "standalone/TypeList.h"
 #include "tools/opxml/output/DevTypes.h"
+#include "tools/opxml/output/Progress.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <list>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace
@@ -70,9 +73,14 @@ void findConfiguration(StServedDevice& stDevice, const KeyStates& mapState)
 }
 } // namespace
 
-std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport)
+bool isDeviceNamed(const StDeviceInfo& stDevice, const std::string& strName)
 {
-    const KeyStates             mapState = gatherKeys(stReport);
+    return strName == std::to_string(stDevice.ulDeviceID) || strName == stDevice.strDeviceName ||
+           strName == stDevice.strIPAddress;
+}
+
+std::vector<StServedDevice> gatherDevices()
+{
     std::vector<StServedDevice> lstDevice;
     for (const standalone::StListedDevice& stListed : standalone::listDevices())
     {
@@ -80,14 +88,27 @@ std::vector<StServedDevice> gatherDevices(const StLoadReport& stReport)
         stDevice.stInfo          = stListed.stInfo;
         stDevice.stVersion       = stListed.stVersion;
         if (CDCDeviceInfoDB::getDevTypeAndVersionName(stListed.stInfo.ulDeviceID, stDevice.strDevType,
-                                                      stDevice.strDevTypeVer) != DC_RESULT_OK)
-        {
+                                                      stDevice.strDevTypeVer) == DC_RESULT_OK)
+            stDevice.bTelnet = CXMLConfigDatabase::bTelnetToDev(stListed.stInfo);
+        else
             stDevice.strProblem = fmt::format("type {}, version {}, is not installed", stListed.stInfo.ulDeviceTypeID,
                                               stListed.stInfo.ulDeviceTypeVersionID);
-            continue;
-        }
-        stDevice.bTelnet = CXMLConfigDatabase::bTelnetToDev(stListed.stInfo);
-        findConfiguration(stDevice, mapState);
     }
     return lstDevice;
+}
+
+void loadConfigurations(std::vector<StServedDevice>& lstDevice)
+{
+    std::set<std::string> setType;
+    for (const StServedDevice& stDevice : lstDevice)
+        setType.insert(stDevice.strDevType);
+    standalone::listOnlyTypes(setType);
+    const CProgress    oProgress;
+    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
+    const KeyStates    mapState = gatherKeys(stReport);
+    for (StServedDevice& stDevice : lstDevice)
+    {
+        if (stDevice.strProblem.empty())
+            findConfiguration(stDevice, mapState);
+    }
 }

@@ -3,34 +3,43 @@
 
 #include "database/CXMLConfigDatabase.h"
 #include "platform/Paths.h"
+#include "standalone/TypeList.h"
 #include "tools/opxml/output/Names.h"
 
-std::set<std::string> findKeys(const StLoadReport& stReport, const std::string& strName, const std::string& strVersion)
+#include <algorithm>
+
+std::vector<StRegisteredType> registeredTypes()
+{
+    std::vector<StRegisteredType> lstType;
+    for (const StDeviceType& stType : standalone::listTypes())
+        lstType.push_back({stType.strDevType, stType.strDevTypeVer,
+                           CXMLConfigDatabase::trans2TelnetDevType(stType.strDevType, stType.strDevTypeVer)});
+    // A load takes them by name, entries of one name as they are registered.
+    std::stable_sort(lstType.begin(), lstType.end(),
+                     [](const StRegisteredType& stLeft, const StRegisteredType& stRight)
+                     { return stLeft.strDevType < stRight.strDevType; });
+    return lstType;
+}
+
+std::set<std::string> findKeys(const std::vector<StRegisteredType>& lstType, const std::string& strName,
+                               const std::string& strVersion)
 {
     std::set<std::string> setKey;
-    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    for (const StRegisteredType& stType : lstType)
     {
-        const bool bNamed = stLoad.strDevType == strName || stLoad.strKey == strName;
-        if (bNamed && (strVersion.empty() || stLoad.strDevTypeVer == strVersion))
-            setKey.insert(stLoad.strKey);
+        const bool bNamed = stType.strDevType == strName || stType.strKey == strName;
+        if (bNamed && (strVersion.empty() || stType.strDevTypeVer == strVersion))
+            setKey.insert(stType.strKey);
     }
     return setKey;
 }
 
-std::vector<std::string> knownNames(const StLoadReport& stReport)
+std::string unknownTypeText(const std::vector<StRegisteredType>& lstType, const std::string& strName)
 {
     std::vector<std::string> lstName;
-    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
-    {
-        lstName.push_back(stLoad.strDevType);
-        lstName.push_back(stLoad.strKey);
-    }
-    return lstName;
-}
-
-std::string unknownTypeText(const StLoadReport& stReport, const std::string& strName)
-{
-    return "no device type \"" + strName + "\"" + nearestNames(strName, knownNames(stReport));
+    for (const StRegisteredType& stType : lstType)
+        lstName.insert(lstName.end(), {stType.strDevType, stType.strKey});
+    return "no device type \"" + strName + "\"" + nearestNames(strName, lstName);
 }
 
 std::string sourceText(EnConfigSource enSource)

@@ -9,16 +9,24 @@
 #include <string>
 #include <vector>
 
+// One entry of the registry.
+struct StRegisteredType
+{
+    std::string strDevType;
+    std::string strDevTypeVer;
+    std::string strKey; // storage key
+};
+
+// All of them, in the order of a full load. Nothing is loaded for it.
+std::vector<StRegisteredType> registeredTypes();
+
 // Every storage key that a name stands for: the key of this name, and those of
 // the registry entries of this type (with a version: of that entry alone).
-std::set<std::string> findKeys(const StLoadReport& stReport, const std::string& strName,
+std::set<std::string> findKeys(const std::vector<StRegisteredType>& lstType, const std::string& strName,
                                const std::string& strVersion = "");
 
-// All type names and keys, for suggestions.
-std::vector<std::string> knownNames(const StLoadReport& stReport);
-
 // "no device type "X"; did you mean "Y"?"
-std::string unknownTypeText(const StLoadReport& stReport, const std::string& strName);
+std::string unknownTypeText(const std::vector<StRegisteredType>& lstType, const std::string& strName);
 
 // Where a configuration came from, in words: "own file", "capacity", ...
 std::string sourceText(EnConfigSource enSource);

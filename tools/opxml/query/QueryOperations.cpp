@@ -219,6 +219,28 @@ const std::vector<StQueryOperation>& queryOperations()
     return OPERATIONS;
 }
 
+std::set<std::string> typesAsked(const StQueryOperation& stOperation, const QueryArguments& lstArgument)
+{
+    std::set<std::string> setType;
+    for (std::size_t nAt = 0; nAt < lstArgument.size(); ++nAt)
+    {
+        const std::string_view strParameter = stOperation.lstParameter[nAt].pszName;
+        std::string            strDevType;
+        std::string            strDevTypeVer; // of no use here
+        if (strParameter == TYPE.pszName)
+            strDevType = lstArgument[nAt].strText;
+        else if (strParameter == DEVICE_ID.pszName)
+            CDCDeviceInfoDB::getDevTypeAndVersionName(lstArgument[nAt].asId(), strDevType, strDevTypeVer);
+        else if (strParameter == TYPE_ID.pszName) // its version comes next
+            CDeviceAdapterInterface::getInstance()->searchTypeName(lstArgument[nAt].asId(), lstArgument[nAt + 1].asId(),
+                                                                   strDevType, strDevTypeVer);
+        else
+            continue;
+        setType.insert(strDevType);
+    }
+    return setType;
+}
+
 std::string parameterNames(const StQueryOperation& stOperation)
 {
     std::string strNames;

@@ -12,6 +12,7 @@
 #include "tools/opxml/query/QueryReasons.h"
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,9 @@ const std::vector<StQueryOperation>& queryOperations();
 
 // "TYPE VERSION OPERATION".
 std::string parameterNames(const StQueryOperation& stOperation);
+
+// The device types that a question is about: no others need be loaded for it.
+std::set<std::string> typesAsked(const StQueryOperation& stOperation, const QueryArguments& lstArgument);
 
 // The row for a name and its arguments, which it converts. Null with what is
 // wrong in strError.

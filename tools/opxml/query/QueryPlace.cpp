@@ -20,7 +20,7 @@ std::string missingText(const std::string& strDevType, const std::string& strKey
         else if (stLoad.strDevType == strDevType && strText.empty())
             strText = fmt::format("device type \"{}\" has no configuration \"{}\"", strDevType, strKey);
     }
-    return strText.empty() ? unknownTypeText(stReport, strDevType) : strText;
+    return strText.empty() ? unknownTypeText(registeredTypes(), strDevType) : strText;
 }
 } // namespace
 
