@@ -1,29 +1,14 @@
 // See ServerCatalogs.h.
 #include "tools/opxml/catalog/ServerCatalogs.h"
 
-#include "database/CXMLConfigDatabase.h"
-#include "platform/DeviceAdapter.h"
 #include "tools/opxml/catalog/EntryText.h"
 #include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Progress.h"
 
-#include <list>
-
-std::vector<StTypeName> registeredTypes()
+std::vector<StRegisteredType> typesNamed(const std::vector<StRegisteredType>& lstType, const std::string& strName)
 {
-    std::list<StDeviceType> lstDeviceType;
-    CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstDeviceType); // an open root answers it
-    std::vector<StTypeName> lstType;
-    for (const StDeviceType& stType : lstDeviceType)
-        lstType.push_back({stType.strDevType, stType.strDevTypeVer,
-                           CXMLConfigDatabase::trans2TelnetDevType(stType.strDevType, stType.strDevTypeVer)});
-    return lstType;
-}
-
-std::vector<StTypeName> typesNamed(const std::vector<StTypeName>& lstType, const std::string& strName)
-{
-    std::vector<StTypeName> lstNamed;
-    for (const StTypeName& stType : lstType)
+    std::vector<StRegisteredType> lstNamed;
+    for (const StRegisteredType& stType : lstType)
     {
         for (const std::string& strBegin : {stType.strDevType, stType.strKey})
         {
@@ -36,10 +21,10 @@ std::vector<StTypeName> typesNamed(const std::vector<StTypeName>& lstType, const
     return lstNamed;
 }
 
-std::vector<std::string> namesOf(const std::vector<StTypeName>& lstType)
+std::vector<std::string> namesOf(const std::vector<StRegisteredType>& lstType)
 {
     std::vector<std::string> lstName;
-    for (const StTypeName& stType : lstType)
+    for (const StRegisteredType& stType : lstType)
     {
         lstName.push_back(stType.strDevType);
         if (stType.strKey != stType.strDevType)
@@ -48,11 +33,11 @@ std::vector<std::string> namesOf(const std::vector<StTypeName>& lstType)
     return lstName;
 }
 
-void readCatalogs(catalog::CCatalogMaker& oMaker, const std::vector<StTypeName>& lstType,
+void readCatalogs(catalog::CCatalogMaker& oMaker, const std::vector<StRegisteredType>& lstType,
                   const std::function<void(const catalog::StTypeCatalog&)>& fnType)
 {
     const CProgress oProgress(lstType.size());
-    for (const StTypeName& stType : lstType)
+    for (const StRegisteredType& stType : lstType)
         fnType(oMaker.make(stType.strDevType, stType.strDevTypeVer));
 }
 
