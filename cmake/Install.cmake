@@ -23,7 +23,7 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "ContentQuestions.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
-install(FILES common/XmlParser.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
+install(FILES common/XmlParser.h common/ParserMemory.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)
 
 install(TARGETS operationXmlLint EXPORT operationXmlTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES lint/Lint.h DESTINATION ${HEADER_FOLDER}/lint)

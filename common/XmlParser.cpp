@@ -76,22 +76,6 @@ std::size_t declarationBytes(std::string_view strXml)
 }
 } // namespace
 
-void* CCountedMemory::allocate(XMLSize_t nSize)
-{
-    ++m_nAllocations;
-    return XMLPlatformUtils::fgMemoryManager->allocate(nSize);
-}
-
-void CCountedMemory::deallocate(void* pBlock)
-{
-    XMLPlatformUtils::fgMemoryManager->deallocate(pBlock);
-}
-
-MemoryManager* CCountedMemory::getExceptionMemoryManager()
-{
-    return XMLPlatformUtils::fgMemoryManager;
-}
-
 // Hands a text to the parser block by block, from some place on byte by byte.
 class CXmlStream : public BinMemInputStream
 {

@@ -11,12 +11,12 @@
 #ifndef OPERATIONXML_COMMON_XMLPARSER_H
 #define OPERATIONXML_COMMON_XMLPARSER_H
 
+#include "common/ParserMemory.h"
 #include "common/ReadProblem.h"
 #include "common/XmlNesting.h"
 #include "platform/Export.h"
 
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
 #include <cstddef>
@@ -28,23 +28,7 @@
 
 using ElementList = std::vector<const xercesc::DOMElement*>;
 
-// Counts what a parser asks memory for. A base, since the parser that allocates
-// through it must die first.
-class OPERATIONXML_API CCountedMemory : private xercesc::MemoryManager
-{
-protected:
-    xercesc::MemoryManager* memory() { return this; }
-    std::size_t             allocations() const { return m_nAllocations; }
-
-private:
-    void*                   allocate(XMLSize_t nSize) override;
-    void                    deallocate(void* pBlock) override;
-    xercesc::MemoryManager* getExceptionMemoryManager() override;
-
-    std::size_t m_nAllocations = 0;
-};
-
-class OPERATIONXML_API CXmlParser : private CCountedMemory, public xercesc::XercesDOMParser
+class OPERATIONXML_API CXmlParser : private CParserMemory, public xercesc::XercesDOMParser
 {
 public:
     // A new parser, or null when Xerces cannot be initialised. Initialises
@@ -62,6 +46,9 @@ public:
 
     // Frees the document, as if nothing had been parsed.
     void releaseDocument();
+
+    // For a parser that is used for file after file.
+    using CParserMemory::keepBlocks;
 
     // Why there is no document, and where in which file; not set after a good parse.
     const StReadProblem& problem() const { return m_stProblem; }

@@ -44,6 +44,7 @@
 #include <thread>
 #include <vector>
 
+class CDocumentSource;
 struct LocationInfo;
 
 class OPERATIONXML_API CXMLConfigDatabase
@@ -233,8 +234,8 @@ private:
     const std::list<StAsnDevTypeVerXMLInfo*>* findStored(const std::string& strDevType,
                                                          const std::string& strDevTypeVer) const;
     std::uint32_t                             readDevType(const LocationInfo& stWhere, const std::string& strDevType,
-                                                          const std::string& strDevTypeVer, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo,
-                                                          StConfigOrigin& stOrigin);
+                                                          const std::string& strDevTypeVer, CDocumentSource& oSource,
+                                                          std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StConfigOrigin& stOrigin);
     std::uint32_t readContentName(const std::string& strDevType, const std::string& strDevTypeVer,
                                   std::string_view strOperId, int nValue, std::string& strName);
     std::uint32_t readDeviceContentName(const LocationInfo& stWhere, unsigned long ulDeviceID,

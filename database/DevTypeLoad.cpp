@@ -5,6 +5,7 @@
 #include "common/LogLine.h"
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLResReader.h"
+#include "reader/LoadDocuments.h"
 #include "records/Vocabulary.h"
 
 #include <ace/Guard_T.h>
@@ -56,12 +57,13 @@ try
     ulResult = getExistDeviceTypes(mapDeviceType);
     if (ulResult != DC_RESULT_OK)
         return logFail(DC_HERE, ulResult, "getSuppportedDeviceTypes() failed :");
+    CLoadDocuments oDocuments;
     for (const auto& [strDevType, stDeviceType] : mapDeviceType)
     {
         const std::string&                 strDevTypeVer = stDeviceType.strDevTypeVer;
         std::list<StAsnDevTypeVerXMLInfo*> lstInfo; // the records are the store's
         StDevTypeLoad stLoad = {strDevType, strDevTypeVer, trans2TelnetDevType(strDevType, strDevTypeVer), {}, 0};
-        stLoad.ulResult      = readDevType(DC_HERE, strDevType, strDevTypeVer, lstInfo, stLoad.stOrigin);
+        stLoad.ulResult      = readDevType(DC_HERE, strDevType, strDevTypeVer, oDocuments, lstInfo, stLoad.stOrigin);
         if (stLoad.ulResult != DC_RESULT_OK)
             logFail(DC_HERE, stLoad.ulResult, "readAndStoreDevTypeXMLConfig() fail." + strDevType + strDevTypeVer);
         m_stLoadReport.lstDevType.push_back(std::move(stLoad));
@@ -80,7 +82,7 @@ try
 {
     const CEntry   oEntry;
     StConfigOrigin stIgnored;
-    return readDevType(DC_HERE, strDevType, strDevTypeVer, lstInfo, stIgnored);
+    return readDevType(DC_HERE, strDevType, strDevTypeVer, CDocumentSource::plain(), lstInfo, stIgnored);
 }
 catch (...)
 {
@@ -90,7 +92,7 @@ catch (...)
 // Whatever is thrown over one type, it fails and the others go on. The store owns the
 // records as soon as it has them.
 std::uint32_t CXMLConfigDatabase::readDevType(const LocationInfo& stWhere, const std::string& strDevType,
-                                              const std::string&                  strDevTypeVer,
+                                              const std::string& strDevTypeVer, CDocumentSource& oSource,
                                               std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StConfigOrigin& stOrigin)
 {
     std::uint32_t ulResult = DC_RESULT_XML_ERROR;
@@ -103,6 +105,7 @@ std::uint32_t CXMLConfigDatabase::readDevType(const LocationInfo& stWhere, const
         // the suffix a second time: the key follows the version alone.
         const std::string    strKey = trans2TelnetDevType(strDevType, strDevTypeVer);
         CDevTypeXMLResReader oReader(strKey, strDevTypeVer, bCapacity);
+        oReader.readFrom(oSource);
         oReader.initializeCheck(); // most types have no check file of their own
         ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
         stOrigin = oReader.origin();

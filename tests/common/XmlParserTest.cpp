@@ -1,6 +1,7 @@
 // What becomes of a file: a whole document, or none and the reason.
 #include "TestSupport.h"
 #include "common/XmlLimits.h"
+#include "common/XmlRead.h"
 #include "records/ResultCodes.h"
 #include "sections/CDevOpXMLConfig.h"
 #include "sections/ForeignXml.h"
@@ -224,6 +225,24 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
     }
     pParser->parseText(fnExpansions(MAX_ENTITY_EXPANSION + 1));
     EXPECT_EQ(nullptr, pParser->getDocument());
+}
+
+// Blocks of one document become the next one's, whichever of them is the larger.
+TEST(XmlParserTest, KeptBlocksServeDocumentsOfAnySize)
+{
+    const auto pParser = CXmlParser::create();
+    pParser->keepBlocks();
+    for (const std::size_t nElements : {1u, 5000u, 40000u, 3u, 5000u, 5001u, 60000u, 5000u})
+    {
+        std::string strXml = "<a>";
+        for (std::size_t nElement = 0; nElement < nElements; ++nElement)
+            strXml += fmt::format("<b c='{}'>{}</b>", nElement, std::string(nElement % 3 == 0 ? 300 : 3, 'x'));
+        pParser->parseText(strXml + "</a>");
+        const ElementList& lstElement = pParser->elements(u"b");
+        ASSERT_EQ(nElements, lstElement.size());
+        EXPECT_EQ(fmt::format("{}", nElements - 1), attrText(CAttributes(*lstElement.back()), u"c"));
+        pParser->releaseDocument();
+    }
 }
 
 // Whoever holds the parser as its base may parse and free by the base's operations.
