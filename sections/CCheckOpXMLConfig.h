@@ -4,6 +4,8 @@
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's lists in document order and never removes what is already there.
 // Every failure answers DC_RESULT_XML_ERROR and is logged once, where it arises.
+// Called by the section chain (reader/SectionTable.h), and for check files by the
+// device-type reader.
 #ifndef OPERATIONXML_SECTIONS_CCHECKOPXMLCONFIG_H
 #define OPERATIONXML_SECTIONS_CCHECKOPXMLCONFIG_H
 

@@ -2,6 +2,7 @@
 // configuration file into StAsnCustomOperationDef records.
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's list in document order and never removes what is already there.
+// Called by the section chain (reader/SectionTable.h), in its order.
 #ifndef OPERATIONXML_SECTIONS_CCUSTOMOPXMLCONFIG_H
 #define OPERATIONXML_SECTIONS_CCUSTOMOPXMLCONFIG_H
 

@@ -3,6 +3,7 @@
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's list in document order and never removes what is already there.
 // Every failure answers DC_RESULT_XML_ERROR and is logged once, where it arises.
+// Called by the section chain (reader/SectionTable.h), in its order.
 #ifndef OPERATIONXML_SECTIONS_CDEVVIEWPOPUPMENUCONFIG_H
 #define OPERATIONXML_SECTIONS_CDEVVIEWPOPUPMENUCONFIG_H
 

@@ -3,6 +3,7 @@
 // the device view's, on purpose: one element configures both views.
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's list in document order. Failures are logged, DC_RESULT_XML_ERROR.
+// Called by the section chain (reader/SectionTable.h), in its order.
 #ifndef OPERATIONXML_SECTIONS_CISOLATIONVIEWPOPUPMENUCONFIG_H
 #define OPERATIONXML_SECTIONS_CISOLATIONVIEWPOPUPMENUCONFIG_H
 

@@ -3,6 +3,7 @@
 // StAsnOtherOperationDef records.
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's list in document order and never removes what is already there.
+// Called by the section chain (reader/SectionTable.h), in its order.
 #ifndef OPERATIONXML_SECTIONS_COTHEROPXMLCONFIG_H
 #define OPERATIONXML_SECTIONS_COTHEROPXMLCONFIG_H
 

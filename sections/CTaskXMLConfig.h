@@ -5,6 +5,7 @@
 // and features.
 // Stateless; safe on any thread that owns the parser handed in. Appends to the
 // caller's lists in document order. Failures are logged, DC_RESULT_XML_ERROR.
+// Called by the section chain (reader/SectionTable.h), and by the device parser (TaskRead.h).
 #ifndef OPERATIONXML_SECTIONS_CTASKXMLCONFIG_H
 #define OPERATIONXML_SECTIONS_CTASKXMLCONFIG_H
 
