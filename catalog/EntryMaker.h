@@ -63,6 +63,7 @@ void addEntries(const CReadRecorder& oRecorder, const std::list<Record>& lstReco
                 std::ptrdiff_t nList, std::vector<StEntry>& lstEntry)
 {
     const std::size_t nFirst = lstEntry.size();
+    lstEntry.reserve(nFirst + lstRecord.size());
     for (const Record& stRecord : lstRecord)
         lstEntry.push_back(makeEntry(oRecorder, stRecord));
     for (const StLost& stLost : lstLost)
@@ -90,6 +91,7 @@ StEntry makeEntry(const CReadRecorder& oRecorder, const Record& stRecord)
     stEntry.enOrigin  = stSeen.enOrigin;
     if (stSeen.enOrigin == EnOrigin::Module)
         stEntry.strModule = oRecorder.module(stSeen.stPlace.ulFile).strName;
+    stEntry.lstField.reserve(stSeen.lstAttribute.size() + 1);
     visitFields(stRecord,
                 [&](const char* pszName, auto stKind, const auto& value)
                 {

@@ -62,8 +62,8 @@ std::string decoded(const std::string& strBytes, const char* pszEncoding)
 
 const StElementPlace& CDocumentPlaces::element(const DOMElement& oElement) const
 {
-    static const StElementPlace s_stUnknown = {{}, {}, false};
-    const auto                  itElement   = m_mapElement.find(&oElement);
+    static const StElementPlace s_stUnknown;
+    const auto                  itElement = m_mapElement.find(&oElement);
     return itElement == m_mapElement.end() ? s_stUnknown : m_lstElement[itElement->second];
 }
 
@@ -81,6 +81,7 @@ std::vector<StAttributePlace> CDocumentPlaces::attributes(const StElementPlace& 
 {
     std::vector<StAttributePlace> lstAttribute;
     const std::string_view        strText = m_pText->bytes();
+    lstAttribute.reserve(8); // nearly all have less
     std::size_t nAt = std::min(strText.find_first_of(" \t\r\n/>", stElement.stTag.nBegin), stElement.stTag.nEnd);
     while (stElement.bWritten)
     {
@@ -99,9 +100,8 @@ std::vector<StAttributePlace> CDocumentPlaces::attributes(const StElementPlace& 
     return lstAttribute;
 }
 
-StSpot CDocumentPlaces::valueSpot(const DOMElement& oElement, const char16_t* pszName) const
+StSpot CDocumentPlaces::valueSpot(const DOMElement& oElement, std::string_view strName) const
 {
-    const std::string strName = toLocal(pszName);
     for (const StAttributePlace& stAttribute : attributes(element(oElement)))
     {
         if (stAttribute.strName == strName)
@@ -110,9 +110,8 @@ StSpot CDocumentPlaces::valueSpot(const DOMElement& oElement, const char16_t* ps
     return nameSpot(oElement);
 }
 
-StSpot CDocumentPlaces::attributeSpot(const DOMElement& oElement, const char16_t* pszName) const
+StSpot CDocumentPlaces::attributeSpot(const DOMElement& oElement, std::string_view strName) const
 {
-    const std::string strName = toLocal(pszName);
     for (const StAttributePlace& stAttribute : attributes(element(oElement)))
     {
         if (stAttribute.strName == strName)
@@ -192,7 +191,8 @@ void CPlacedParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri,
 {
     if (m_pPlaces == nullptr)
         return CXmlParser::startElement(oDecl, nUri, pszPrefix, lstAttr, nAttrs, bIsEmpty, bIsRoot);
-    StElementPlace stPlace = {{}, {}, !isInEntity()};
+    StElementPlace stPlace;
+    stPlace.bWritten = !isInEntity();
     if (stPlace.bWritten)
         stPlace.stTag = tagBefore(static_cast<std::size_t>(getScanner()->getSrcOffset()));
     else if (!m_lstOpen.empty())
@@ -213,6 +213,7 @@ void CPlacedParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, b
     StElementPlace& stPlace = m_pPlaces->m_lstElement[m_lstOpen.back()];
     if (stPlace.bWritten)
         stPlace.stWhole.nEnd = static_cast<std::size_t>(getScanner()->getSrcOffset());
+    stPlace.nEnd = m_pPlaces->m_lstElement.size();
     m_lstOpen.pop_back();
     m_lstPending.clear(); // a comment at the end of an element stands before none
     CXmlParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
@@ -234,15 +235,21 @@ void CPlacedParser::indexElements()
     nameProblem(m_pPlaces->file());
     if (problem().isSet())
         return;
-    const DOMElement* pRoot    = getDocument()->getDocumentElement();
-    std::size_t       nElement = 0;
-    m_pPlaces->m_mapElement.reserve(m_pPlaces->m_lstElement.size());
-    m_pPlaces->m_mapElement.emplace(pRoot, nElement++);
+    const DOMElement*            pRoot      = getDocument()->getDocumentElement();
+    std::vector<StElementPlace>& lstElement = m_pPlaces->m_lstElement;
+    std::size_t                  nElement   = 0;
+    const auto                   fnNumber   = [&](const DOMElement* pElement)
+    {
+        lstElement[nElement].pElement = pElement;
+        m_pPlaces->m_mapElement.emplace(pElement, nElement++);
+    };
+    m_pPlaces->m_mapElement.reserve(lstElement.size());
+    fnNumber(pRoot);
     CSubtreeWalk oWalk(pRoot);
     while (const DOMNode* pNode = oWalk.next())
     {
         if (pNode->getNodeType() == DOMNode::ELEMENT_NODE)
-            m_pPlaces->m_mapElement.emplace(static_cast<const DOMElement*>(pNode), nElement++);
+            fnNumber(static_cast<const DOMElement*>(pNode));
     }
 }
 } // namespace catalog

@@ -33,9 +33,11 @@ struct StAttributePlace
 
 struct StElementPlace
 {
-    StRange stTag;    // of the start tag, "<" to ">"; of the parent's where an entity brought the element
-    StRange stWhole;  // to the end of the end tag
-    bool    bWritten; // not brought by an entity
+    StRange     stTag;   // of the start tag, "<" to ">"; of the parent's where an entity brought the element
+    StRange     stWhole; // to the end of the end tag
+    bool        bWritten                = false;   // not brought by an entity
+    std::size_t nEnd                    = 0;       // number of the element behind all that stand in this one
+    const xercesc::DOMElement* pElement = nullptr; // once the document is there
 };
 
 struct StCommentPlace
@@ -69,8 +71,8 @@ public:
     std::vector<StAttributePlace> attributes(const StElementPlace& stElement) const;
 
     // The value of an attribute, or the element's name when it has none of the name.
-    StSpot valueSpot(const xercesc::DOMElement& oElement, const char16_t* pszName) const;
-    StSpot attributeSpot(const xercesc::DOMElement& oElement, const char16_t* pszName) const;
+    StSpot valueSpot(const xercesc::DOMElement& oElement, std::string_view strName) const;
+    StSpot attributeSpot(const xercesc::DOMElement& oElement, std::string_view strName) const;
 
     StSpot spot(const StRange& stRange) const { return m_pText->spot(stRange.nBegin, stRange.nEnd - stRange.nBegin); }
 

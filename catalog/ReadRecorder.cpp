@@ -180,9 +180,9 @@ void CReadRecorder::attributeRead(const StAttributeRead& stRead)
     }
     // What is read of no record: the task type that checks belong to, the name of a module.
     const StDocument& stDocument = documentOf(stRead.oElement);
-    const StPlace     stPlace =
-        place(stRead.pAttr == nullptr ? StSpot{} : stDocument.pPlaces->valueSpot(stRead.oElement, stRead.pszName),
-              stDocument.ulFile);
+    const StPlace     stPlace    = place(
+               stRead.pAttr == nullptr ? StSpot{} : stDocument.pPlaces->valueSpot(stRead.oElement, toLocal(stRead.pszName)),
+        stDocument.ulFile);
     if (stRead.enReadAs == EnReadAs::Word)
         m_stTaskType = {TASK_TYPE, EnReadAs::Word, stPlace};
     else if (m_pModule != nullptr && m_nRow == NO_ROW && stRead.pAttr != nullptr)
@@ -231,8 +231,8 @@ StSeen CReadRecorder::seen(const DOMElement& oElement, const StOpen& stOpen) con
             std::find_if(lstWritten.begin(), lstWritten.end(),
                          [&](const StAttributePlace& stWritten) { return isSame(stRead.strName, stWritten.strName); });
         if (stRead.pElement != &oElement)
-            stAttribute.stPlace =
-                place(stDocument.pPlaces->valueSpot(*stRead.pElement, stRead.strName.data()), stDocument.ulFile);
+            stAttribute.stPlace = place(stDocument.pPlaces->valueSpot(*stRead.pElement, toLocal(stRead.strName.data())),
+                                        stDocument.ulFile);
         else if (itWritten != lstWritten.end())
             stAttribute.stPlace = place(stDocument.pPlaces->spot(itWritten->stValue), stDocument.ulFile);
         else
@@ -290,7 +290,7 @@ void CReadRecorder::capacityRead(const XercesDOMParser& oDOMParser, const DOMEle
         stCapacity.ulFile            = stDocument.ulFile;
         StCapacityEntry& stEntry     = stCapacity.lstEntry.emplace_back();
         stEntry.strSysOid            = toLocal(pElement->getAttribute(u"sysoid"));
-        stEntry.stPlace              = place(stDocument.pPlaces->valueSpot(*pElement, u"sysoid"), stDocument.ulFile);
+        stEntry.stPlace              = place(stDocument.pPlaces->valueSpot(*pElement, "sysoid"), stDocument.ulFile);
         stEntry.bIsRead              = pElement == pEntry;
         if (!stEntry.bIsRead)
             continue;

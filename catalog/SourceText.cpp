@@ -44,18 +44,33 @@ std::string_view CSourceText::line(std::uint32_t ulLine) const
 
 StSpot CSourceText::spot(std::size_t nOffset, std::size_t nBytes) const
 {
-    nOffset              = std::min(nOffset, m_strBytes.size());
-    const auto  itAfter  = std::upper_bound(m_lstLine.begin(), m_lstLine.end(), nOffset);
-    const auto  nLine    = static_cast<std::size_t>(itAfter - m_lstLine.begin());
-    std::size_t nEnd     = std::min(nOffset + nBytes, m_strBytes.size());
-    const auto  nLineEnd = itAfter == m_lstLine.end() ? m_strBytes.size() : *itAfter - 1;
-    nEnd                 = std::max(nOffset, std::min(nEnd, nLineEnd));
+    nOffset = std::min(nOffset, m_strBytes.size());
+    goTo(nOffset);
+    const bool        bLast    = m_stLast.nLine + 1 == m_lstLine.size();
+    const std::size_t nLineEnd = bLast ? m_strBytes.size() : m_lstLine[m_stLast.nLine + 1] - 1;
+    const std::size_t nEnd     = std::max(nOffset, std::min(nOffset + nBytes, nLineEnd));
 
     StSpot stSpot;
-    stSpot.ulLine   = static_cast<std::uint32_t>(nLine);
-    stSpot.ulColumn = static_cast<std::uint32_t>(charactersBetween(m_lstLine[nLine - 1], nOffset) + 1);
+    stSpot.ulLine   = static_cast<std::uint32_t>(m_stLast.nLine + 1);
+    stSpot.ulColumn = static_cast<std::uint32_t>(m_stLast.nColumn + 1);
     stSpot.ulLength = static_cast<std::uint32_t>(charactersBetween(nOffset, nEnd));
     return stSpot;
+}
+
+// From the place that was asked for last when that is before it in its line, else
+// from where the line begins.
+void CSourceText::goTo(std::size_t nOffset) const
+{
+    const std::size_t nNext = m_stLast.nLine + 1;
+    if (nOffset < m_stLast.nOffset || (nNext < m_lstLine.size() && nOffset >= m_lstLine[nNext]))
+    {
+        const auto itAfter = std::upper_bound(m_lstLine.begin(), m_lstLine.end(), nOffset);
+        m_stLast.nLine     = static_cast<std::size_t>(itAfter - m_lstLine.begin()) - 1;
+        m_stLast.nOffset   = m_lstLine[m_stLast.nLine];
+        m_stLast.nColumn   = 0;
+    }
+    m_stLast.nColumn += charactersBetween(m_stLast.nOffset, nOffset);
+    m_stLast.nOffset = nOffset;
 }
 
 std::size_t CSourceText::charactersBetween(std::size_t nBegin, std::size_t nEnd) const

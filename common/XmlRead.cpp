@@ -85,6 +85,18 @@ ElementList documentElements(const XercesDOMParser& oDOMParser, const char16_t* 
     return lstElement;
 }
 
+std::u16string_view valueOf(const DOMAttr& oAttr)
+{
+    const DOMNode* pText = oAttr.getFirstChild();
+    if (pText == nullptr)
+        return {};
+    // Nearly all values are one text node, whose content is at hand; getValue()
+    // casts its way through the class hierarchy at every call.
+    if (pText->getNodeType() == DOMNode::TEXT_NODE && pText->getNextSibling() == nullptr)
+        return {pText->getNodeValue(), static_cast<const DOMText*>(pText)->getLength()};
+    return oAttr.getValue(); // entity references in it
+}
+
 CAttributes::CAttributes(const DOMElement& oElement)
     : m_oElement(oElement), m_nAttributes(oElement.getAttributes()->getLength())
 {
@@ -113,14 +125,7 @@ const DOMAttr* CAttributes::find(const char16_t* pszName) const
 std::u16string_view CAttributes::value(const char16_t* pszName) const
 {
     const DOMAttr* pAttr = find(pszName);
-    const DOMNode* pText = pAttr == nullptr ? nullptr : pAttr->getFirstChild();
-    if (pText == nullptr)
-        return {};
-    // Nearly all values are one text node, whose content is at hand; getValue()
-    // casts its way through the class hierarchy at every call.
-    if (pText->getNodeType() == DOMNode::TEXT_NODE && pText->getNextSibling() == nullptr)
-        return {pText->getNodeValue(), static_cast<const DOMText*>(pText)->getLength()};
-    return pAttr->getValue(); // entity references in it
+    return pAttr == nullptr ? std::u16string_view() : valueOf(*pAttr);
 }
 
 void CAttributes::tell(const char16_t* pszName, EnReadAs enReadAs, std::vector<std::string_view> lstWord) const

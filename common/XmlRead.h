@@ -32,6 +32,9 @@ const xercesc::DOMDocument* documentOf(const xercesc::XercesDOMParser* pDOMParse
 // The parser has a document.
 OPERATIONXML_API ElementList documentElements(const xercesc::XercesDOMParser& oDOMParser, const char16_t* pszName);
 
+// The value of an attribute, as the document keeps it.
+OPERATIONXML_API std::u16string_view valueOf(const xercesc::DOMAttr& oAttr);
+
 // The attributes of one element, at hand for several readings.
 class OPERATIONXML_API CAttributes
 {

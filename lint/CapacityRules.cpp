@@ -1,7 +1,7 @@
 // Capacity documents: whether an entry is chosen at all, and whether what it lists is
 // there to be kept or taken away.
 #include "lint/Nearness.h"
-#include "lint/ReadEntries.h"
+#include "lint/Phrases.h"
 #include "lint/SenseRules.h"
 #include "records/Vocabulary.h"
 

@@ -3,19 +3,20 @@
 // nobody.
 #include "common/XmlRead.h"
 #include "database/ContentQuestions.h"
+#include "lint/DocumentRules.h"
 #include "lint/Nearness.h"
-#include "lint/ReadEntries.h"
+#include "lint/Phrases.h"
 #include "reader/SectionTable.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
+#include <functional>
 #include <set>
 #include <string>
-#include <tuple>
+#include <string_view>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
-
-using namespace xercesc;
 
 namespace lint
 {
@@ -40,13 +41,13 @@ constexpr StAskedSection askedIn(std::list<Record> Owner::* /*pList*/)
     return {bParameters || bOthers, bParameters};
 }
 
-StAskedSection askedSection(const DOMElement& oSection)
+StAskedSection askedSection(std::string_view strSection)
 {
     StAskedSection stAsked;
     forEachSection(
         [&](const auto& stSection)
         {
-            if (XMLString::equals(stSection.pszElement, oSection.getTagName()))
+            if (toLocal(stSection.pszElement) == strSection)
                 stAsked = askedIn(stSection.pList);
         });
     return stAsked;
@@ -63,7 +64,7 @@ bool isSameList(std::list<Record> Owner::*pList, std::list<OtherRecord> OtherOwn
 
 // The parameter that some question looks for in every operation of the id, not in
 // the first one alone; empty when there is no such question.
-std::string_view askedEverywhere(const DOMElement& oSection, const std::string& strOperation)
+std::string_view askedEverywhere(std::string_view strSection, std::string_view strOperation)
 {
     std::string_view strParameter;
     const auto       fnVisit = [&](const auto& stQuestion)
@@ -72,7 +73,7 @@ std::string_view askedEverywhere(const DOMElement& oSection, const std::string& 
             [&](const auto& stSection)
             {
                 if (stQuestion.strOperation == strOperation && isSameList(stSection.pList, stQuestion.pList) &&
-                    XMLString::equals(stSection.pszElement, oSection.getTagName()))
+                    toLocal(stSection.pszElement) == strSection)
                     strParameter = stQuestion.strParameter;
             });
     };
@@ -82,33 +83,55 @@ std::string_view askedEverywhere(const DOMElement& oSection, const std::string& 
 
 constexpr std::size_t LISTED_STEPS = 12;
 
+// What makes two elements the same to whoever asks: what they are, where they stand,
+// and some texts.
+struct StSameness
+{
+    std::string_view                strWhat;
+    const StReadElement*            pBelow;
+    std::array<std::string_view, 4> arText;
+
+    bool operator==(const StSameness& stOther) const
+    {
+        return strWhat == stOther.strWhat && pBelow == stOther.pBelow && arText == stOther.arText;
+    }
+};
+
+struct StSamenessHash
+{
+    std::size_t operator()(const StSameness& stSameness) const
+    {
+        std::size_t nHash = std::hash<const void*>()(stSameness.pBelow);
+        for (const std::string_view strText : stSameness.arText)
+            nHash = nHash * 31 + std::hash<std::string_view>()(strText);
+        return nHash;
+    }
+};
+
 class CDefinitionCheck
 {
 public:
     CDefinitionCheck(const StReadDocument& stRead, CFileReport& oReport, const StLostNames& stLost)
-        : m_stRead(stRead), m_oReport(oReport), m_stLost(stLost), m_lstEntry(readEntries(stRead))
+        : m_stRead(stRead), m_oReport(oReport), m_stLost(stLost)
     {
-        for (const StReadEntry& stEntry : m_lstEntry)
+        for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
-            m_mapEntry[stEntry.pElement] = &stEntry;
-            m_setIdBelow.emplace(stEntry.pOwner, idOf(*stEntry.pElement));
-            if (findAsked(m_stRead, *stEntry.pElement, u"dependsOn") != nullptr)
-                m_mapStep[taskOf(stEntry)].insert(idOf(*stEntry.pElement));
+            if (stEntry.stMark.bMet && stEntry.asked("dependsOn") != nullptr)
+                m_mapStep[taskOf(stEntry)].emplace(idOf(stEntry));
         }
     }
 
     void run()
     {
-        for (const StReadEntry& stEntry : m_lstEntry)
+        for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
             if (stEntry.pAround != nullptr)
                 reportNested(stEntry);
-            if (stEntry.bInside)
+            if (!stEntry.stMark.bMet || stEntry.bInside)
                 continue;
             checkStep(stEntry);
-            const StAskedAttribute* pValue = findAsked(m_stRead, *stEntry.pElement, u"value");
-            if (pValue != nullptr && pValue->enReadAs == EnReadAs::Number)
-                checkOption(stEntry, *pValue);
+            if (stEntry.isOption())
+                checkOption(stEntry);
             else if (m_stRead.enKind == EnFileKind::Capacity)
                 checkCapacityEntry(stEntry);
             else
@@ -117,229 +140,224 @@ public:
     }
 
 private:
-    std::string idOf(const DOMElement& oElement) const { return valueOf(findAsked(m_stRead, oElement, u"id")); }
+    static std::string_view idOf(const StReadElement& stElement) { return stElement.read("id"); }
 
     // An element as messages name it: <Parameter> "ContentType".
-    std::string named(const DOMElement& oElement) const
+    static std::string named(const StReadElement& stElement)
     {
-        const std::string strId = idOf(oElement);
-        return tagOf(oElement) + (strId.empty() ? "" : " " + inQuotes(strId));
+        const std::string_view strId = idOf(stElement);
+        return tag(stElement.strName) + (strId.empty() ? "" : " " + inQuotes(strId));
     }
 
-    StSpot idSpot(const DOMElement& oElement) const { return m_stRead.oPlaces.valueSpot(oElement, u"id"); }
+    StSpot nameSpot(const StReadElement& stElement) const { return m_stRead.oPlaces.nameSpot(*stElement.pElement); }
 
-    void add(const char* pszRule, const StSpot& stSpot, const DOMElement& oElement, std::string strMessage,
+    StSpot valueSpot(const StReadElement& stElement, std::string_view strAttribute) const
+    {
+        return m_stRead.oPlaces.valueSpot(*stElement.pElement, strAttribute);
+    }
+
+    void add(const char* pszRule, const StSpot& stSpot, const StReadElement& stElement, std::string strMessage,
              std::vector<std::string> lstHelp = {})
     {
-        m_oReport.add(pszRule, stSpot, std::move(strMessage), subjectOf(oElement), std::move(lstHelp));
+        m_oReport.add(pszRule, stSpot, std::move(strMessage), stElement.subject(), std::move(lstHelp));
     }
 
-    std::string firstIn(const DOMElement& oFirst) const
+    std::string firstIn(const StReadElement& stFirst) const
     {
-        return "the first one stands in line " + std::to_string(m_stRead.oPlaces.nameSpot(oFirst).ulLine);
+        return "the first one stands in line " + std::to_string(nameSpot(stFirst).ulLine);
     }
 
-    void reportNested(const StReadEntry& stEntry)
+    void reportNested(const StReadElement& stEntry)
     {
-        const DOMElement& oElement = *stEntry.pElement;
-        add("nested-operation", m_stRead.oPlaces.nameSpot(oElement), oElement,
-            tagOf(oElement) + " stands inside " + named(*stEntry.pAround) + ": what stands in it belongs to both",
-            {"end " + tagOf(*stEntry.pAround) + " before it"});
+        const std::string strAround = tag(stEntry.pAround->strName);
+        add("nested-operation", nameSpot(stEntry), stEntry,
+            tag(stEntry.strName) + " stands inside " + named(*stEntry.pAround) + ": what stands in it belongs to both",
+            {"end " + strAround + " before it"});
     }
 
-    // The first of several elements that are the same to whoever asks, or null for
-    // the first one itself.
-    const DOMElement* firstOf(const char* pszWhat, const DOMElement* pBelow, const std::string& strKey,
-                              const DOMElement& oElement)
+    // The first of several elements that are the same, or null for the first one itself.
+    const StReadElement* firstOf(const StSameness& stSameness, const StReadElement& stElement)
     {
-        const auto [itFirst, bNew] = m_mapFirst.emplace(std::tuple(pszWhat, pBelow, strKey), &oElement);
+        const auto [itFirst, bNew] = m_mapFirst.emplace(stSameness, &stElement);
         return bNew ? nullptr : itFirst->second;
     }
 
     // A number that another rule complains about is no number to compare.
-    static bool isPlainNumber(const std::string& strValue)
+    static bool isPlainNumber(std::string_view strValue)
     {
-        return !strValue.empty() && std::all_of(strValue.begin(), strValue.end(),
-                                                [](char cDigit) { return cDigit >= '0' && cDigit <= '9'; });
+        return !strValue.empty() && strValue.find_first_not_of("0123456789") == std::string_view::npos;
     }
 
-    void checkOption(const StReadEntry& stEntry, const StAskedAttribute& stValue)
+    static std::string_view withoutZeros(std::string_view strNumber)
     {
-        const DOMElement& oOption = *stEntry.pElement;
-        const std::string strId   = idOf(oOption);
-        if (strId.empty() || stEntry.pOwner == nullptr)
+        return strNumber.substr(std::min(strNumber.find_first_not_of('0'), strNumber.size()));
+    }
+
+    void checkOption(const StReadElement& stOption)
+    {
+        const std::string_view strId    = idOf(stOption);
+        const std::string_view strValue = stOption.read("value");
+        if (strId.empty() || stOption.pOwner == nullptr)
             return;
         if (m_stRead.enKind == EnFileKind::Capacity) // lists options by id and number
-            return checkShown(stEntry, strId + " " + valueOf(&stValue));
-        const std::string strOf  = " of " + named(*stEntry.pOwner);
-        const DOMElement* pFirst = firstOf("option", stEntry.pOwner, strId, oOption);
+            return checkShown(stOption, strId, strValue);
+        const StReadElement* pFirst = firstOf({"option", stOption.pOwner, {strId}}, stOption);
         if (pFirst != nullptr)
-            return add("duplicate-option", idSpot(oOption), oOption,
-                       "a second option" + strOf + " is called " + inQuotes(strId) +
+            return add("duplicate-option", valueSpot(stOption, "id"), stOption,
+                       "a second option of " + named(*stOption.pOwner) + " is called " + inQuotes(strId) +
                            ": whoever asks for its number gets that of the first",
                        {firstIn(*pFirst)});
-        const std::string strValue = valueOf(&stValue);
         if (!isPlainNumber(strValue))
             return;
-        pFirst = firstOf("number", stEntry.pOwner, std::to_string(toNumber(strValue)), oOption);
+        pFirst = firstOf({"number", stOption.pOwner, {withoutZeros(strValue)}}, stOption);
         if (pFirst != nullptr)
-            add("duplicate-option", m_stRead.oPlaces.valueSpot(oOption, u"value"), oOption,
-                "a second option" + strOf + " has the number " + strValue + ": it reads as " + inQuotes(idOf(*pFirst)),
+            add("duplicate-option", valueSpot(stOption, "value"), stOption,
+                "a second option of " + named(*stOption.pOwner) + " has the number " + std::string(strValue) +
+                    ": it reads as " + inQuotes(idOf(*pFirst)),
                 {firstIn(*pFirst)});
     }
 
     // An operation may be decided twice on purpose: steps and custom operations go by
     // the last entry, all else by the first.
-    void checkCapacityEntry(const StReadEntry& stEntry)
+    void checkCapacityEntry(const StReadElement& stEntry)
     {
-        const DOMElement&       oElement   = *stEntry.pElement;
-        const StAskedAttribute* pSysOid    = findAsked(m_stRead, oElement, u"sysoid");
-        const StAskedAttribute* pKey       = pSysOid != nullptr ? pSysOid : findAsked(m_stRead, oElement, u"id");
-        const StAskedAttribute* pSupported = findAsked(m_stRead, oElement, u"isSupported");
-        const std::string       strKey     = valueOf(pKey);
-        const char*             pszDecides = toNumber(valueOf(pSupported)) != 0 ? "kept" : "decided";
-        const DOMElement* pFirst = strKey.empty() ? nullptr : firstOf(pszDecides, stEntry.pOwner, strKey, oElement);
+        const char*            pszKey = stEntry.asked("sysoid") != nullptr ? "sysoid" : "id";
+        const std::string_view strKey = stEntry.read(pszKey);
+        const bool             bKept  = toNumber(std::string(stEntry.read("isSupported"))) != 0;
+        const StReadElement*   pFirst =
+            strKey.empty() ? nullptr : firstOf({bKept ? "kept" : "decided", stEntry.pOwner, {strKey}}, stEntry);
         if (pFirst != nullptr)
-            add("shadowed-definition", m_stRead.oPlaces.valueSpot(oElement, pKey->pszName), oElement,
-                "an earlier " + tagOf(oElement) + " " + inQuotes(strKey) +
+            add("shadowed-definition", valueSpot(stEntry, pszKey), stEntry,
+                "an earlier " + tag(stEntry.strName) + " " + inQuotes(strKey) +
                     " decides the same: this one changes nothing",
                 {firstIn(*pFirst)});
     }
 
-    void checkDefinition(const StReadEntry& stEntry)
+    void checkDefinition(const StReadElement& stEntry)
     {
-        const DOMElement&       oElement = *stEntry.pElement;
-        const StAskedAttribute* pId      = findAsked(m_stRead, oElement, u"id");
-        const std::string       strId    = valueOf(pId);
+        const std::string_view strId = idOf(stEntry);
         if (strId.empty())
             return;
-        if (pId->enReadAs == EnReadAs::Word)
+        if (stEntry.asked("id")->enReadAs == EnReadAs::Word)
             return checkTaskType(stEntry, strId);
-        const DOMElement*    pOperation = operationOf(stEntry);
-        const StAskedSection stAsked = pOperation == nullptr ? StAskedSection() : askedSection(sectionOf(*pOperation));
-        if (pOperation == &oElement ? stAsked.bOperations : stAsked.bParameters)
-            checkAsked(*pOperation, oElement, strId);
+        const StReadElement* pOperation = operationOf(stEntry);
+        const StAskedSection stAsked =
+            pOperation == nullptr ? StAskedSection() : askedOf(sectionOf(*pOperation).strName);
+        if (pOperation == &stEntry ? stAsked.bOperations : stAsked.bParameters)
+            checkAsked(*pOperation, stEntry, strId);
         else
-            checkShown(stEntry, strId);
+            checkShown(stEntry, strId, {});
+    }
+
+    const StAskedSection& askedOf(std::string_view strSection)
+    {
+        const auto [itAsked, bNew] = m_mapAsked.try_emplace(strSection);
+        if (bNew)
+            itAsked->second = askedSection(strSection);
+        return itAsked->second;
     }
 
     // An operation, or one of its parameters.
-    void checkAsked(const DOMElement& oOperation, const DOMElement& oElement, const std::string& strId)
+    void checkAsked(const StReadElement& stOperation, const StReadElement& stElement, std::string_view strId)
     {
-        const bool        bOperation = &oOperation == &oElement;
-        const std::string strSection = toLocal(sectionOf(oOperation).getTagName());
-        const DOMElement* pFirst     = bOperation ? firstOf("operation", nullptr, strSection + " " + strId, oElement)
-                                                  : firstOf("parameter", &oOperation, strId, oElement);
-        if (pFirst == nullptr || isReached(oOperation, oElement))
+        const bool           bOperation = &stOperation == &stElement;
+        const StReadElement* pFirst =
+            bOperation ? firstOf({"operation", nullptr, {sectionOf(stOperation).strName, strId}}, stElement)
+                       : firstOf({"parameter", &stOperation, {strId}}, stElement);
+        if (pFirst == nullptr || isReached(stOperation, stElement))
             return;
-        add("shadowed-definition", idSpot(oElement), oElement,
-            "an earlier " + named(oElement) + (bOperation ? "" : " of " + inQuotes(idOf(oOperation))) +
+        add("shadowed-definition", valueSpot(stElement, "id"), stElement,
+            "an earlier " + named(stElement) + (bOperation ? "" : " of " + inQuotes(idOf(stOperation))) +
                 " hides this one: every question is answered from it",
             {firstIn(*pFirst)});
     }
 
     // What clients show as it stands: menu entries, check items, steps, features. The
     // operations behind an upgrade may well be run twice, and a step for another one.
-    void checkShown(const StReadEntry& stEntry, const std::string& strId)
+    void checkShown(const StReadElement& stEntry, std::string_view strId, std::string_view strNumber)
     {
-        const DOMElement& oElement = *stEntry.pElement;
-        const bool        bInUpgrade =
-            m_stRead.enKind != EnFileKind::FixedCheck && findAsked(m_stRead, oElement, u"operationLevel") != nullptr;
+        const bool bInUpgrade = m_stRead.enKind != EnFileKind::FixedCheck && stEntry.asked("operationLevel") != nullptr;
         if (stEntry.pOwner == nullptr || bInUpgrade)
             return;
-        std::string strKey = toLocal(oElement.getTagName()) + " " + strId;
-        for (const char16_t* pszName : {u"type", u"dependsOn"})
-            strKey += " " + valueOf(findAsked(m_stRead, oElement, pszName));
-        const DOMElement* pFirst = firstOf("shown", stEntry.pOwner, strKey, oElement);
+        const std::string_view strKind = strNumber.empty() ? stEntry.read("type") : strNumber;
+        const StReadElement*   pFirst =
+            firstOf({"shown", stEntry.pOwner, {stEntry.strName, strId, strKind, stEntry.read("dependsOn")}}, stEntry);
         if (pFirst != nullptr)
-            add("shadowed-definition", idSpot(oElement), oElement,
-                named(oElement) + " stands twice in " + named(*stEntry.pOwner) + ": clients show both",
+            add("shadowed-definition", valueSpot(stEntry, "id"), stEntry,
+                named(stEntry) + " stands twice in " + named(*stEntry.pOwner) + ": clients show both",
                 {firstIn(*pFirst)});
     }
 
     // The operation that an entry is, or whose parameter it is; else null.
-    const DOMElement* operationOf(const StReadEntry& stEntry) const
+    static const StReadElement* operationOf(const StReadElement& stEntry)
     {
-        const DOMElement* pOwner = stEntry.pOwner;
-        if (pOwner == nullptr || m_mapEntry.at(pOwner)->pOwner == nullptr)
-        {
-            const bool bIsSection = pOwner != nullptr && idOf(*pOwner).empty();
-            return pOwner == nullptr || bIsSection ? stEntry.pElement : pOwner;
-        }
-        const StReadEntry& stOwner = *m_mapEntry.at(pOwner);
-        return m_mapEntry.at(stOwner.pOwner)->pOwner == nullptr &&
-                       XMLString::equals(stEntry.pElement->getTagName(), u"Parameter")
-                   ? pOwner
-                   : nullptr;
+        const StReadElement* pOwner = stEntry.pOwner;
+        if (pOwner == nullptr)
+            return &stEntry;
+        if (pOwner->pOwner == nullptr) // a section, unless its operations stand at the top themselves
+            return idOf(*pOwner).empty() ? &stEntry : pOwner;
+        return pOwner->pOwner->pOwner == nullptr && stEntry.strName == "Parameter" ? pOwner : nullptr;
     }
 
-    const DOMElement& sectionOf(const DOMElement& oOperation) const
+    static const StReadElement& sectionOf(const StReadElement& stOperation)
     {
-        const DOMElement* pOwner = m_mapEntry.at(&oOperation)->pOwner;
-        return pOwner == nullptr ? oOperation : *pOwner;
+        return stOperation.pOwner == nullptr ? stOperation : *stOperation.pOwner;
     }
 
     // Whether some question looks into every operation, or parameter, of the id.
-    bool isReached(const DOMElement& oOperation, const DOMElement& oElement) const
+    static bool isReached(const StReadElement& stOperation, const StReadElement& stElement)
     {
-        const std::string strAsked(askedEverywhere(sectionOf(oOperation), idOf(oOperation)));
-        if (strAsked.empty())
-            return false;
-        return &oOperation == &oElement ? m_setIdBelow.count({&oOperation, strAsked}) != 0 : idOf(oElement) == strAsked;
+        const std::string_view strAsked = askedEverywhere(sectionOf(stOperation).strName, idOf(stOperation));
+        if (strAsked.empty() || &stOperation != &stElement)
+            return !strAsked.empty() && idOf(stElement) == strAsked;
+        return std::any_of(&stOperation, stOperation.pEnd,
+                           [&](const StReadElement& stInside)
+                           { return stInside.pOwner == &stOperation && idOf(stInside) == strAsked; });
     }
 
     // In a check file the task types say what a check is for, as often as need be.
-    void checkTaskType(const StReadEntry& stEntry, const std::string& strId)
+    void checkTaskType(const StReadElement& stEntry, std::string_view strId)
     {
-        const DOMElement& oElement = *stEntry.pElement;
-        const DOMElement* pFirst = stEntry.pOwner == nullptr ? firstOf("task type", nullptr, strId, oElement) : nullptr;
+        const StReadElement* pFirst =
+            stEntry.pOwner == nullptr ? firstOf({"task type", nullptr, {strId}}, stEntry) : nullptr;
         if (pFirst != nullptr)
-            add("duplicate-task-type", idSpot(oElement), oElement,
+            add("duplicate-task-type", valueSpot(stEntry, "id"), stEntry,
                 "a second task type is called " + inQuotes(strId) + ": both are kept, and clients show one of them",
                 {firstIn(*pFirst)});
     }
 
     // The outermost element whose readers looked for an entry: the task of a step.
-    const DOMElement* taskOf(const StReadEntry& stEntry) const
+    static const StReadElement* taskOf(const StReadElement& stEntry)
     {
-        const DOMElement* pTask = stEntry.pOwner;
-        for (auto itOwner = m_mapEntry.find(pTask); itOwner != m_mapEntry.end() && itOwner->second->pOwner != nullptr;
-             itOwner      = m_mapEntry.find(pTask))
-            pTask = itOwner->second->pOwner;
+        const StReadElement* pTask = stEntry.pOwner;
+        while (pTask != nullptr && pTask->pOwner != nullptr)
+            pTask = pTask->pOwner;
         return pTask;
     }
 
-    void checkStep(const StReadEntry& stEntry)
+    void checkStep(const StReadElement& stEntry)
     {
-        const StAskedAttribute* pDepends = findAsked(m_stRead, *stEntry.pElement, u"dependsOn");
-        const std::string       strStep  = valueOf(pDepends);
-        const auto              itSteps  = m_mapStep.find(taskOf(stEntry));
-        if (pDepends == nullptr || strStep.empty() || itSteps == m_mapStep.end() ||
-            m_stLost.setText.count(strStep) != 0)
+        const std::string strStep(stEntry.read("dependsOn"));
+        if (strStep.empty() || m_stLost.setText.count(strStep) != 0)
             return;
-        const std::set<std::string>& setStep = itSteps->second;
+        const std::set<std::string>& setStep = m_mapStep[taskOf(stEntry)];
         if (setStep.count(strStep) != 0)
             return;
         std::vector<std::string> lstHelp = m_oHints.didYouMean(strStep, setStep);
         if (lstHelp.empty() && setStep.size() <= LISTED_STEPS)
             lstHelp.push_back("its steps: " + listText({setStep.begin(), setStep.end()}));
-        add("depends-on-nothing", m_stRead.oPlaces.valueSpot(*stEntry.pElement, u"dependsOn"), *stEntry.pElement,
-            "the task has no step " + inQuotes(strStep) + " that " + inQuotes(idOf(*stEntry.pElement)) +
-                " could wait for",
+        add("depends-on-nothing", valueSpot(stEntry, "dependsOn"), stEntry,
+            "the task has no step " + inQuotes(strStep) + " that " + inQuotes(idOf(stEntry)) + " could wait for",
             std::move(lstHelp));
     }
 
-    using FirstKey = std::tuple<std::string, const DOMElement*, std::string>;
-
-    const StReadDocument&                               m_stRead;
-    CFileReport&                                        m_oReport;
-    const StLostNames&                                  m_stLost;
-    std::vector<StReadEntry>                            m_lstEntry;
-    std::map<const DOMElement*, const StReadEntry*>     m_mapEntry;
-    std::map<const DOMElement*, std::set<std::string>>  m_mapStep;    // ids of the steps of each task
-    std::set<std::pair<const DOMElement*, std::string>> m_setIdBelow; // ids of what each reader looked for
-    CHints                                              m_oHints;
-    std::map<FirstKey, const DOMElement*>               m_mapFirst;
+    const StReadDocument&                                                m_stRead;
+    CFileReport&                                                         m_oReport;
+    const StLostNames&                                                   m_stLost;
+    std::unordered_map<const StReadElement*, std::set<std::string>>      m_mapStep; // ids of the steps of each task
+    std::unordered_map<std::string_view, StAskedSection>                 m_mapAsked;
+    std::unordered_map<StSameness, const StReadElement*, StSamenessHash> m_mapFirst;
+    CHints                                                               m_oHints;
 };
 } // namespace
 

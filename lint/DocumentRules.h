@@ -4,22 +4,20 @@
 #ifndef OPERATIONXML_LINT_DOCUMENTRULES_H
 #define OPERATIONXML_LINT_DOCUMENTRULES_H
 
-#include "catalog/PlacedParser.h"
 #include "lint/FileReport.h"
-#include "lint/ReadMarks.h"
+#include "lint/ReadTree.h"
 
 #include <set>
 #include <string>
 
 namespace lint
 {
-// A document that was read, with what was heard meanwhile.
+// A document that was read.
 struct StReadDocument
 {
     EnFileKind                      enKind;
-    const xercesc::DOMDocument&     oDocument;
+    const CReadTree&                oTree;
     const catalog::CDocumentPlaces& oPlaces;
-    const CReadMarks&               oMarks;
 };
 
 // What stands in a file and does not count because of a mistake that is told
@@ -42,15 +40,12 @@ void checkEntries(const StReadDocument& stRead, CFileReport& oReport, StLostName
 // What is said twice or inside something else; after all of the above, whose
 // mistakes it does not repeat (DefinitionRules.cpp).
 void checkDefinitions(const StReadDocument& stRead, CFileReport& oReport, const StLostNames& stLost);
+
 // Records of alarm tables and file-check rules (TableRules.cpp).
 void checkTable(const StReadDocument& stRead, CFileReport& oReport);
 
 // Comments that allow something.
 void takeAllowances(const catalog::CDocumentPlaces& oPlaces, CFileReport& oReport);
-
-// How an element is told in a finding that must stay when lines move: the names of
-// the elements down to it, each with its id.
-std::string subjectOf(const xercesc::DOMElement& oElement);
 } // namespace lint
 
 #endif

@@ -1,54 +1,43 @@
 // Ids and attributes without which an entry is useless, and blanks around what is
 // compared to the letter.
-#include "common/XmlText.h"
-#include "lint/Nearness.h"
-#include "lint/ReadEntries.h"
+#include "lint/DocumentRules.h"
+#include "lint/Phrases.h"
 #include "records/WordTables.h"
 
-#include <algorithm>
 #include <set>
-
-using namespace xercesc;
 
 namespace lint
 {
 namespace
 {
 // What tells an entry from its siblings, under the names that the sections have for it.
-constexpr const char16_t* IDENTITIES[] = {u"id", u"name", u"sysoid"};
-
-std::string withoutBlanks(const std::string& strText)
-{
-    constexpr const char* BLANKS = " \t\r\n";
-    const std::size_t     nBegin = strText.find_first_not_of(BLANKS);
-    return nBegin == std::string::npos ? std::string()
-                                       : strText.substr(nBegin, strText.find_last_not_of(BLANKS) - nBegin + 1);
-}
+constexpr const char* IDENTITIES[] = {"id", "name", "sysoid"};
 
 class CEntryCheck
 {
 public:
     CEntryCheck(const StReadDocument& stRead, CFileReport& oReport, StLostNames& stLost)
-        : m_stRead(stRead), m_oReport(oReport), m_stLost(stLost), m_lstEntry(readEntries(stRead))
+        : m_stRead(stRead), m_oReport(oReport), m_stLost(stLost)
     {
-        for (const StReadEntry& stEntry : m_lstEntry)
+        for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
-            const StAskedAttribute* pValue = optionValue(stEntry);
-            if (pValue != nullptr && pValue->pAttr != nullptr)
+            if (stEntry.stMark.bMet && stEntry.isOption() && stEntry.isRead("value"))
                 m_setNumbered.insert(stEntry.pOwner);
         }
     }
 
     void run()
     {
-        for (const StReadEntry& stEntry : m_lstEntry)
+        for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
-            for (const char16_t* pszName : IDENTITIES)
+            if (!stEntry.stMark.bMet)
+                continue;
+            for (const char* pszName : IDENTITIES)
             {
-                if (const StAskedAttribute* pAsked = findAsked(m_stRead, *stEntry.pElement, pszName))
+                if (const StAskedAttribute* pAsked = stEntry.asked(pszName))
                     checkIdentity(stEntry, *pAsked);
             }
-            if (const StAskedAttribute* pAsked = findAsked(m_stRead, *stEntry.pElement, u"dependsOn"))
+            if (const StAskedAttribute* pAsked = stEntry.asked("dependsOn"))
                 checkBlank(stEntry, *pAsked);
             if (!stEntry.bInside && !stEntry.bSpoilt)
                 checkNeeded(stEntry);
@@ -56,20 +45,13 @@ public:
     }
 
 private:
-    // The number of an option, if the entry is one.
-    const StAskedAttribute* optionValue(const StReadEntry& stEntry) const
+    static bool isReference(const StReadElement& stEntry)
     {
-        const StAskedAttribute* pValue = findAsked(m_stRead, *stEntry.pElement, u"value");
-        return pValue != nullptr && pValue->enReadAs == EnReadAs::Number ? pValue : nullptr;
+        const StAskedAttribute* pType = stEntry.asked("type");
+        return pType != nullptr && pType->isWord(TYPE_REF_WORDS[0].strWord);
     }
 
-    bool isReference(const DOMElement& oElement) const
-    {
-        const StAskedAttribute* pType = findAsked(m_stRead, oElement, u"type");
-        return pType != nullptr && isWordOf(*pType, TYPE_REF_WORDS[0].strWord);
-    }
-
-    void checkIdentity(const StReadEntry& stEntry, const StAskedAttribute& stAsked)
+    void checkIdentity(const StReadElement& stEntry, const StAskedAttribute& stAsked)
     {
         // A check file says the type's name for people only.
         const bool bForPeople = stEntry.pOwner == nullptr && (m_stRead.enKind == EnFileKind::TelnetCheck ||
@@ -77,70 +59,66 @@ private:
         const bool bWord      = stAsked.enReadAs == EnReadAs::Word;
         if (bForPeople && !bWord)
             return;
-        if (stAsked.pAttr != nullptr && (bWord || *stAsked.pAttr->getValue() != 0))
+        if (stEntry.isRead(stAsked.strName) && (bWord || !stEntry.read(stAsked.strName).empty()))
             return checkBlank(stEntry, stAsked);
         if (stEntry.bInside || stEntry.bSpoilt)
             return;
-        const std::string strName = inQuotes(toLocal(stAsked.pszName));
         m_oReport.add("missing-id", spotOf(stEntry, stAsked),
-                      tagOf(*stEntry.pElement) + " has no " + strName +
-                          (isReference(*stEntry.pElement) ? ": it refers to nothing" : ": nobody will find it"),
-                      subjectOf(*stEntry.pElement) + "@" + toLocal(stAsked.pszName));
+                      tag(stEntry.strName) + " has no " + inQuotes(stAsked.strName) +
+                          (isReference(stEntry) ? ": it refers to nothing" : ": nobody will find it"),
+                      stEntry.subject() + "@" + stAsked.strName);
     }
 
-    void checkBlank(const StReadEntry& stEntry, const StAskedAttribute& stAsked)
+    void checkBlank(const StReadElement& stEntry, const StAskedAttribute& stAsked)
     {
-        const std::string strValue = valueOf(&stAsked);
-        const std::string strText  = withoutBlanks(strValue);
+        const std::string strValue(stEntry.read(stAsked.strName));
+        const std::string strText(trimmed(strValue));
         if (stAsked.enReadAs != EnReadAs::Text || strText.size() == strValue.size())
             return;
         m_stLost.setText.insert(strValue);
         m_stLost.setText.insert(strText);
         m_oReport.add("outer-blank", spotOf(stEntry, stAsked),
-                      inQuotes(strValue) + " is another " + inQuotes(toLocal(stAsked.pszName)) + " than " +
-                          inQuotes(strText) + ": the blank counts",
-                      subjectOf(*stEntry.pElement) + "@" + toLocal(stAsked.pszName), {"write " + inQuotes(strText)});
+                      inQuotes(strValue) + " is another " + inQuotes(stAsked.strName) + " than " + inQuotes(strText) +
+                          ": the blank counts",
+                      stEntry.subject() + "@" + stAsked.strName, {"write " + inQuotes(strText)});
     }
 
-    void checkNeeded(const StReadEntry& stEntry)
+    void checkNeeded(const StReadElement& stEntry)
     {
-        const DOMElement& oElement = *stEntry.pElement;
-        const bool        bEntry   = m_stRead.enKind == EnFileKind::Capacity;
-        if (isReference(oElement))
-            need(stEntry, u"type", "no client knows which kind of operation is meant",
+        const bool bEntry = m_stRead.enKind == EnFileKind::Capacity;
+        if (isReference(stEntry))
+            need(stEntry, "type", "no client knows which kind of operation is meant",
                  "DeviceOperation, TaskOperation, PatchOperation, CheckOperation, CustomOperation or OtherOperation");
-        need(stEntry, u"isSupported", bEntry ? "it takes the operation away" : "it is not supported",
+        need(stEntry, "isSupported", bEntry ? "it takes the operation away" : "it is not supported",
              "\"1\" for yes, \"0\" for no");
         if (bEntry)
-            need(stEntry, u"isRequired", "it takes the parameter away", "\"1\" to keep it, \"0\" to take it away");
-        need(stEntry, u"filename", "the operation has no resource file", nullptr);
-        if (optionValue(stEntry) != nullptr && m_setNumbered.count(stEntry.pOwner) != 0)
-            need(stEntry, u"value", "its number is 0, while other options have theirs", nullptr);
+            need(stEntry, "isRequired", "it takes the parameter away", "\"1\" to keep it, \"0\" to take it away");
+        need(stEntry, "filename", "the operation has no resource file", nullptr);
+        if (stEntry.isOption() && m_setNumbered.count(stEntry.pOwner) != 0)
+            need(stEntry, "value", "its number is 0, while other options have theirs", nullptr);
     }
 
-    void need(const StReadEntry& stEntry, const char16_t* pszName, const char* pszSo, const char* pszWrite)
+    void need(const StReadElement& stEntry, const char* pszName, const char* pszSo, const char* pszWrite)
     {
-        const StAskedAttribute* pAsked = findAsked(m_stRead, *stEntry.pElement, pszName);
-        if (pAsked == nullptr || pAsked->pAttr != nullptr)
+        const StAskedAttribute* pAsked = stEntry.asked(pszName);
+        if (pAsked == nullptr || stEntry.isRead(pszName))
             return;
-        const std::string strName = toLocal(pszName);
         m_oReport.add("missing-attribute", spotOf(stEntry, *pAsked),
-                      tagOf(*stEntry.pElement) + " has no " + inQuotes(strName) + ": " + pszSo,
-                      subjectOf(*stEntry.pElement) + "@" + strName,
+                      tag(stEntry.strName) + " has no " + inQuotes(pszName) + ": " + pszSo,
+                      stEntry.subject() + "@" + pszName,
                       pszWrite == nullptr ? std::vector<std::string>() : std::vector{"write " + std::string(pszWrite)});
     }
 
     // The attribute's value, or the element where it has none.
-    StSpot spotOf(const StReadEntry& stEntry, const StAskedAttribute& stAsked) const
+    StSpot spotOf(const StReadElement& stEntry, const StAskedAttribute& stAsked) const
     {
-        return m_stRead.oPlaces.valueSpot(*stEntry.pElement, stAsked.pszName);
+        return m_stRead.oPlaces.valueSpot(*stEntry.pElement, stAsked.strName);
     }
 
-    const StReadDocument&       m_stRead;
-    CFileReport&                m_oReport;
-    StLostNames&                m_stLost;
-    std::vector<StReadEntry>    m_lstEntry;
-    std::set<const DOMElement*> m_setNumbered; // parameters of which an option has its number
+    const StReadDocument&          m_stRead;
+    CFileReport&                   m_oReport;
+    StLostNames&                   m_stLost;
+    std::set<const StReadElement*> m_setNumbered; // parameters of which an option has its number
 };
 } // namespace
 

@@ -1,6 +1,8 @@
 // See FileReport.h.
 #include "lint/FileReport.h"
 
+#include "lint/Phrases.h"
+
 #include <algorithm>
 #include <string_view>
 #include <tuple>
@@ -15,19 +17,10 @@ constexpr std::string_view ALLOWANCE = "opxml-lint:";
 // A longer line is no help, and a file of one line may have as many findings as bytes.
 constexpr std::size_t SHOWN_LINE = 4096;
 
-std::string_view trimmed(std::string_view strText)
-{
-    constexpr const char* BLANKS = " \t\r\n";
-    const std::size_t     nBegin = strText.find_first_not_of(BLANKS);
-    if (nBegin == std::string_view::npos)
-        return {};
-    return strText.substr(nBegin, strText.find_last_not_of(BLANKS) - nBegin + 1);
-}
-
 // Takes the first word off a text.
 std::string_view takeWord(std::string_view& strText)
 {
-    const std::string_view strWord = strText.substr(0, strText.find_first_of(" \t\r\n"));
+    const std::string_view strWord = strText.substr(0, strText.find_first_of(BLANKS));
     strText                        = trimmed(strText.substr(strWord.size()));
     return strWord;
 }

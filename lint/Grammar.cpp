@@ -93,9 +93,8 @@ private:
 
     void takeLookups(const CReadMarks& oMarks, const DOMNode& oNode, StGrammarElement& stElement)
     {
-        for (const char16_t* pszName : oMarks.lookups(oNode))
+        for (const std::string& strName : oMarks.questions(oMarks.of(oNode)).lstElement)
         {
-            const std::string strName = toLocal(pszName);
             if (isInItself(stElement, strName))
                 continue;
             const auto [itChild, bNew] = stElement.mapChild.try_emplace(strName);
@@ -113,9 +112,9 @@ private:
         {
             StGrammarElement& stChild = stParent.mapChild[toLocal(pChild->getTagName())];
             takeLookups(oMarks, *pChild, stChild);
-            for (const StAskedAttribute& stAsked : oMarks.attributes(*pChild))
+            for (const StAskedAttribute& stAsked : oMarks.questions(oMarks.of(*pChild)).lstAttribute)
             {
-                const auto [itAttribute, bNew]  = stChild.mapAttribute.try_emplace(toLocal(stAsked.pszName));
+                const auto [itAttribute, bNew]  = stChild.mapAttribute.try_emplace(stAsked.strName);
                 m_bGrown                        = m_bGrown || bNew;
                 StGrammarAttribute& stAttribute = itAttribute->second;
                 stAttribute.strName             = itAttribute->first;

@@ -66,7 +66,8 @@ void lintDocument(catalog::CPlacedParser& oParser, EnFileKind enKind, CFileRepor
         const ReadObserver::CScope oScope(oMarks);
         readAs(enKind, oParser);
     }
-    const StReadDocument stRead = {enKind, *oParser.getDocument(), oParser.places(), oMarks};
+    const CReadTree      oTree(*oParser.getDocument(), oParser.places(), oMarks);
+    const StReadDocument stRead = {enKind, oTree, oParser.places()};
     takeAllowances(oParser.places(), oReport);
     checkNames(stRead, oReport, stLost);
     checkValues(stRead, oReport, stLost);

@@ -1,6 +1,6 @@
 // The names of modules, and of the device types that they add something to.
 #include "lint/Nearness.h"
-#include "lint/ReadEntries.h"
+#include "lint/Phrases.h"
 #include "lint/SenseRules.h"
 
 #include <map>

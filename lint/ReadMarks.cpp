@@ -2,57 +2,136 @@
 #include "lint/ReadMarks.h"
 
 #include "common/RecordRead.h"
-
-#include <xercesc/util/XMLString.hpp>
+#include "common/XmlText.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace xercesc;
 
 namespace lint
 {
+namespace
+{
+template <typename Names, typename Name>
+bool contains(const Names& lstName, const Name& name)
+{
+    return std::find(lstName.begin(), lstName.end(), name) != lstName.end();
+}
+
+// Of words it is enough that they are those of one table of a reader.
+bool isSameTable(const std::vector<std::string_view>& lstLeft, const std::vector<std::string_view>& lstRight)
+{
+    return std::equal(lstLeft.begin(), lstLeft.end(), lstRight.begin(), lstRight.end(),
+                      [](std::string_view strLeft, std::string_view strRight)
+                      { return strLeft.data() == strRight.data() && strLeft.size() == strRight.size(); });
+}
+} // namespace
+
+bool StAskedAttribute::isWord(std::string_view strWord) const
+{
+    return contains(lstWord, strWord);
+}
+
+const StAskedAttribute* StQuestions::find(std::string_view strAttribute) const
+{
+    const auto itAsked =
+        std::find_if(lstAttribute.begin(), lstAttribute.end(),
+                     [strAttribute](const StAskedAttribute& stAsked) { return stAsked.strName == strAttribute; });
+    return itAsked == lstAttribute.end() ? nullptr : &*itAsked;
+}
+
+bool StQuestions::looksFor(std::string_view strElement) const
+{
+    return contains(lstElement, strElement);
+}
+
 void CReadMarks::lookup(const DOMNode& oBelow, const char16_t* pszName)
 {
-    std::vector<const char16_t*>& lstName = m_mapLookup[&oBelow];
-    if (std::none_of(lstName.begin(), lstName.end(),
-                     [pszName](const char16_t* pszKnown) { return XMLString::equals(pszKnown, pszName); }))
-        lstName.push_back(pszName);
+    StMark& stMark = mark(oBelow);
+    stMark.nAsked  = take(stMark.nAsked, pszName);
 }
 
 void CReadMarks::attributeRead(const StAttributeRead& stRead)
 {
-    std::vector<StAskedAttribute>& lstAsked = m_mapAttribute[&stRead.oElement];
-    for (StAskedAttribute& stAsked : lstAsked)
-    {
-        if (!XMLString::equals(stAsked.pszName, stRead.pszName))
-            continue;
-        for (const std::string_view strWord : stRead.lstWord)
-        {
-            if (std::find(stAsked.lstWord.begin(), stAsked.lstWord.end(), strWord) == stAsked.lstWord.end())
-                stAsked.lstWord.push_back(strWord);
-        }
-        return;
-    }
-    lstAsked.push_back({stRead.pszName, stRead.pAttr, stRead.enReadAs, stRead.lstWord});
+    StMark& stMark = mark(stRead.oElement);
+    stMark.nAsked  = take(stMark.nAsked, stRead);
 }
 
 void CReadMarks::recordEnded(const DOMElement& oElement, const void* /*pRecord*/, EnFate enFate)
 {
-    if (enFate != EnFate::Kept && m_mapLookup.count(&oElement) == 0)
-        m_setGivenUp.insert(&oElement);
+    StMark& stMark = mark(oElement);
+    if (enFate != EnFate::Kept && questions(stMark).lstElement.empty())
+        stMark.bGivenUp = true;
 }
 
-const std::vector<StAskedAttribute>& CReadMarks::attributes(const DOMElement& oElement) const
+const StMark& CReadMarks::of(const DOMNode& oNode) const
 {
-    static const std::vector<StAskedAttribute> s_lstNone;
-    const auto                                 itAsked = m_mapAttribute.find(&oElement);
-    return itAsked == m_mapAttribute.end() ? s_lstNone : itAsked->second;
+    static const StMark s_stNone;
+    const auto          itMark = m_mapMark.find(&oNode);
+    return itMark == m_mapMark.end() ? s_stNone : itMark->second;
 }
 
-const std::vector<const char16_t*>& CReadMarks::lookups(const DOMNode& oNode) const
+StMark& CReadMarks::mark(const DOMNode& oNode)
 {
-    static const std::vector<const char16_t*> s_lstNone;
-    const auto                                itLookup = m_mapLookup.find(&oNode);
-    return itLookup == m_mapLookup.end() ? s_lstNone : itLookup->second;
+    if (m_pLast != &oNode)
+    {
+        m_pLast     = &oNode;
+        m_pLastMark = &m_mapMark[&oNode];
+    }
+    return *m_pLastMark;
+}
+
+// Whoever asks for the same once more adds nothing, and stays where it is.
+std::size_t CReadMarks::take(std::size_t nAsked, const StAttributeRead& stRead)
+{
+    for (const StNext& stNext : m_lstShared[nAsked].lstNextAttribute)
+    {
+        if (stNext.pszName == stRead.pszName && isSameTable(stNext.lstWord, stRead.lstWord))
+            return stNext.nAsked;
+    }
+    StQuestions       stQuestions = m_lstShared[nAsked].stQuestions;
+    const std::size_t nKnown      = stQuestions.lstAttribute.size();
+    const std::string strName     = toLocal(stRead.pszName);
+    auto              itAsked     = std::find_if(stQuestions.lstAttribute.begin(), stQuestions.lstAttribute.end(),
+                                                 [&](const StAskedAttribute& stAsked) { return stAsked.strName == strName; });
+    if (itAsked == stQuestions.lstAttribute.end())
+        itAsked = stQuestions.lstAttribute.insert(itAsked, {strName, stRead.enReadAs, {}});
+    bool bMore = nKnown != stQuestions.lstAttribute.size();
+    for (const std::string_view strWord : stRead.lstWord)
+    {
+        if (itAsked->isWord(strWord))
+            continue;
+        itAsked->lstWord.push_back(strWord);
+        bMore = true;
+    }
+    const std::size_t nNext = bMore ? share(std::move(stQuestions)) : nAsked;
+    m_lstShared[nAsked].lstNextAttribute.push_back({stRead.pszName, stRead.lstWord, nNext});
+    return nNext;
+}
+
+std::size_t CReadMarks::take(std::size_t nAsked, const char16_t* pszElement)
+{
+    for (const StNext& stNext : m_lstShared[nAsked].lstNextElement)
+    {
+        if (stNext.pszName == pszElement)
+            return stNext.nAsked;
+    }
+    StQuestions       stQuestions = m_lstShared[nAsked].stQuestions;
+    const std::string strName     = toLocal(pszElement);
+    std::size_t       nNext       = nAsked;
+    if (!stQuestions.looksFor(strName))
+    {
+        stQuestions.lstElement.push_back(strName);
+        nNext = share(std::move(stQuestions));
+    }
+    m_lstShared[nAsked].lstNextElement.push_back({pszElement, {}, nNext});
+    return nNext;
+}
+
+std::size_t CReadMarks::share(StQuestions stQuestions)
+{
+    m_lstShared.push_back({std::move(stQuestions), {}, {}});
+    return m_lstShared.size() - 1;
 }
 } // namespace lint

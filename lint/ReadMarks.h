@@ -1,14 +1,17 @@
 // What the readers asked a document for: the marks by which everything that stands
 // in a file and nobody reads is found. Fills itself while it is the observer of a
-// read (common/ReadObserver.h). One thread; the document must outlive the marks.
+// read (common/ReadObserver.h). One thread; the document must outlive the marks, and
+// the marks whoever holds what they answer.
 #ifndef OPERATIONXML_LINT_READMARKS_H
 #define OPERATIONXML_LINT_READMARKS_H
 
 #include "common/ReadObserver.h"
 
+#include <cstddef>
+#include <deque>
+#include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace lint
@@ -17,19 +20,39 @@ namespace lint
 // ask for it by different words add up.
 struct StAskedAttribute
 {
-    const char16_t*               pszName;
-    const xercesc::DOMAttr*       pAttr; // null: it is not there
+    std::string                   strName;
     EnReadAs                      enReadAs;
     std::vector<std::string_view> lstWord;
+
+    bool isWord(std::string_view strWord) const;
+};
+
+// What the readers of an element asked for: each name once, in the order in which it
+// was asked for first.
+struct StQuestions
+{
+    std::vector<StAskedAttribute> lstAttribute;
+    std::vector<std::string>      lstElement; // looked for below it
+
+    const StAskedAttribute* find(std::string_view strAttribute) const; // null: nobody asked
+    bool                    looksFor(std::string_view strElement) const;
+};
+
+struct StMark
+{
+    std::size_t nAsked    = 0;     // the number of its questions
+    bool        bMet      = false; // a reader came to it
+    bool        bTextRead = false;
+    bool        bGivenUp  = false; // by its reader, before it looked into it
 };
 
 class CReadMarks : public CReadObserver
 {
 public:
     void lookup(const xercesc::DOMNode& oBelow, const char16_t* pszName) override;
-    void elementMet(const xercesc::DOMElement& oElement) override { m_setMet.insert(&oElement); }
+    void elementMet(const xercesc::DOMElement& oElement) override { mark(oElement).bMet = true; }
     void attributeRead(const StAttributeRead& stRead) override;
-    void textRead(const xercesc::DOMElement& oElement) override { m_setText.insert(&oElement); }
+    void textRead(const xercesc::DOMElement& oElement) override { mark(oElement).bTextRead = true; }
     void recordBegun(const xercesc::DOMElement& /*oElement*/, const void* /*pRecord*/, const void* /*pList*/) override
     {
     }
@@ -37,23 +60,35 @@ public:
     void recordCopied(const void* /*pFrom*/, const void* /*pTo*/) override {}
     void recordPruned(const void* /*pRecord*/, const void* /*pCapacity*/) override {}
 
-    bool isMet(const xercesc::DOMElement& oElement) const { return m_setMet.count(&oElement) != 0; }
-    bool isTextRead(const xercesc::DOMElement& oElement) const { return m_setText.count(&oElement) != 0; }
-
-    // An element that its reader gave up before it looked into it.
-    bool isGivenUp(const xercesc::DOMElement& oElement) const { return m_setGivenUp.count(&oElement) != 0; }
-
-    // The attributes that were asked for at an element, and the names that elements
-    // below a node were looked up by.
-    const std::vector<StAskedAttribute>& attributes(const xercesc::DOMElement& oElement) const;
-    const std::vector<const char16_t*>&  lookups(const xercesc::DOMNode& oNode) const;
+    // Of an element, or of the document.
+    const StMark&      of(const xercesc::DOMNode& oNode) const;
+    const StQuestions& questions(const StMark& stMark) const { return m_lstShared[stMark.nAsked].stQuestions; }
 
 private:
-    std::unordered_set<const xercesc::DOMElement*>                                m_setMet;
-    std::unordered_set<const xercesc::DOMElement*>                                m_setText;
-    std::unordered_set<const xercesc::DOMElement*>                                m_setGivenUp;
-    std::unordered_map<const xercesc::DOMElement*, std::vector<StAskedAttribute>> m_mapAttribute;
-    std::unordered_map<const xercesc::DOMNode*, std::vector<const char16_t*>>     m_mapLookup;
+    // One question more, and the number of the questions that it leads to.
+    struct StNext
+    {
+        const char16_t*               pszName;
+        std::vector<std::string_view> lstWord; // of an attribute that is a word
+        std::size_t                   nAsked;
+    };
+    // Elements of one kind are asked the same in the same order, and share it.
+    struct StShared
+    {
+        StQuestions         stQuestions;
+        std::vector<StNext> lstNextAttribute;
+        std::vector<StNext> lstNextElement;
+    };
+
+    StMark&     mark(const xercesc::DOMNode& oNode);
+    std::size_t take(std::size_t nAsked, const StAttributeRead& stRead);
+    std::size_t take(std::size_t nAsked, const char16_t* pszElement);
+    std::size_t share(StQuestions stQuestions);
+
+    std::deque<StShared>                                m_lstShared{1}; // the first one asks nothing
+    std::unordered_map<const xercesc::DOMNode*, StMark> m_mapMark;
+    const xercesc::DOMNode*                             m_pLast     = nullptr; // a reader stays at one for a while
+    StMark*                                             m_pLastMark = nullptr;
 };
 } // namespace lint
 

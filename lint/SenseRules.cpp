@@ -3,13 +3,14 @@
 #include "lint/SenseRules.h"
 
 #include "lint/Nearness.h"
-#include "lint/ReadEntries.h"
+#include "lint/Phrases.h"
 #include "reader/SectionTable.h"
 #include "records/WordTables.h"
 
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -60,6 +61,18 @@ const char* fieldOfRow(std::size_t nRow)
     return pszField;
 }
 
+// The names down to an entry, for the few of which something is said.
+struct StWay
+{
+    const StWay*     pAbove;
+    std::string_view strName;
+
+    std::string text() const
+    {
+        return pAbove == nullptr ? std::string(strName) : pAbove->text() + "/" + std::string(strName);
+    }
+};
+
 // An element may be read into two menus, with other words in each.
 struct StReference
 {
@@ -97,37 +110,38 @@ private:
                                                                [pszField](const StKindOfOperation& stKind)
                                                                { return std::strcmp(stKind.pszField, pszField) == 0; });
         std::map<std::string, StPlace> mapTaskType;
+        std::set<std::string>*         pDefined = pKind == std::end(KINDS) ? nullptr : &m_mapOperation[wordOf(*pKind)];
         for (const StEntry& stEntry : stSection.lstEntry)
         {
             if (stEntry.enOrigin == EnOrigin::Module)
                 m_setModuleFile.insert(stEntry.stPlace.ulFile);
-            if (pKind != std::end(KINDS) && stEntry.enFate != EnEntryFate::Dropped)
-                m_mapOperation[wordOf(*pKind)].insert(stEntry.strId);
+            if (pDefined != nullptr && stEntry.enFate != EnEntryFate::Dropped)
+                pDefined->insert(stEntry.strId);
             if (std::strcmp(pszField, "lstTaskConfigInfoOperation") == 0)
                 checkTaskType(stEntry, mapTaskType.emplace(stEntry.strId, stEntry.stPlace).first->second);
-            takeEntry(stEntry, pszField);
+            takeEntry(stEntry, {nullptr, pszField});
         }
     }
 
-    void takeEntry(const StEntry& stEntry, const std::string& strPath)
+    void takeEntry(const StEntry& stEntry, const StWay& stAbove)
     {
-        const std::string strSubject = strPath + "/" + stEntry.strId;
+        const StWay stWay = {&stAbove, stEntry.strId};
         if (stEntry.enFate == EnEntryFate::Shadowed)
-            return checkShadowed(stEntry, strSubject);
+            return checkShadowed(stEntry, stWay);
         if (stEntry.enFate == EnEntryFate::Dropped && std::strcmp(stEntry.pszRecord, "StAsnOptionInfo") == 0)
             add("hidden-program-file", stEntry.stPlace,
                 "this server drops the program-file option " + inQuotes(stEntry.strId),
-                ": it does not back up program files", strSubject,
+                ": it does not back up program files", stWay.text(),
                 {"the resource BACKUP_PROGRAM_SUPPORT is 1 where they are backed up"});
         if (stEntry.enFate != EnEntryFate::Counts)
             return;
         if (const StField* pType = stEntry.field("enType"))
-            takeReference(stEntry, *pType, strSubject);
+            takeReference(stEntry, *pType, stWay);
         for (const StEntry& stChild : stEntry.lstChild)
-            takeEntry(stChild, strSubject);
+            takeEntry(stChild, stWay);
     }
 
-    void takeReference(const StEntry& stEntry, const StField& stType, const std::string& strSubject)
+    void takeReference(const StEntry& stEntry, const StField& stType, const StWay& stWay)
     {
         const StField* pId = stEntry.field("strId");
         if (pId == nullptr || pId->strValue.empty() || m_stLost.setText.count(pId->strValue) != 0)
@@ -137,7 +151,7 @@ private:
         stReference.stPlace        = stPlace;
         stReference.strId          = pId->strValue;
         stReference.stType         = stType.stPlace.ulLine != 0 ? stType.stPlace : stPlace;
-        stReference.strSubject     = strSubject;
+        stReference.strSubject     = stWay.text();
         if (!stType.strValue.empty())
             stReference.setWord.insert(stType.strValue);
     }
@@ -207,13 +221,13 @@ private:
     }
 
     // A later entry of one file is told about the file itself.
-    void checkShadowed(const StEntry& stEntry, const std::string& strSubject)
+    void checkShadowed(const StEntry& stEntry, const StWay& stWay)
     {
         if (stEntry.enOrigin != EnOrigin::Module || stEntry.stBecause.ulFile == stEntry.stPlace.ulFile)
             return;
         add("module-shadowed", stEntry.stPlace,
             "what the module says about " + inQuotes(stEntry.strId) + " is never asked for",
-            definedBy(stEntry.stBecause), strSubject);
+            definedBy(stEntry.stBecause), stWay.text());
     }
 
     void checkTaskType(const StEntry& stEntry, const StPlace& stFirst)

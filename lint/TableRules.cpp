@@ -5,6 +5,7 @@
 #include "common/XmlRead.h"
 #include "filecheck/ParseXMLFile.h"
 #include "lint/DocumentRules.h"
+#include "lint/Phrases.h"
 
 #include <algorithm>
 #include <limits>
@@ -12,38 +13,20 @@
 #include <optional>
 #include <utility>
 
-using namespace xercesc;
-
 namespace lint
 {
 namespace
 {
-constexpr const char*     BLANKS     = " \t\n\v\f\r";
-constexpr std::size_t     IDS_SHOWN  = 3;
-constexpr const char16_t* PARAM_NAME = u"name";
-constexpr const char16_t* RULE_VALUE = u"value";
+constexpr std::size_t IDS_SHOWN  = 3;
+constexpr const char* PARAM_NAME = "name";
+constexpr const char* RULE_VALUE = "value";
 
-std::string quoted(const std::string& strText)
+bool isDigits(std::string_view strText)
 {
-    return "\"" + strText + "\"";
+    return !strText.empty() && strText.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-std::string trimmed(const std::string& strText)
-{
-    const std::size_t nBegin = strText.find_first_not_of(BLANKS);
-    return nBegin == std::string::npos ? std::string()
-                                       : strText.substr(nBegin, strText.find_last_not_of(BLANKS) - nBegin + 1);
-}
-
-bool isDigits(const std::string& strText)
-{
-    return !strText.empty() && strText.find_first_not_of("0123456789") == std::string::npos;
-}
-
-const XMLCh* attributeOf(const DOMElement& oElement, const char16_t* pszName)
-{
-    return oElement.getAttribute(pszName);
-}
+using Elements = std::vector<const StReadElement*>;
 
 // What is common to the rules of tables: the document, and where things stand.
 class CTableCheck
@@ -52,64 +35,59 @@ public:
     CTableCheck(const StReadDocument& stRead, CFileReport& oReport) : m_stRead(stRead), m_oReport(oReport) {}
 
 protected:
-    // The elements of a name that their reader came to, in document order.
-    std::vector<const DOMElement*> met(const DOMElement& oBelow, const char16_t* pszName) const
+    // The elements of a name that their reader came to, from one element to another.
+    static Elements met(const StReadElement* pBegin, const StReadElement* pEnd, std::string_view strName)
     {
-        std::vector<const DOMElement*> lstElement;
-        for (const DOMElement& oElement : CElements(&oBelow, pszName))
+        Elements lstElement;
+        for (const StReadElement* pElement = pBegin; pElement != pEnd; ++pElement)
         {
-            if (m_stRead.oMarks.isMet(oElement))
-                lstElement.push_back(&oElement);
+            if (pElement->stMark.bMet && pElement->strName == strName)
+                lstElement.push_back(pElement);
         }
         return lstElement;
     }
 
-    std::vector<const DOMElement*> metInDocument(const char16_t* pszName) const
+    static Elements met(const StReadElement& stBelow, std::string_view strName)
     {
-        const DOMElement&              oRoot      = *m_stRead.oDocument.getDocumentElement();
-        std::vector<const DOMElement*> lstElement = met(oRoot, pszName);
-        if (XMLString::equals(oRoot.getTagName(), pszName))
-            lstElement.insert(lstElement.begin(), &oRoot);
-        return lstElement;
+        return met(&stBelow + 1, stBelow.pEnd, strName);
+    }
+
+    Elements metInDocument(std::string_view strName) const
+    {
+        return met(&m_stRead.oTree.root(), m_stRead.oTree.root().pEnd, strName);
     }
 
     // Whether an attribute stands there that nobody reads: perhaps the one that is missing.
-    bool hasUnread(const DOMElement& oElement) const
+    static bool hasUnread(const StReadElement& stElement)
     {
-        const std::vector<StAskedAttribute>& lstAsked = m_stRead.oMarks.attributes(oElement);
-        const DOMNamedNodeMap&               oMap     = *oElement.getAttributes();
-        for (XMLSize_t nAt = 0; nAt < oMap.getLength(); ++nAt)
-        {
-            if (std::none_of(lstAsked.begin(), lstAsked.end(),
-                             [&](const StAskedAttribute& stAsked) { return stAsked.pAttr == oMap.item(nAt); }))
-                return true;
-        }
-        return false;
+        return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
+                           [](const StWrittenAttribute& stWritten) { return !stWritten.bRead; });
     }
 
-    bool holdsUnread(const DOMElement& oElement) const
+    static bool holdsUnread(const StReadElement& stElement)
     {
-        for (const DOMElement* pChild = oElement.getFirstElementChild(); pChild != nullptr;
-             pChild                   = pChild->getNextElementSibling())
-        {
-            if (!m_stRead.oMarks.isMet(*pChild) || hasUnread(*pChild) || holdsUnread(*pChild))
-                return true;
-        }
-        return false;
+        return std::any_of(&stElement + 1, stElement.pEnd,
+                           [](const StReadElement& stInside) { return !stInside.stMark.bMet || hasUnread(stInside); });
     }
 
-    StSpot nameSpot(const DOMElement& oElement) const { return m_stRead.oPlaces.nameSpot(oElement); }
+    StSpot nameSpot(const StReadElement& stElement) const { return m_stRead.oPlaces.nameSpot(*stElement.pElement); }
 
-    std::string lineOf(const DOMElement& oElement) const { return std::to_string(nameSpot(oElement).ulLine); }
+    StSpot valueSpot(const StReadElement& stElement, std::string_view strAttribute) const
+    {
+        return m_stRead.oPlaces.valueSpot(*stElement.pElement, strAttribute);
+    }
+
+    std::string lineOf(const StReadElement& stElement) const { return std::to_string(nameSpot(stElement).ulLine); }
 
     // A part of an element's text, where the file has that text as it is read. Of an
     // empty part what comes behind it.
-    StSpot textSpot(const DOMElement& oElement, const std::string& strText, std::size_t nFrom, std::size_t nBytes) const
+    StSpot textSpot(const StReadElement& stElement, const std::string& strText, std::size_t nFrom,
+                    std::size_t nBytes) const
     {
-        const catalog::StElementPlace& stPlace  = m_stRead.oPlaces.element(oElement);
+        const catalog::StElementPlace& stPlace  = m_stRead.oPlaces.element(*stElement.pElement);
         const std::string&             strBytes = m_stRead.oPlaces.text()->bytes();
         if (strText.empty() || !stPlace.bWritten || strBytes.compare(stPlace.stTag.nEnd, strText.size(), strText) != 0)
-            return nameSpot(oElement);
+            return nameSpot(stElement);
         return m_stRead.oPlaces.text()->spot(stPlace.stTag.nEnd + nFrom, std::max<std::size_t>(nBytes, 1));
     }
 
@@ -125,12 +103,12 @@ public:
 
     void run()
     {
-        for (const DOMElement* pRecord : metInDocument(u"record"))
+        for (const StReadElement* pRecord : metInDocument("record"))
         {
             m_pRecord  = pRecord;
             m_bFlawed  = holdsUnread(*pRecord);
             m_mapParam = {};
-            for (const DOMElement* pParam : met(*pRecord, u"param"))
+            for (const StReadElement* pParam : met(*pRecord, "param"))
                 takeParam(*pParam);
             if (m_stRead.enKind == EnFileKind::AlarmExplanation)
                 checkExplanation();
@@ -142,14 +120,15 @@ public:
 private:
     struct StParam
     {
-        const DOMElement* pElement;
-        std::string       strText;
+        const StReadElement* pElement;
+        std::string          strText;
     };
 
-    void takeParam(const DOMElement& oParam)
+    void takeParam(const StReadElement& stParam)
     {
-        const std::string strName = toLocal(attributeOf(oParam, PARAM_NAME));
-        if (!isKnown(oParam, strName)) // told with the words, or as missing
+        const std::string strName(stParam.read(PARAM_NAME));
+        const auto*       pAsked = stParam.asked(PARAM_NAME);
+        if (pAsked == nullptr || !pAsked->isWord(strName)) // told with the words, or as missing
         {
             m_bFlawed = true;
             return;
@@ -158,30 +137,20 @@ private:
         // The ids of several lists add up; of anything else the last one counts.
         if (!lstParam.empty() && strName != "FaultIDList")
         {
-            m_oReport.add("duplicate-record", m_stRead.oPlaces.valueSpot(oParam, PARAM_NAME),
-                          "a second " + quoted(strName) + " in one record takes the place of the one in line " +
+            m_oReport.add("duplicate-record", valueSpot(stParam, PARAM_NAME),
+                          "a second " + inQuotes(strName) + " in one record takes the place of the one in line " +
                               lineOf(*lstParam.back().pElement),
                           about() + "@" + strName);
             lstParam.clear();
         }
-        lstParam.push_back({&oParam, toLocal(oParam.getTextContent())});
-    }
-
-    bool isKnown(const DOMElement& oParam, const std::string& strName) const
-    {
-        for (const StAskedAttribute& stAsked : m_stRead.oMarks.attributes(oParam))
-        {
-            if (XMLString::equals(stAsked.pszName, PARAM_NAME))
-                return std::find(stAsked.lstWord.begin(), stAsked.lstWord.end(), strName) != stAsked.lstWord.end();
-        }
-        return false;
+        lstParam.push_back({&stParam, toLocal(stParam.pElement->getTextContent())});
     }
 
     // What a record is about, without its line.
     std::string about() const
     {
         const auto itId = m_mapParam.find(m_stRead.enKind == EnFileKind::AlarmExplanation ? "AlarmID" : "DevType");
-        return subjectOf(*m_pRecord) + (itId == m_mapParam.end() ? "" : "[" + itId->second.back().strText + "]");
+        return m_pRecord->subject() + (itId == m_mapParam.end() ? "" : "[" + itId->second.back().strText + "]");
     }
 
     const StParam* find(const char* pszName) const
@@ -194,22 +163,22 @@ private:
     std::optional<unsigned long> checkNumber(const StParam& stParam, std::size_t nFrom, std::size_t nBytes,
                                              const char* pszInstead)
     {
-        const std::string strPiece  = stParam.strText.substr(nFrom, nBytes);
-        const std::string strNumber = trimmed(strPiece);
-        const auto        ulNumber  = CAlarmTable::readNumber(strPiece);
+        const std::string strPiece = stParam.strText.substr(nFrom, nBytes);
+        const std::string strNumber(trimmed(strPiece));
+        const auto        ulNumber = CAlarmTable::readNumber(strPiece);
         if (ulNumber && isDigits(strNumber))
             return ulNumber;
         const std::size_t nBlank   = std::min(strPiece.find_first_not_of(BLANKS), strPiece.size());
         const StSpot      stSpot   = textSpot(*stParam.pElement, stParam.strText, nFrom + nBlank, strNumber.size());
         const std::string strAbout = about() + ":" + strNumber;
         if (ulNumber)
-            m_oReport.add("bad-fault-id", stSpot, quoted(strNumber) + " is read as " + std::to_string(*ulNumber),
+            m_oReport.add("bad-fault-id", stSpot, inQuotes(strNumber) + " is read as " + std::to_string(*ulNumber),
                           strAbout, {"write the digits alone"});
         else if (strNumber.empty())
             m_oReport.add("bad-fault-id", stSpot, std::string("a number is missing here: ") + pszInstead, strAbout);
         else
             m_oReport.add("bad-fault-id", stSpot,
-                          quoted(strNumber) + (isDigits(strNumber) ? " is too large: " : " is no number: ") +
+                          inQuotes(strNumber) + (isDigits(strNumber) ? " is too large: " : " is no number: ") +
                               pszInstead,
                           strAbout);
         return std::nullopt;
@@ -259,7 +228,7 @@ private:
             ulDevType           = ulNumber.value_or(0);
             if (ulDevType == ALL_TYPES)
                 m_oReport.add("bad-fault-id", spotOf(*pType),
-                              quoted(trimmed(pType->strText)) + " stands for every device type", about());
+                              inQuotes(trimmed(pType->strText)) + " stands for every device type", about());
         }
         const auto itList = m_mapParam.find("FaultIDList");
         if (itList == m_mapParam.end())
@@ -277,7 +246,7 @@ private:
     {
         std::vector<std::string> lstRepeated;
         StSpot                   stRepeated;
-        const DOMElement*        pFirst = nullptr;
+        const StReadElement*     pFirst = nullptr;
         for (const StParam& stList : lstList)
         {
             for (std::size_t nFrom = 0; nFrom <= stList.strText.size();)
@@ -304,7 +273,7 @@ private:
     }
 
     // One finding for a record that was copied whole.
-    std::string repeatedText(const std::vector<std::string>& lstId, const DOMElement& oFirst) const
+    std::string repeatedText(const std::vector<std::string>& lstId, const StReadElement& stFirst) const
     {
         std::string strIds;
         for (std::size_t nAt = 0; nAt < std::min(lstId.size(), IDS_SHOWN); ++nAt)
@@ -312,15 +281,15 @@ private:
         if (lstId.size() > IDS_SHOWN)
             strIds += " and " + std::to_string(lstId.size() - IDS_SHOWN) + " more";
         return (lstId.size() == 1 ? "fault id " : "fault ids ") + strIds + (lstId.size() == 1 ? " is" : " are") +
-               " registered by the record of line " + lineOf(oFirst) + " already";
+               " registered by the record of line " + lineOf(stFirst) + " already";
     }
 
-    const DOMElement*                           m_pRecord = nullptr;
+    const StReadElement*                        m_pRecord = nullptr;
     bool                                        m_bFlawed = false; // a mistake in it is told already
     std::map<std::string, std::vector<StParam>> m_mapParam;        // of the record, by name
 
-    std::map<unsigned long, const DOMElement*>                           m_mapAlarm; // the first record of an id
-    std::map<std::pair<unsigned long, unsigned long>, const DOMElement*> m_mapFault; // of a device type and fault id
+    std::map<unsigned long, const StReadElement*>                           m_mapAlarm; // the first record of an id
+    std::map<std::pair<unsigned long, unsigned long>, const StReadElement*> m_mapFault; // of a device type and fault id
 };
 
 // The rules of uploaded files: types, each with its parameters.
@@ -331,8 +300,8 @@ public:
 
     void run()
     {
-        const std::vector<const DOMElement*> lstRoot = metInDocument(u"zipcheck");
-        for (const DOMElement* pRoot : lstRoot)
+        const Elements lstRoot = metInDocument("zipcheck");
+        for (const StReadElement* pRoot : lstRoot)
         {
             if (pRoot == lstRoot.front())
                 checkRoot(*pRoot);
@@ -340,81 +309,81 @@ public:
                 m_oReport.add("duplicate-record", nameSpot(*pRoot),
                               "a second <zipcheck> is passed over, the one of line " + lineOf(*lstRoot.front()) +
                                   " counts",
-                              subjectOf(*pRoot));
+                              pRoot->subject());
         }
     }
 
 private:
-    void checkRoot(const DOMElement& oRoot)
+    void checkRoot(const StReadElement& stRoot)
     {
-        const std::vector<const DOMElement*> lstType = met(oRoot, u"uncompressed_type");
-        if (lstType.empty() && !holdsUnread(oRoot))
-            m_oReport.add("record-without-effect", nameSpot(oRoot),
-                          "there is no <uncompressed_type> in it, so the file is invalid", subjectOf(oRoot));
-        for (const DOMElement* pType : lstType)
+        const Elements lstType = met(stRoot, "uncompressed_type");
+        if (lstType.empty() && !holdsUnread(stRoot))
+            m_oReport.add("record-without-effect", nameSpot(stRoot),
+                          "there is no <uncompressed_type> in it, so the file is invalid", stRoot.subject());
+        for (const StReadElement* pType : lstType)
         {
-            m_strAbout = subjectOf(*pType) + "[" + valueOf(*pType) + "]";
+            const std::string strType(pType->read(RULE_VALUE));
+            m_strAbout = pType->subject() + "[" + strType + "]";
             if (!checkValue(*pType))
                 continue;
-            const auto [itFirst, bFirst] = m_mapType.emplace(valueOf(*pType), pType);
+            const auto [itFirst, bFirst] = m_mapType.emplace(strType, pType);
             if (bFirst)
                 checkParams(*pType);
             else
-                m_oReport.add("duplicate-record", m_stRead.oPlaces.valueSpot(*pType, RULE_VALUE),
-                              quoted(valueOf(*pType)) + " has its rules in line " + lineOf(*itFirst->second) +
+                m_oReport.add("duplicate-record", valueSpot(*pType, RULE_VALUE),
+                              inQuotes(strType) + " has its rules in line " + lineOf(*itFirst->second) +
                                   " already, these are dropped",
                               m_strAbout);
         }
     }
 
-    static std::string valueOf(const DOMElement& oElement) { return toLocal(attributeOf(oElement, RULE_VALUE)); }
-
     // An empty value ends the read of the file.
-    bool checkValue(const DOMElement& oElement)
+    bool checkValue(const StReadElement& stElement)
     {
-        if (!valueOf(oElement).empty())
+        if (!stElement.read(RULE_VALUE).empty())
             return true;
-        if (!hasUnread(oElement))
-            m_oReport.add("bad-rule-value", m_stRead.oPlaces.valueSpot(oElement, RULE_VALUE),
-                          "<" + toLocal(oElement.getTagName()) + "> has no value, so the file is invalid from here on",
-                          m_strAbout + "/" + toLocal(oElement.getTagName()));
+        if (!hasUnread(stElement))
+            m_oReport.add("bad-rule-value", valueSpot(stElement, RULE_VALUE),
+                          tag(stElement.strName) + " has no value, so the file is invalid from here on",
+                          m_strAbout + "/" + std::string(stElement.strName));
         return false;
     }
 
-    void checkParams(const DOMElement& oType)
+    void checkParams(const StReadElement& stType)
     {
         for (const char16_t* pszName : ParseXMLFile::paramNames())
         {
-            const std::vector<const DOMElement*> lstParam = met(oType, pszName);
-            for (const DOMElement* pParam : lstParam)
+            const std::string strName  = toLocal(pszName);
+            const Elements    lstParam = met(stType, strName);
+            for (const StReadElement* pParam : lstParam)
             {
                 if (pParam != lstParam.front())
                     m_oReport.add("duplicate-record", nameSpot(*pParam),
-                                  "a second <" + toLocal(pszName) + "> is passed over, the one of line " +
+                                  "a second " + tag(strName) + " is passed over, the one of line " +
                                       lineOf(*lstParam.front()) + " counts",
-                                  m_strAbout + "/" + toLocal(pszName));
+                                  m_strAbout + "/" + strName);
                 else if (checkValue(*pParam))
-                    checkLimit(*pParam, toLocal(pszName));
+                    checkLimit(*pParam);
             }
         }
     }
 
     // A limit begins with its number; what may stand behind it is the unit.
-    void checkLimit(const DOMElement& oParam, const std::string& strName)
+    void checkLimit(const StReadElement& stParam)
     {
-        if (strName.find("max_") == std::string::npos)
+        if (stParam.strName.find("max_") == std::string_view::npos)
             return;
-        const std::string strValue  = valueOf(oParam);
-        const std::string strNumber = trimmed(strValue);
-        const std::size_t nEnd      = std::min(strNumber.find_first_not_of("0123456789."), strNumber.size());
-        if (strNumber.substr(0, nEnd).find_first_of("123456789") == std::string::npos)
-            m_oReport.add("bad-rule-value", m_stRead.oPlaces.valueSpot(oParam, RULE_VALUE),
-                          quoted(strValue) + " is no positive number: <" + strName + "> is a limit",
-                          m_strAbout + "/" + strName);
+        const std::string_view strValue  = stParam.read(RULE_VALUE);
+        const std::string_view strNumber = trimmed(strValue);
+        const std::size_t      nEnd      = std::min(strNumber.find_first_not_of("0123456789."), strNumber.size());
+        if (strNumber.substr(0, nEnd).find_first_of("123456789") == std::string_view::npos)
+            m_oReport.add("bad-rule-value", valueSpot(stParam, RULE_VALUE),
+                          inQuotes(strValue) + " is no positive number: " + tag(stParam.strName) + " is a limit",
+                          m_strAbout + "/" + std::string(stParam.strName));
     }
 
-    std::string                              m_strAbout; // the type that is looked at
-    std::map<std::string, const DOMElement*> m_mapType;  // the first of a value
+    std::string                                 m_strAbout; // the type that is looked at
+    std::map<std::string, const StReadElement*> m_mapType;  // the first of a value
 };
 } // namespace
 

@@ -1,35 +1,19 @@
 // Words, numbers and flags that read as something else than is written. What counts
 // is how the readers asked for an attribute.
-#include "common/XmlRead.h"
+#include "common/XmlText.h"
 #include "lint/DocumentRules.h"
 #include "lint/Nearness.h"
+#include "lint/Phrases.h"
 #include "records/WordTables.h"
 
 #include <algorithm>
 #include <cctype>
 #include <limits>
 
-using namespace xercesc;
-
 namespace lint
 {
 namespace
 {
-constexpr std::string_view BLANKS = " \t\r\n";
-
-std::string quoted(std::string_view strText)
-{
-    return "\"" + std::string(strText) + "\"";
-}
-
-std::string_view trimmed(std::string_view strText)
-{
-    const std::size_t nBegin = strText.find_first_not_of(BLANKS);
-    if (nBegin == std::string_view::npos)
-        return {};
-    return strText.substr(nBegin, strText.find_last_not_of(BLANKS) - nBegin + 1);
-}
-
 // Whether the digits of a number, sign and all, lie within what 32 bits hold, signed
 // or not.
 bool fits(std::string_view strNumber)
@@ -60,36 +44,36 @@ public:
     {
     }
 
-    void check(const DOMElement& oElement)
+    void run()
     {
-        for (const StAskedAttribute& stAsked : m_stRead.oMarks.attributes(oElement))
+        for (const StReadElement& stElement : m_stRead.oTree.elements())
         {
-            if (stAsked.pAttr == nullptr || stAsked.enReadAs == EnReadAs::Text)
-                continue;
-            const std::string strValue = toLocal(stAsked.pAttr->getValue());
-            if (stAsked.enReadAs == EnReadAs::Word)
-                checkWord(oElement, stAsked, strValue);
-            else
-                checkNumber(oElement, stAsked, strValue);
+            for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
+            {
+                const StAskedAttribute* pAsked = stWritten.bRead ? stElement.asked(stWritten.strName) : nullptr;
+                if (pAsked == nullptr || pAsked->enReadAs == EnReadAs::Text)
+                    continue;
+                if (pAsked->enReadAs == EnReadAs::Word)
+                    checkWord(stElement, *pAsked, stWritten.strValue);
+                else
+                    checkNumber(stElement, *pAsked, stWritten.strValue);
+            }
         }
-        for (const DOMElement* pChild = oElement.getFirstElementChild(); pChild != nullptr;
-             pChild                   = pChild->getNextElementSibling())
-            check(*pChild);
     }
 
 private:
-    void checkWord(const DOMElement& oElement, const StAskedAttribute& stAsked, const std::string& strValue)
+    void checkWord(const StReadElement& stElement, const StAskedAttribute& stAsked, const std::string& strValue)
     {
         const std::vector<std::string_view>& lstWord = stAsked.lstWord;
-        if (std::find(lstWord.begin(), lstWord.end(), strValue) != lstWord.end())
+        if (stAsked.isWord(strValue))
             return;
-        const std::string strName = toLocal(stAsked.pszName);
-        const bool        bTask   = isTaskTypeTable(lstWord);
-        const auto        itWord  = std::find(lstWord.begin(), lstWord.end(), trimmed(strValue));
+        const std::string& strName = stAsked.strName;
+        const bool         bTask   = isTaskTypeTable(lstWord);
+        const auto         itWord  = std::find(lstWord.begin(), lstWord.end(), trimmed(strValue));
         if (itWord != lstWord.end() && itWord->size() != strValue.size())
-            return add("outer-blank", oElement, stAsked,
-                       quoted(strValue) + " is none of the words of " + quoted(strName) + " because of its blank",
-                       {"write " + quoted(*itWord)});
+            return add("outer-blank", stElement, stAsked,
+                       inQuotes(strValue) + " is none of the words of " + inQuotes(strName) + " because of its blank",
+                       {"write " + inQuotes(*itWord)});
         std::vector<std::string> lstKnown;
         for (const std::string_view strWord : lstWord)
         {
@@ -102,17 +86,17 @@ private:
         add(bTask    ? "unknown-task-type"
             : bTable ? "unknown-parameter"
                      : "unknown-word",
-            oElement, stAsked,
-            bTask    ? "there is no task type " + quoted(strValue)
-            : bTable ? "there is no parameter " + quoted(strValue) + ": it is passed over"
-                     : quoted(strValue) + " is none of the words of " + quoted(strName),
-            {strNear.empty() ? "words read here: " + listText(lstKnown) : "did you mean " + quoted(strNear) + "?"});
+            stElement, stAsked,
+            bTask    ? "there is no task type " + inQuotes(strValue)
+            : bTable ? "there is no parameter " + inQuotes(strValue) + ": it is passed over"
+                     : inQuotes(strValue) + " is none of the words of " + inQuotes(strName),
+            {strNear.empty() ? "words read here: " + listText(lstKnown) : "did you mean " + inQuotes(strNear) + "?"});
     }
 
-    void checkNumber(const DOMElement& oElement, const StAskedAttribute& stAsked, const std::string& strValue)
+    void checkNumber(const StReadElement& stElement, const StAskedAttribute& stAsked, const std::string& strValue)
     {
         const bool             bFlag   = stAsked.enReadAs == EnReadAs::Flag;
-        const std::string      strName = quoted(toLocal(stAsked.pszName));
+        const std::string      strName = inQuotes(stAsked.strName);
         const std::string_view strText = trimmed(strValue);
         const std::size_t      nSign   = !strText.empty() && (strText[0] == '-' || strText[0] == '+') ? 1 : 0;
         std::size_t            nEnd    = nSign;
@@ -120,30 +104,30 @@ private:
             ++nEnd;
         const std::string strReads = std::to_string(toNumber(strValue));
         if (nEnd == nSign)
-            return add("number-missing", oElement, stAsked,
-                       quoted(strValue) +
+            return add("number-missing", stElement, stAsked,
+                       inQuotes(strValue) +
                            (bFlag ? " reads as no, like every text without digits" : " has no digits and reads as 0") +
                            " (" + strName + ")",
                        {bFlag ? "write \"1\" for yes, \"0\" for no" : "write a number"});
         if (nEnd < strText.size())
-            return add("number-tail", oElement, stAsked,
-                       quoted(strValue) + " reads as " + strReads + ": " + strName + " is a number",
+            return add("number-tail", stElement, stAsked,
+                       inQuotes(strValue) + " reads as " + strReads + ": " + strName + " is a number",
                        {"write the digits alone"});
         if (!fits(strText))
-            return add("number-range", oElement, stAsked,
-                       quoted(strValue) + " does not fit into 32 bits and reads as " + strReads + " (" + strName + ")",
-                       {});
+            return add(
+                "number-range", stElement, stAsked,
+                inQuotes(strValue) + " does not fit into 32 bits and reads as " + strReads + " (" + strName + ")", {});
         if (strText.size() != strValue.size())
-            add("outer-blank", oElement, stAsked, "a blank stands around the number of " + strName,
-                {"write " + quoted(strText)});
+            add("outer-blank", stElement, stAsked, "a blank stands around the number of " + strName,
+                {"write " + inQuotes(strText)});
     }
 
-    void add(const char* pszRule, const DOMElement& oElement, const StAskedAttribute& stAsked, std::string strMessage,
-             std::vector<std::string> lstHelp)
+    void add(const char* pszRule, const StReadElement& stElement, const StAskedAttribute& stAsked,
+             std::string strMessage, std::vector<std::string> lstHelp)
     {
-        m_stLost.setText.insert(toLocal(oElement.getAttribute(u"id")));
-        m_oReport.add(pszRule, m_stRead.oPlaces.valueSpot(oElement, stAsked.pszName), std::move(strMessage),
-                      subjectOf(oElement) + "@" + toLocal(stAsked.pszName) + "=", std::move(lstHelp));
+        m_stLost.setText.insert(std::string(stElement.value("id")));
+        m_oReport.add(pszRule, m_stRead.oPlaces.valueSpot(*stElement.pElement, stAsked.strName), std::move(strMessage),
+                      stElement.subject() + "@" + stAsked.strName + "=", std::move(lstHelp));
     }
 
     const StReadDocument& m_stRead;
@@ -154,6 +138,6 @@ private:
 
 void checkValues(const StReadDocument& stRead, CFileReport& oReport, StLostNames& stLost)
 {
-    CValueCheck(stRead, oReport, stLost).check(*stRead.oDocument.getDocumentElement());
+    CValueCheck(stRead, oReport, stLost).run();
 }
 } // namespace lint

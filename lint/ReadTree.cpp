@@ -1,0 +1,154 @@
+// See ReadTree.h.
+#include "lint/ReadTree.h"
+
+#include "common/XmlRead.h"
+#include "lint/Nearness.h"
+
+#include <algorithm>
+
+using namespace xercesc;
+
+namespace lint
+{
+namespace
+{
+const StWrittenAttribute* written(const StReadElement& stElement, std::string_view strAttribute)
+{
+    for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
+    {
+        if (stWritten.strName == strAttribute)
+            return &stWritten;
+    }
+    return nullptr;
+}
+
+// Two elements whose readers look for the same names, one inside the other without
+// being looked for by it: what stands in the inner one belongs to both.
+bool shares(const StReadElement& stOuter, const StReadElement& stInner)
+{
+    const std::vector<std::string>& lstName = stInner.pAsked->lstElement;
+    return !lstName.empty() && !stOuter.pAsked->looksFor(stInner.strName) &&
+           std::any_of(lstName.begin(), lstName.end(),
+                       [&](const std::string& strName) { return stOuter.pAsked->looksFor(strName); });
+}
+
+bool isSpoilt(const StReadElement& stElement)
+{
+    std::vector<std::string> lstMissing;
+    for (const StAskedAttribute& stAsked : stElement.pAsked->lstAttribute)
+    {
+        if (!stElement.isRead(stAsked.strName))
+            lstMissing.push_back(stAsked.strName);
+    }
+    // What was not asked for where the reader gave up may be right.
+    return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
+                       [&](const StWrittenAttribute& stWritten) {
+                           return !stWritten.bRead &&
+                                  (!stElement.stMark.bGivenUp || !nearestName(stWritten.strName, lstMissing).empty());
+                       });
+}
+
+bool hasUnread(const StReadElement& stElement)
+{
+    return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
+                       [](const StWrittenAttribute& stWritten) { return !stWritten.bRead; });
+}
+} // namespace
+
+std::string_view StReadElement::value(std::string_view strAttribute) const
+{
+    const StWrittenAttribute* pWritten = written(*this, strAttribute);
+    return pWritten == nullptr ? std::string_view() : pWritten->strValue;
+}
+
+bool StReadElement::isRead(std::string_view strAttribute) const
+{
+    const StWrittenAttribute* pWritten = written(*this, strAttribute);
+    return pWritten != nullptr && pWritten->bRead;
+}
+
+std::string_view StReadElement::read(std::string_view strAttribute) const
+{
+    const StWrittenAttribute* pWritten = written(*this, strAttribute);
+    return pWritten == nullptr || !pWritten->bRead ? std::string_view() : pWritten->strValue;
+}
+
+bool StReadElement::isOption() const
+{
+    const StAskedAttribute* pValue = asked("value");
+    return pValue != nullptr && pValue->enReadAs == EnReadAs::Number;
+}
+
+std::string StReadElement::subject() const
+{
+    std::string strStep(strName);
+    if (const std::string_view strId = value("id"); !strId.empty())
+        strStep.append("[").append(strId).append("]");
+    return pParent == nullptr ? strStep : pParent->subject() + "/" + strStep;
+}
+
+CReadTree::CReadTree(const DOMDocument& oDocument, const catalog::CDocumentPlaces& oPlaces, const CReadMarks& oMarks)
+    : m_oMarks(oMarks), m_stOfDocument(oMarks.questions(oMarks.of(oDocument))), m_lstElement(oPlaces.elements().size())
+{
+    std::vector<StReadElement*> lstOpen;
+    for (std::size_t nAt = 0; nAt < m_lstElement.size(); ++nAt)
+    {
+        const catalog::StElementPlace& stPlace   = oPlaces.elements()[nAt];
+        StReadElement&                 stElement = m_lstElement[nAt];
+        while (!lstOpen.empty() && lstOpen.back()->pEnd == &stElement)
+            lstOpen.pop_back();
+        stElement.pParent = lstOpen.empty() ? nullptr : lstOpen.back();
+        stElement.pEnd    = m_lstElement.data() + stPlace.nEnd;
+        fill(stElement, *stPlace.pElement);
+        if (stElement.stMark.bMet)
+            link(stElement, lstOpen);
+        lstOpen.push_back(&stElement);
+    }
+}
+
+void CReadTree::fill(StReadElement& stElement, const DOMElement& oElement)
+{
+    stElement.pElement          = &oElement;
+    stElement.strName           = nameOf(oElement.getNodeName());
+    stElement.stMark            = m_oMarks.of(oElement);
+    stElement.pAsked            = &m_oMarks.questions(stElement.stMark);
+    const DOMNamedNodeMap& oMap = *oElement.getAttributes();
+    stElement.lstAttribute.reserve(oMap.getLength());
+    for (XMLSize_t nAt = 0; nAt < oMap.getLength(); ++nAt)
+    {
+        const auto&               oAttr    = static_cast<const DOMAttr&>(*oMap.item(nAt));
+        const std::string_view    strName  = nameOf(oAttr.getName());
+        const std::u16string_view strValue = valueOf(oAttr);
+        stElement.lstAttribute.push_back(
+            {strName, toLocal(strValue.data(), strValue.size()), stElement.pAsked->find(strName) != nullptr});
+    }
+}
+
+// Finds whose an element is that a reader came to.
+void CReadTree::link(StReadElement& stElement, const std::vector<StReadElement*>& lstOpen)
+{
+    stElement.bHoldsMet = true;
+    for (auto itOpen = lstOpen.rbegin(); itOpen != lstOpen.rend(); ++itOpen)
+    {
+        StReadElement& stOpen = **itOpen;
+        stOpen.bHoldsMet      = true;
+        if (!stOpen.stMark.bMet)
+            continue;
+        stElement.bInside = stElement.bInside || stOpen.bInside;
+        if (stElement.pOwner == nullptr && stOpen.pAsked->looksFor(stElement.strName))
+            stElement.pOwner = &stOpen;
+        if (stElement.pAround == nullptr && shares(stOpen, stElement))
+            stElement.pAround = &stOpen;
+    }
+    stElement.bInside = stElement.bInside || stElement.pAround != nullptr;
+    stElement.bSpoilt = hasUnread(stElement) && isSpoilt(stElement);
+}
+
+std::string_view CReadTree::nameOf(const XMLCh* pszPooled)
+{
+    const auto [itName, bNew] = m_mapName.try_emplace(pszPooled);
+    if (bNew)
+        itName->second = toLocal(pszPooled);
+    return itName->second;
+}
+} // namespace lint
