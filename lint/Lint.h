@@ -19,6 +19,12 @@
 #include <string>
 #include <vector>
 
+namespace catalog
+{
+class CCatalogMaker;
+struct StTypeCatalog;
+} // namespace catalog
+
 namespace lint
 {
 enum class EnSeverity : std::int32_t
@@ -82,14 +88,22 @@ using FindingSink = std::function<void(const StFinding&)>;
 // not tell it. A file that cannot be read is a finding.
 OPERATIONXML_API bool lintFile(const std::string& strPath, EnFileKind enKind, const FindingSink& fnFinding);
 
+// Hears what lintServer() reads on its way, for whoever needs it as well: nobody has
+// to read a server twice. What is not given is not called.
+struct StReadAlong
+{
+    std::function<void(const std::string&)>            fnFile;    // before it is read
+    std::function<void(const catalog::CCatalogMaker&)> fnModules; // once, when the modules are read
+    std::function<void(const catalog::StTypeCatalog&)> fnType;    // once for every registered type, in any order
+};
+
 // Checks every file that the readers would find through the platform: the
 // configuration of each installed device type with what modules and capacity
 // documents make of it, the check files, the alarm tables, and the folders in which
 // they lie. What is wrong with the lists of the platform itself (a version in service
 // without a capacity record, say) is told about strInventory, whatever keeps them.
-// fnBegin, when given, is told each file before it is read.
 OPERATIONXML_API void lintServer(const std::string& strInventory, const FindingSink& fnFinding,
-                                 const std::function<void(const std::string&)>& fnBegin = {});
+                                 const StReadAlong& stAlong = {});
 } // namespace lint
 
 #endif

@@ -16,9 +16,8 @@ namespace
 class CServerCheck
 {
 public:
-    CServerCheck(const std::string& strInventory, const FindingSink& fnFinding,
-                 const std::function<void(const std::string&)>& fnBegin)
-        : m_strInventory(strInventory), m_fnFinding(fnFinding), m_fnBegin(fnBegin), m_stFiles(findServerFiles()),
+    CServerCheck(const std::string& strInventory, const FindingSink& fnFinding, const StReadAlong& stAlong)
+        : m_strInventory(strInventory), m_fnFinding(fnFinding), m_stAlong(stAlong), m_stFiles(findServerFiles()),
           m_lstIsDone(m_stFiles.lstType.size())
     {
         // Any type may have something to say about a module.
@@ -28,6 +27,8 @@ public:
             m_stFiles.mapFile[stModule.strFile] = {EnFileKind::Module, lstAll};
         for (const StServerType& stType : m_stFiles.lstType)
             m_setSysOid.insert(stType.strDevSysOid);
+        if (m_stAlong.fnModules)
+            m_stAlong.fnModules(m_oMaker);
     }
 
     void run()
@@ -38,14 +39,15 @@ public:
         checkModuleFiles();
         for (const auto& [strFile, stFile] : m_stFiles.mapFile)
         {
-            if (m_fnBegin)
-                m_fnBegin(strFile);
+            if (m_stAlong.fnFile)
+                m_stAlong.fnFile(strFile);
             for (const std::size_t nType : stFile.lstType)
                 checkType(nType);
             checkDocument(strFile, stFile.enKind, nullptr);
             m_oTypeFindings.tell(strFile, reportOf(strFile));
             flushUpTo(strFile);
         }
+        tellFileless();
         for (auto& [strFile, pReport] : m_mapReport)
             pReport->flush(m_fnFinding);
     }
@@ -65,6 +67,17 @@ private:
         const auto itEnd = m_mapReport.upper_bound(strFile);
         for (auto itReport = m_mapReport.begin(); itReport != itEnd; itReport = m_mapReport.erase(itReport))
             itReport->second->flush(m_fnFinding);
+    }
+
+    // There is nothing to check of a type without files, but somebody may want to know of it.
+    void tellFileless()
+    {
+        for (std::size_t nType = 0; m_stAlong.fnType && nType < m_lstIsDone.size(); ++nType)
+        {
+            const StServerType& stType = m_stFiles.lstType[nType];
+            if (!m_lstIsDone[nType])
+                m_stAlong.fnType(m_oMaker.make(stType.strDevType, stType.strDevTypeVer));
+        }
     }
 
     void reportMissing()
@@ -107,6 +120,8 @@ private:
         const StServerType&          stType = m_stFiles.lstType[nType];
         const catalog::StTypeCatalog stMade = m_oMaker.make(stType.strDevType, stType.strDevTypeVer);
         StLostNames                  stLost = m_stLostInModules;
+        if (m_stAlong.fnType)
+            m_stAlong.fnType(stMade);
         for (const std::string& strFile : stMade.lstFile)
         {
             const auto itFile = m_stFiles.mapFile.find(strFile);
@@ -144,7 +159,7 @@ private:
 
     const std::string&                                  m_strInventory;
     const FindingSink&                                  m_fnFinding;
-    const std::function<void(const std::string&)>&      m_fnBegin;
+    const StReadAlong&                                  m_stAlong;
     catalog::CCatalogMaker                              m_oMaker;
     StServerFiles                                       m_stFiles;
     std::vector<bool>                                   m_lstIsDone; // by type
@@ -156,9 +171,8 @@ private:
 };
 } // namespace
 
-void lintServer(const std::string& strInventory, const FindingSink& fnFinding,
-                const std::function<void(const std::string&)>& fnBegin)
+void lintServer(const std::string& strInventory, const FindingSink& fnFinding, const StReadAlong& stAlong)
 {
-    CServerCheck(strInventory, fnFinding, fnBegin).run();
+    CServerCheck(strInventory, fnFinding, stAlong).run();
 }
 } // namespace lint

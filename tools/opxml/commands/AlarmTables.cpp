@@ -23,7 +23,9 @@ std::string languageRoot()
     return ns_kivosdk_wrap::GetEnvValue(ServerNames::ENV_ROOT, false, true) + "pub/i18n/";
 }
 
-std::string languageNames()
+} // namespace
+
+std::vector<std::string> alarmLanguages()
 {
     std::vector<std::string>            lstName;
     std::error_code                     oProblem;
@@ -35,9 +37,14 @@ std::string languageNames()
             lstName.push_back(itEntry->path().filename().string());
     }
     std::sort(lstName.begin(), lstName.end());
-    return fmt::format("{}", fmt::join(lstName, ", "));
+    return lstName;
 }
-} // namespace
+
+void chooseAlarmLanguage(const std::string& strLanguage)
+{
+    // The value carries its separator: the library joins the path as it stands.
+    standalone::setEnvironmentValue(ServerNames::LANGUAGE, strLanguage + "/");
+}
 
 void addAlarmOptions(CLI::App& oCommand, StAlarmOptions& stOptions)
 {
@@ -60,13 +67,12 @@ void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOpti
     std::error_code oIgnored; // what cannot be asked is no language
     if (strLanguage.empty() || !std::filesystem::is_directory(languageRoot() + strLanguage, oIgnored))
     {
-        const std::string strNames = languageNames();
+        const std::string strNames = fmt::format("{}", fmt::join(alarmLanguages(), ", "));
         throw CTrouble(fmt::format("no language \"{}\" in {}; {}", printable(stOptions.strLanguage),
                                    shortPath(languageRoot()),
                                    strNames.empty() ? "there is none" : "there is " + printable(strNames)));
     }
-    // The value carries its separator: the library joins the path as it stands.
-    standalone::setEnvironmentValue(ServerNames::LANGUAGE, strLanguage + "/");
+    chooseAlarmLanguage(strLanguage);
 }
 
 void requireTable(const CAlarmTable& oTable)

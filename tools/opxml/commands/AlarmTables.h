@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct StAlarmOptions
 {
@@ -22,6 +23,11 @@ void addAlarmOptions(CLI::App& oCommand, StAlarmOptions& stOptions);
 // Opens the server root and chooses the language; throws CTrouble. Loads no
 // device type.
 void openAlarmRoot(const StGlobalOptions& stGlobal, const StAlarmOptions& stOptions);
+
+// The languages that there are, in the byte order of their names, and the choice of one
+// for the tables that are read from now on. The root is open.
+std::vector<std::string> alarmLanguages();
+void                     chooseAlarmLanguage(const std::string& strLanguage);
 
 // Throws CTrouble with the reason when the table was not read.
 void requireTable(const CAlarmTable& oTable);

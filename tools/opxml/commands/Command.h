@@ -43,5 +43,6 @@ void addAlarmCommand(CLI::App& oApp, StTool& stTool);
 void addTransferCommand(CLI::App& oApp, StTool& stTool);
 void addFileCheckCommand(CLI::App& oApp, StTool& stTool);
 void addLintCommand(CLI::App& oApp, StTool& stTool);
+void addReportCommand(CLI::App& oApp, StTool& stTool);
 
 #endif

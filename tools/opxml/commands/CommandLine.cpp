@@ -39,4 +39,5 @@ void describeTool(CLI::App& oApp, StTool& stTool)
     addTransferCommand(oApp, stTool);
     addFileCheckCommand(oApp, stTool);
     addLintCommand(oApp, stTool);
+    addReportCommand(oApp, stTool);
 }

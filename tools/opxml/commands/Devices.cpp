@@ -51,9 +51,7 @@ KeyStates gatherKeys(const StLoadReport& stReport)
 
 void findConfiguration(StServedDevice& stDevice, const KeyStates& mapState)
 {
-    const std::string strVersion =
-        stDevice.strDevTypeVer + (stDevice.bTelnet ? std::string(Vocabulary::TELNET_SUFFIX) : "");
-    stDevice.strKey    = CXMLConfigDatabase::trans2TelnetDevType(stDevice.strDevType, strVersion);
+    stDevice.strKey    = servingKey(stDevice);
     const auto itState = mapState.find(stDevice.strKey);
     if (itState == mapState.end() || itState->second.pLoad == nullptr)
     {
@@ -77,6 +75,13 @@ bool isDeviceNamed(const StDeviceInfo& stDevice, const std::string& strName)
 {
     return strName == std::to_string(stDevice.ulDeviceID) || strName == stDevice.strDeviceName ||
            strName == stDevice.strIPAddress;
+}
+
+std::string servingKey(const StServedDevice& stDevice)
+{
+    const std::string strVersion =
+        stDevice.strDevTypeVer + (stDevice.bTelnet ? std::string(Vocabulary::TELNET_SUFFIX) : "");
+    return CXMLConfigDatabase::trans2TelnetDevType(stDevice.strDevType, strVersion);
 }
 
 std::vector<StServedDevice> gatherDevices()

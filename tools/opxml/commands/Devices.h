@@ -30,6 +30,9 @@ bool isDeviceNamed(const StDeviceInfo& stDevice, const std::string& strName);
 // All of them by id. Nothing is loaded for it.
 std::vector<StServedDevice> gatherDevices();
 
+// The storage key of the configuration that would serve it.
+std::string servingKey(const StServedDevice& stDevice);
+
 // Has the database load the types of these devices, and no others, and finds the
 // configuration of each.
 void loadConfigurations(std::vector<StServedDevice>& lstDevice);

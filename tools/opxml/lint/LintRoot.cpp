@@ -66,7 +66,7 @@ private:
 };
 } // namespace
 
-std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell)
+std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell, lint::StReadAlong stAlong)
 {
     // "./" in front of every path would only be in the way.
     const lint::FindingSink fnFinding = [&](lint::StFinding stFinding)
@@ -86,6 +86,7 @@ std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell
                        [&oSorter](const lint::StFinding& stFinding) { oSorter.add(stFinding); });
         ++nFiles;
     }
+    stAlong.fnFile = [&nFiles](const std::string& /*strFile*/) { ++nFiles; };
     lint::lintServer(
         stInventory.strFile,
         [&](const lint::StFinding& stFinding)
@@ -97,7 +98,7 @@ std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell
             else
                 oSorter.take(stFinding);
         },
-        [&nFiles](const std::string& /*strFile*/) { ++nFiles; });
+        stAlong);
     oSorter.end();
     return nFiles;
 }

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <string>
 
-// The root is open. Answers the number of files checked.
-std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnFinding);
+// The root is open. Answers the number of files checked; stAlong hears of them, fnFile left out.
+std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnFinding, lint::StReadAlong stAlong = {});
 
 #endif
