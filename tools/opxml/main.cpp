@@ -2,9 +2,10 @@
 // line. Parses the command line, runs one command, and turns every end into an
 // exit code: 0 yes or found, 1 no or nothing, 2 trouble (one line on stderr).
 // commands/ has a source for each command, query/ and lint/ what stands behind
-// opxml query and opxml lint, catalog/ what questions about entries share, completion/
-// what shells may put at the cursor, output/ how things look; completion -> commands ->
-// query, lint -> catalog -> output, never back.
+// opxml query and opxml lint, explain/ why something is offered or not, catalog/ what
+// questions about entries share, completion/ what shells may put at the cursor, output/
+// how things look; completion -> commands -> query, lint -> explain -> catalog -> output,
+// never back.
 #include "tools/opxml/commands/CommandLine.h"
 #include "tools/opxml/completion/Completion.h"
 #include "tools/opxml/output/Names.h"

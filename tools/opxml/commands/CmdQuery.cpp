@@ -45,26 +45,10 @@ std::string listJson()
     return jsonText(oList) + "\n";
 }
 
-// For people: texts as they are, records and the like as JSON.
-std::string answerText(const StQueryAnswer& stAnswer)
-{
-    const Json& oAnswer = stAnswer.oAnswer;
-    if (oAnswer.is_boolean())
-        return oAnswer == true ? "yes" : "no";
-    if (!oAnswer.is_null() && !oAnswer.is_string())
-        return jsonText(oAnswer);
-    const std::string strText = oAnswer.is_null() ? "" : printable(oAnswer.get_ref<const std::string&>());
-    return strText.empty() && !stAnswer.bFound ? "nothing" : strText;
-}
-
 void printAnswer(const StQueryOperation& stOperation, const QueryArguments& lstArgument, const StQueryAnswer& stAnswer)
 {
     print(answerText(stAnswer) + "\nresult: " + resultText(stAnswer.ulResult) + "\n");
-    StQueryReason stReason;
-    if (stOperation.pfnReason != nullptr)
-        stReason = stOperation.pfnReason(lstArgument);
-    if (stReason.strWhy.empty() && stAnswer.ulResult != 0)
-        stReason.strWhy = "the library's log says more (-v)";
+    const StQueryReason stReason = reasonOf(stOperation, lstArgument, stAnswer);
     if (!stReason.strWhy.empty())
         printLine("why: " + stReason.strWhy);
     if (!stReason.strOffer.empty())
@@ -82,9 +66,12 @@ int runQuestion(const StGlobalOptions& stGlobal, const StQueryOptions& stOptions
         throw CTrouble(printable(strError));
     openRoot(stGlobal);
     standalone::listOnlyTypes(typesAsked(*pOperation, lstArgument));
+    const std::string strUnknown = unknownVersion(*pOperation, lstArgument);
+    if (!strUnknown.empty())
+        remark(strUnknown);
     const StQueryAnswer stAnswer = pOperation->pfnAsk(lstArgument);
     if (stOptions.bJson)
-        print(answerLine(*pOperation, stAnswer));
+        print(answerLine(*pOperation, stAnswer, reasonOf(*pOperation, lstArgument, stAnswer)));
     else
         printAnswer(*pOperation, lstArgument, stAnswer);
     return stAnswer.bFound ? EXIT_YES : EXIT_NO;

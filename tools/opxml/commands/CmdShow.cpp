@@ -119,32 +119,6 @@ void explainMissing(const StLoadReport& stReport, const std::string& strKey)
     }
 }
 
-// Type and versions as they are written: TYPE:VERSION:SOFTWARE:PATCH. A type's own
-// name may hold colons, so the longest name that exists counts.
-void splitName(const std::vector<StRegisteredType>& lstType, StShowOptions& stOptions, StWanted& stWanted)
-{
-    const std::string strAll = stOptions.strName;
-    std::size_t       nColon = std::string::npos;
-    while (findKeys(lstType, strAll.substr(0, nColon)).empty())
-    {
-        nColon = nColon == 0 ? std::string::npos : strAll.rfind(':', nColon == std::string::npos ? nColon : nColon - 1);
-        if (nColon == std::string::npos)
-            return;
-    }
-    if (nColon == std::string::npos)
-        return;
-    stOptions.strName           = strAll.substr(0, nColon);
-    std::string* const arPart[] = {&stOptions.strVersion, &stWanted.strSoftVersion, &stWanted.strPatchVersion};
-    for (std::string* pPart : arPart)
-    {
-        if (nColon == std::string::npos)
-            break;
-        const std::size_t nNext = strAll.find(':', nColon + 1);
-        *pPart                  = strAll.substr(nColon + 1, nNext == std::string::npos ? nNext : nNext - nColon - 1);
-        nColon                  = nNext;
-    }
-}
-
 // What serves the device of this id, name or address; false when there is none.
 bool findDevice(const std::string& strName, StWanted& stWanted)
 {
@@ -180,22 +154,22 @@ StWanted resolve(StShowOptions stOptions)
     const std::vector<StRegisteredType> lstType = registeredTypes();
     StWanted                            stWanted;
     if (stOptions.strVersion.empty())
-        splitName(lstType, stOptions, stWanted);
+    {
+        const StNamedType stNamed = splitTypeName(lstType, stOptions.strName);
+        stOptions.strName         = stNamed.strName;
+        stOptions.strVersion      = stNamed.strVersion;
+        stWanted.strSoftVersion   = stNamed.strSoftVersion;
+        stWanted.strPatchVersion  = stNamed.strPatchVersion;
+    }
     stWanted.setKey = findKeys(lstType, stOptions.strName, stOptions.strVersion);
     if (!stWanted.setKey.empty())
     {
         standalone::listOnlyTypes(stWanted.setKey);
         return stWanted;
     }
-    std::string strVersions;
-    for (const StRegisteredType& stType : lstType)
-    {
-        if (stType.strDevType == stOptions.strName)
-            strVersions += " \"" + stType.strDevTypeVer + "\"";
-    }
-    if (!strVersions.empty())
-        remark(fmt::format("device type \"{}\" has no version \"{}\"; it has{}", stOptions.strName,
-                           stOptions.strVersion, strVersions));
+    const std::string strUnknown = unknownVersionText(lstType, stOptions.strName, stOptions.strVersion);
+    if (!strUnknown.empty())
+        remark(strUnknown);
     else if (!stOptions.strVersion.empty() || !findDevice(stOptions.strName, stWanted))
         remark(unknownTypeText(lstType, stOptions.strName));
     return stWanted;

@@ -39,6 +39,7 @@ void addDumpCommand(CLI::App& oApp, StTool& stTool);
 void addQueryCommand(CLI::App& oApp, StTool& stTool);
 void addModulesCommand(CLI::App& oApp, StTool& stTool);
 void addDevicesCommand(CLI::App& oApp, StTool& stTool);
+void addExplainCommand(CLI::App& oApp, StTool& stTool);
 void addAlarmCommand(CLI::App& oApp, StTool& stTool);
 void addTransferCommand(CLI::App& oApp, StTool& stTool);
 void addFileCheckCommand(CLI::App& oApp, StTool& stTool);

@@ -35,6 +35,7 @@ void describeTool(CLI::App& oApp, StTool& stTool)
     addQueryCommand(oApp, stTool);
     addModulesCommand(oApp, stTool);
     addDevicesCommand(oApp, stTool);
+    addExplainCommand(oApp, stTool);
     addAlarmCommand(oApp, stTool);
     addTransferCommand(oApp, stTool);
     addFileCheckCommand(oApp, stTool);

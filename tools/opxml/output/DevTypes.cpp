@@ -34,6 +34,44 @@ std::set<std::string> findKeys(const std::vector<StRegisteredType>& lstType, con
     return setKey;
 }
 
+StNamedType splitTypeName(const std::vector<StRegisteredType>& lstType, const std::string& strText)
+{
+    StNamedType stNamed = {strText, {}, {}, {}};
+    std::size_t nColon  = std::string::npos;
+    while (findKeys(lstType, strText.substr(0, nColon)).empty())
+    {
+        nColon =
+            nColon == 0 ? std::string::npos : strText.rfind(':', nColon == std::string::npos ? nColon : nColon - 1);
+        if (nColon == std::string::npos)
+            return stNamed;
+    }
+    stNamed.strName             = strText.substr(0, nColon);
+    std::string* const arPart[] = {&stNamed.strVersion, &stNamed.strSoftVersion, &stNamed.strPatchVersion};
+    for (std::string* pPart : arPart)
+    {
+        if (nColon == std::string::npos)
+            break;
+        const std::size_t nNext = strText.find(':', nColon + 1);
+        *pPart                  = strText.substr(nColon + 1, nNext == std::string::npos ? nNext : nNext - nColon - 1);
+        nColon                  = nNext;
+    }
+    return stNamed;
+}
+
+std::string unknownVersionText(const std::vector<StRegisteredType>& lstType, const std::string& strName,
+                               const std::string& strVersion)
+{
+    std::string strVersions;
+    for (const StRegisteredType& stType : lstType)
+    {
+        if (stType.strDevType == strName)
+            strVersions += " \"" + stType.strDevTypeVer + "\"";
+    }
+    return strVersions.empty()
+               ? ""
+               : "device type \"" + strName + "\" has no version \"" + strVersion + "\"; it has" + strVersions;
+}
+
 std::string unknownTypeText(const std::vector<StRegisteredType>& lstType, const std::string& strName)
 {
     std::vector<std::string> lstName;

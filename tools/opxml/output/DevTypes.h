@@ -25,6 +25,23 @@ std::vector<StRegisteredType> registeredTypes();
 std::set<std::string> findKeys(const std::vector<StRegisteredType>& lstType, const std::string& strName,
                                const std::string& strVersion = "");
 
+// A type as people write it: TYPE:VERSION:SOFTWARE:PATCH, as much of it as is wanted.
+struct StNamedType
+{
+    std::string strName;
+    std::string strVersion;
+    std::string strSoftVersion;
+    std::string strPatchVersion;
+};
+
+// A type's own name may hold colons, so the longest name that exists counts; where none
+// does, all of it is the name.
+StNamedType splitTypeName(const std::vector<StRegisteredType>& lstType, const std::string& strText);
+
+// "device type "X" has no version "Y"; it has "Z""; empty when there is no such type.
+std::string unknownVersionText(const std::vector<StRegisteredType>& lstType, const std::string& strName,
+                               const std::string& strVersion);
+
 // "no device type "X"; did you mean "Y"?"
 std::string unknownTypeText(const std::vector<StRegisteredType>& lstType, const std::string& strName);
 

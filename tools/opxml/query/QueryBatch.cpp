@@ -122,7 +122,8 @@ private:
 };
 } // namespace
 
-std::string answerLine(const StQueryOperation& stOperation, const StQueryAnswer& stAnswer)
+std::string answerLine(const StQueryOperation& stOperation, const StQueryAnswer& stAnswer,
+                       const StQueryReason& stReason)
 {
     // Written out, as it is the greater part of the work on a simple question.
     std::string strLine = "{\"op\":\"";
@@ -130,6 +131,10 @@ std::string answerLine(const StQueryOperation& stOperation, const StQueryAnswer&
     strLine += "\",\"result\":" + std::to_string(stAnswer.ulResult) + ",\"answer\":";
     strLine +=
         stAnswer.oAnswer.is_boolean() ? (stAnswer.oAnswer == true ? "true" : "false") : jsonLine(stAnswer.oAnswer);
+    if (!stReason.strWhy.empty())
+        strLine += ",\"why\":" + jsonLine(stReason.strWhy);
+    if (!stReason.strOffer.empty())
+        strLine += ",\"offer\":" + jsonLine(stReason.strOffer);
     return strLine += "}\n";
 }
 

@@ -7,8 +7,10 @@
 
 #include <string>
 
-// {"op":…,"result":…,"answer":…}, with the end of the line.
-std::string answerLine(const StQueryOperation& stOperation, const StQueryAnswer& stAnswer);
+// {"op":…,"result":…,"answer":…}, with the end of the line; and "why" and "offer", when
+// there is a reason.
+std::string answerLine(const StQueryOperation& stOperation, const StQueryAnswer& stAnswer,
+                       const StQueryReason& stReason = {});
 
 // Answers every line of the file, "-" for stdin, on stdout. Whoever waits at the
 // other end of a pipe gets each answer before the next line is waited for. False

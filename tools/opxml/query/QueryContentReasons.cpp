@@ -1,117 +1,77 @@
 // Why a content type or a board type was not found.
-#include "records/RecordSearch.h"
-#include "records/Vocabulary.h"
+#include "database/ContentQuestions.h"
 #include "tools/opxml/query/QueryPlace.h"
+
+#include <fmt/format.h>
+
+#include <cstdint>
 
 namespace
 {
-// What is in the way of an option, which fnMatches picks. The lookups visit every
-// operation and every parameter of an id, so all of them are listed.
-template <typename Operation, typename Matches>
-StQueryReason whyNoOption(const StPlace& stPlace, const std::list<Operation>& lstOper, const std::string& strWhat,
-                          std::string_view strOper, std::string_view strParam, const std::string& strOption,
-                          Matches fnMatches)
-{
-    std::vector<std::string> lstParam;
-    std::vector<std::string> lstOption;
-    bool                     bParam = false;
-    for (const Operation& stOper : lstOper)
-    {
-        if (stOper.strId != strOper)
-            continue;
-        for (const StAsnOperParamDef& stParam : stOper.lstParam)
-        {
-            lstParam.push_back(stParam.strId);
-            if (stParam.strId != strParam)
-                continue;
-            bParam = true;
-            for (const StAsnOptionInfo& stOption : stParam.lstOption)
-            {
-                if (fnMatches(stOption))
-                    return {};
-                lstOption.push_back(fmt::format("{} {}", stOption.ulValue, stOption.strId));
-            }
-        }
-    }
-    if (findFirst(lstOper, strOper) == nullptr)
-        return noneOfThem(strWhat, std::string(strOper), stPlace.strName, idsOf(lstOper));
-    if (!bParam)
-        return noneOfThem("parameter", std::string(strParam), fmt::format("\"{}\" of {}", strOper, stPlace.strName),
-                          lstParam);
-    return {fmt::format("no option {} in \"{}\" of \"{}\" of {}", strOption, strParam, strOper, stPlace.strName),
-            offerText(lstOption)};
-}
-
-// By the value that was asked for.
+// The parameter that a question looks at, and an option of it by its number.
 template <typename Operation>
-StQueryReason whyNoValue(const StPlace& stPlace, const std::list<Operation>& lstOper, const std::string& strWhat,
-                         std::string_view strOper, std::string_view strParam, const StQueryArgument& stValue)
+StWanted wantedBy(const StContentQuestion<Operation>& stQuestion, EnEntryKind enKind)
 {
-    return whyNoOption(stPlace, lstOper, strWhat, strOper, strParam, stValue.strText,
-                       [&stValue](const StAsnOptionInfo& stOption) { return stOption.ulValue == stValue.asId(); });
+    return {{enKind}, {std::string(stQuestion.strOperation), std::string(stQuestion.strParameter)}, false, true, true};
 }
 
-StQueryReason whyNoDeviceContent(const StPlace& stPlace, std::string_view strOper, const StQueryArgument& stValue)
+template <typename Operation>
+StQueryReason whyNoValue(const StPlace& stPlace, const StContentQuestion<Operation>& stQuestion, EnEntryKind enKind,
+                         std::uint32_t ulValue)
 {
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    return whyNoValue(stPlace, stPlace.pInfo->stOperationConfig.lstDevOperation, "device operation", strOper,
-                      "ContentType", stValue);
+    StWanted stWanted = wantedBy(stQuestion, enKind);
+    stWanted.lstId.push_back(std::to_string(ulValue));
+    return whyAbsent(stPlace, stWanted);
 }
 } // namespace
 
 StQueryReason whyNoContentType(const QueryArguments& lstArgument)
 {
-    return whyNoDeviceContent(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::Never), Vocabulary::OP_BACKUP,
-                              lstArgument[1]);
+    return whyNoValue(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::Never), BACKUP_CONTENT,
+                      EnEntryKind::DeviceOperation, lstArgument[1].asId());
 }
 
 StQueryReason whyNoLoadDataContentType(const QueryArguments& lstArgument)
 {
-    return whyNoDeviceContent(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::Never), Vocabulary::OP_LOAD_DATA,
-                              lstArgument[1]);
+    return whyNoValue(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::Never), LOAD_DATA_CONTENT,
+                      EnEntryKind::DeviceOperation, lstArgument[1].asId());
 }
 
 StQueryReason whyNoBackupContentType(const QueryArguments& lstArgument)
 {
-    return whyNoDeviceContent(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::ByDevice), Vocabulary::OP_BACKUP,
-                              lstArgument[1]);
+    return whyNoValue(findDevicePlace(lstArgument[0].asId(), EnTelnetRule::ByDevice), BACKUP_CONTENT,
+                      EnEntryKind::DeviceOperation, lstArgument[1].asId());
 }
 
 StQueryReason whyNoSamContentType(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findPlace(lstArgument[0].strText, lstArgument[1].strText);
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    return whyNoValue(stPlace, stPlace.pInfo->stOperationConfig.lstOtherOperation, "other operation", "SAM",
-                      "ContentType", lstArgument[2]);
+    return whyNoValue(findPlace(lstArgument[0].strText, lstArgument[1].strText), SAM_CONTENT,
+                      EnEntryKind::OtherOperation, lstArgument[2].asId());
 }
 
 StQueryReason whyNoSamContentName(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findPlace(lstArgument[0].strText, lstArgument[1].strText);
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    const std::string& strName = lstArgument[2].strText;
-    return whyNoOption(stPlace, stPlace.pInfo->stOperationConfig.lstOtherOperation, "other operation", "SAM",
-                       "ContentType", fmt::format("\"{}\"", strName),
-                       [&strName](const StAsnOptionInfo& stOption) { return stOption.strId == strName; });
+    StWanted stWanted = wantedBy(SAM_CONTENT, EnEntryKind::OtherOperation);
+    stWanted.lstId.push_back(lstArgument[2].strText);
+    stWanted.bByName  = true;
+    stWanted.bByValue = false;
+    return whyAbsent(findPlace(lstArgument[0].strText, lstArgument[1].strText), stWanted);
 }
 
 StQueryReason whyNoBoardType(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findTypePlace(lstArgument[0].asId(), lstArgument[1].asId());
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    return whyNoValue(stPlace, stPlace.pInfo->stOperationConfig.lstTaskOperation, "task operation",
-                      Vocabulary::OP_ACTIVATE_SOFTWARE, "BoardType", lstArgument[2]);
+    return whyNoValue(findTypePlace(lstArgument[0].asId(), lstArgument[1].asId()), BOARD_TYPE,
+                      EnEntryKind::TaskOperation, lstArgument[2].asId());
 }
 
+// An operation that is there, with a parameter that has no option, lists nothing either.
 StQueryReason whyNoBackupContents(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findPlace(lstArgument[0].strText, "");
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    return whyNoOption(stPlace, stPlace.pInfo->stOperationConfig.lstDevOperation, "device operation",
-                       Vocabulary::OP_BACKUP, "ContentType", "at all", [](const StAsnOptionInfo&) { return true; });
+    const StPlace  stPlace  = findPlace(lstArgument[0].strText, "");
+    const StWanted stWanted = wantedBy(BACKUP_CONTENT, EnEntryKind::DeviceOperation);
+    StQueryReason  stReason = whyAbsent(stPlace, stWanted);
+    if (stReason.strWhy.empty())
+        stReason.strWhy = fmt::format("no option at all in \"{}\" of \"{}\" of {}", stWanted.lstId[1],
+                                      stWanted.lstId[0], stPlace.stLookedInto.strWhere);
+    return stReason;
 }

@@ -5,11 +5,15 @@
 #include "alarm/InitTblRegInfo.h"
 #include "database/CXMLConfigDatabase.h"
 #include "filecheck/ParseXMLFile.h"
+#include "records/Vocabulary.h"
+#include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/Names.h"
+#include "tools/opxml/output/Text.h"
 #include "tools/opxml/query/QueryCall.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -239,6 +243,46 @@ std::set<std::string> typesAsked(const StQueryOperation& stOperation, const Quer
         setType.insert(strDevType);
     }
     return setType;
+}
+
+StQueryReason reasonOf(const StQueryOperation& stOperation, const QueryArguments& lstArgument,
+                       const StQueryAnswer& stAnswer)
+{
+    StQueryReason stReason;
+    if (stOperation.pfnReason != nullptr)
+        stReason = stOperation.pfnReason(lstArgument);
+    if (stReason.strWhy.empty() && stAnswer.ulResult != 0)
+        stReason.strWhy = "the library's log says more (-v)";
+    return stReason;
+}
+
+std::string unknownVersion(const StQueryOperation& stOperation, const QueryArguments& lstArgument)
+{
+    const auto& lstParameter = stOperation.lstParameter;
+    if (lstArgument.size() < 2 || lstParameter[0].pszName != std::string_view(TYPE.pszName) ||
+        lstParameter[1].pszName != std::string_view(VERSION.pszName))
+        return {};
+    const std::string& strAsked   = lstArgument[1].strText;
+    const std::string  strVersion = strAsked.substr(0, strAsked.find(Vocabulary::TELNET_SUFFIX));
+    const auto         lstType    = registeredTypes();
+    const auto         fnKnown    = [&](const StRegisteredType& stType)
+    {
+        return stType.strDevType == lstArgument[0].strText &&
+               (stType.strDevTypeVer == strAsked || stType.strDevTypeVer == strVersion);
+    };
+    const bool bKnown = strVersion.empty() || std::any_of(lstType.begin(), lstType.end(), fnKnown);
+    return bKnown ? "" : unknownVersionText(lstType, lstArgument[0].strText, strAsked);
+}
+
+std::string answerText(const StQueryAnswer& stAnswer)
+{
+    const Json& oAnswer = stAnswer.oAnswer;
+    if (oAnswer.is_boolean())
+        return oAnswer == true ? "yes" : "no";
+    if (!oAnswer.is_null() && !oAnswer.is_string())
+        return jsonText(oAnswer);
+    const std::string strText = oAnswer.is_null() ? "" : printable(oAnswer.get_ref<const std::string&>());
+    return strText.empty() && !stAnswer.bFound ? "nothing" : strText;
 }
 
 std::string parameterNames(const StQueryOperation& stOperation)

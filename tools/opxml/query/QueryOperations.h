@@ -34,6 +34,17 @@ struct StQueryOperation
 };
 const std::vector<StQueryOperation>& queryOperations();
 
+// Why an answer is no; empty when there is nothing to explain.
+StQueryReason reasonOf(const StQueryOperation& stOperation, const QueryArguments& lstArgument,
+                       const StQueryAnswer& stAnswer);
+
+// What to say about a version that the inventory does not have for the type, when the
+// operation is asked about one; else empty. "_telnet" at its end goes with every version.
+std::string unknownVersion(const StQueryOperation& stOperation, const QueryArguments& lstArgument);
+
+// For people: texts as they are, records and the like as JSON.
+std::string answerText(const StQueryAnswer& stAnswer);
+
 // "TYPE VERSION OPERATION".
 std::string parameterNames(const StQueryOperation& stOperation);
 

@@ -4,39 +4,17 @@
 #include "database/CXMLConfigDatabase.h"
 #include "records/ResultCodes.h"
 #include "records/Vocabulary.h"
-#include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/output/Names.h"
 
-namespace
-{
-std::string missingText(const std::string& strDevType, const std::string& strKey)
-{
-    const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
-    std::string        strText;
-    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
-    {
-        if (stLoad.strKey == strKey) // the last of them says how it ended
-            strText = fmt::format("\"{}\" {} {}", stLoad.strDevType, stLoad.strDevTypeVer, failureText(stLoad));
-        else if (stLoad.strDevType == strDevType && strText.empty())
-            strText = fmt::format("device type \"{}\" has no configuration \"{}\"", strDevType, strKey);
-    }
-    return strText.empty() ? unknownTypeText(registeredTypes(), strDevType) : strText;
-}
-} // namespace
+#include <fmt/format.h>
 
 StPlace findPlace(const std::string& strDevType, const std::string& strDevTypeVer)
 {
-    const std::string strKey = CXMLConfigDatabase::trans2TelnetDevType(strDevType, strDevTypeVer);
-    StPlace           stPlace;
-    stPlace.strName = fmt::format("\"{}\"", strKey);
-    CXMLConfigDatabase::getInstance()->visitDevTypes(
-        [&](const std::string& strStored, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-        {
-            if (strStored == strKey && !lstInfo.empty())
-                stPlace.pInfo = lstInfo.front();
-        });
-    if (stPlace.pInfo == nullptr)
-        stPlace.stReason.strWhy = missingText(strDevType, strKey);
+    const StServedKey& stServed = CServedKeys::instance().find(strDevType, strDevTypeVer);
+    StPlace            stPlace;
+    stPlace.stLookedInto.pServed    = &stServed;
+    stPlace.stLookedInto.strDevType = strDevType;
+    stPlace.stLookedInto.strWhere   = fmt::format("\"{}\"", stServed.strKey);
+    stPlace.stReason.strWhy         = stServed.strProblem;
     return stPlace;
 }
 
@@ -44,12 +22,11 @@ StPlace findDevicePlace(std::uint32_t ulDeviceID, EnTelnetRule enRule)
 {
     StDeviceInfo stDevice;
     if (CDCDeviceInfoDB::getDeviceInfo(ulDeviceID, stDevice) != DC_RESULT_OK)
-        return {nullptr, {}, {fmt::format("no device {}", ulDeviceID), {}}};
+        return {{}, {fmt::format("no device {}", ulDeviceID), {}}};
     std::string strDevType;
     std::string strDevTypeVer;
     if (CDCDeviceInfoDB::getDevTypeAndVersionName(ulDeviceID, strDevType, strDevTypeVer) != DC_RESULT_OK)
-        return {nullptr,
-                {},
+        return {{},
                 {fmt::format("device {} is of type {}, version {}, which is not installed", ulDeviceID,
                              stDevice.ulDeviceTypeID, stDevice.ulDeviceTypeVersionID),
                  {}}};
@@ -57,8 +34,8 @@ StPlace findDevicePlace(std::uint32_t ulDeviceID, EnTelnetRule enRule)
         (enRule == EnTelnetRule::ByDevice && CXMLConfigDatabase::bTelnetToDev(stDevice)))
         strDevTypeVer += Vocabulary::TELNET_SUFFIX;
     StPlace stPlace = findPlace(strDevType, strDevTypeVer);
-    stPlace.strName += fmt::format(" of device {}", ulDeviceID);
-    if (stPlace.pInfo == nullptr)
+    stPlace.stLookedInto.strWhere += fmt::format(" of device {}", ulDeviceID);
+    if (!stPlace.isThere())
         stPlace.stReason.strWhy = fmt::format("device {}: {}", ulDeviceID, stPlace.stReason.strWhy);
     return stPlace;
 }
@@ -70,7 +47,7 @@ StPlace findTypePlace(std::uint32_t ulTypeID, std::uint32_t ulVersionID)
     if (CDeviceAdapterInterface::getInstance()->searchTypeName(ulTypeID, ulVersionID, strDevType, strDevTypeVer) ==
         DC_RESULT_OK)
         return findPlace(strDevType, strDevTypeVer);
-    return {nullptr, {}, {fmt::format("type {}, version {}, is not installed", ulTypeID, ulVersionID), {}}};
+    return {{}, {fmt::format("type {}, version {}, is not installed", ulTypeID, ulVersionID), {}}};
 }
 
 std::string offerText(const std::vector<std::string>& lstName)
@@ -78,9 +55,13 @@ std::string offerText(const std::vector<std::string>& lstName)
     return lstName.empty() ? "there is none" : fmt::format("there are: {}", fmt::join(lstName, ", "));
 }
 
-StQueryReason noneOfThem(const std::string& strWhat, const std::string& strId, const std::string& strWhere,
-                         const std::vector<std::string>& lstId)
+StQueryReason whyAbsent(const StPlace& stPlace, const StWanted& stWanted)
 {
-    return {fmt::format("no {} \"{}\" in {}{}", strWhat, strId, strWhere, nearestNames(strId, lstId)),
-            offerText(lstId)};
+    if (!stPlace.isThere())
+        return stPlace.stReason;
+    const StAbsence stAbsence = findAbsence(CServedKeys::instance(), stPlace.stLookedInto, stWanted);
+    const bool      bIsThere =
+        stAbsence.strWhat.empty() ||
+        (!stAbsence.lstObstacle.empty() && stAbsence.lstObstacle.front().enObstacle == EnObstacle::SwitchedOff);
+    return {stAbsence.text(), bIsThere ? "" : offerText(stAbsence.lstThereAre)};
 }

@@ -7,42 +7,44 @@
 #include "common/XmlParser.h"
 #include "database/CXMLConfigDatabase.h"
 #include "filecheck/ParseXMLFile.h"
-#include "records/RecordSearch.h"
+#include "records/RecordFields.h"
 #include "records/ResultCodes.h"
-#include "records/WordTables.h"
+#include "tools/opxml/explain/TelnetRule.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/query/QueryPlace.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace
 {
-// What is in the way of a parameter of an operation; pParam is set when nothing is.
-template <typename Operation>
-StQueryReason whyNoParameter(const std::list<Operation>& lstOper, const std::string& strWhat, std::string_view strOper,
-                             std::string_view strParam, const std::string& strWhere, const StAsnOperParamDef*& pParam)
+// An operation, and a parameter of it when there is one more argument.
+StQueryReason whyNoOperation(EnEntryKind enKind, const QueryArguments& lstArgument)
 {
-    const std::string strOperId(strOper);
-    const Operation*  pOper = findFirst(lstOper, strOper);
-    if (pOper == nullptr)
-        return noneOfThem(strWhat, strOperId, strWhere, idsOf(lstOper));
-    pParam = findFirst(pOper->lstParam, strParam);
-    if (pParam == nullptr)
-        return noneOfThem("parameter", std::string(strParam), fmt::format("\"{}\" of {}", strOperId, strWhere),
-                          idsOf(pOper->lstParam));
-    return {};
+    StWanted stWanted;
+    stWanted.lstKind = {enKind};
+    for (std::size_t nAt = 2; nAt < lstArgument.size(); ++nAt)
+        stWanted.lstId.push_back(lstArgument[nAt].strText);
+    return whyAbsent(findPlace(lstArgument[0].strText, lstArgument[1].strText), stWanted);
 }
 
-std::string taskTypeName(const StAsnTaskConfigInfoOperation& stTask)
+// The word by which files name a task type, or else its number; and back.
+std::string taskTypeWord(DCAsn1ClientToServer::AsnTaskTypeEnum enTaskType)
+{
+    const std::string strWord(wordText(StTaskType<&StTaskTypeWord::enConfigType>(), enTaskType));
+    return strWord.empty() ? std::to_string(enTaskType) : strWord;
+}
+
+std::string withNumber(const std::string& strWord)
 {
     for (const StTaskTypeWord& stWord : TASK_TYPE_WORDS)
     {
-        if (stWord.enConfigType == stTask.enTaskType)
-            return fmt::format("{} {}", stTask.enTaskType.number(), stWord.strWord);
+        if (stWord.strWord == strWord)
+            return fmt::format("{} {}", static_cast<int>(stWord.enConfigType), strWord);
     }
-    return std::to_string(stTask.enTaskType.number());
+    return strWord;
 }
 } // namespace
 
@@ -53,75 +55,57 @@ StQueryReason whyNoRecord(const QueryArguments& lstArgument)
 
 StQueryReason whyNoDeviceOperation(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findPlace(lstArgument[0].strText, lstArgument[1].strText);
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    const auto&              lstOper   = stPlace.pInfo->stOperationConfig.lstDevOperation;
-    const std::string&       strOperId = lstArgument[2].strText;
-    const StAsnOperParamDef* pParam    = nullptr;
-    if (lstArgument.size() > 3)
-        return whyNoParameter(lstOper, "device operation", strOperId, lstArgument[3].strText, stPlace.strName, pParam);
-    if (findFirst(lstOper, strOperId) != nullptr)
-        return {};
-    return noneOfThem("device operation", strOperId, stPlace.strName, idsOf(lstOper));
+    return whyNoOperation(EnEntryKind::DeviceOperation, lstArgument);
 }
 
 StQueryReason whyNoOtherOperation(const QueryArguments& lstArgument)
 {
-    const StPlace stPlace = findPlace(lstArgument[0].strText, lstArgument[1].strText);
-    if (stPlace.pInfo == nullptr)
-        return stPlace.stReason;
-    const auto&                   lstOper   = stPlace.pInfo->stOperationConfig.lstOtherOperation;
-    const std::string&            strOperId = lstArgument[2].strText;
-    const StAsnOtherOperationDef* pOper     = findFirst(lstOper, strOperId);
-    if (lstArgument.size() > 3)
-    {
-        const StAsnOperParamDef* pParam = nullptr;
-        StQueryReason            stReason =
-            whyNoParameter(lstOper, "other operation", strOperId, lstArgument[3].strText, stPlace.strName, pParam);
-        if (pParam != nullptr && !pParam->bIsRequired)
-            stReason.strWhy = "the parameter is there, but not required: its isRequired is not set";
-        return stReason;
-    }
-    if (pOper == nullptr)
-        return noneOfThem("other operation", strOperId, stPlace.strName, idsOf(lstOper));
-    return {pOper->bIsSupported ? "" : "the operation is there, but switched off: its isSupported is not set", {}};
+    return whyNoOperation(EnEntryKind::OtherOperation, lstArgument);
 }
 
+// The first check operation of the id decides, else the first task operation.
 StQueryReason whyNotCancelable(const QueryArguments& lstArgument)
 {
     const StPlace stPlace = findDevicePlace(lstArgument[0].asId(), EnTelnetRule::ByName);
-    if (stPlace.pInfo == nullptr)
+    if (!stPlace.isThere())
     {
         StQueryReason stReason = stPlace.stReason;
-        if (stPlace.strName.empty())
+        if (stPlace.stLookedInto.pServed == nullptr)
             stReason.strWhy += "; cancelling is allowed then";
         return stReason;
     }
-    const auto&        stConfig  = stPlace.pInfo->stOperationConfig;
-    const std::string& strOperId = lstArgument[1].strText;
-    if (const auto* pCheck = findFirst(stConfig.lstCheckOperation, strOperId))
-        return {pCheck->bIsCancelable ? "" : "the check operation is there, but its isCancelable is not set", {}};
-    if (const auto* pTask = findFirst(stConfig.lstTaskOperation, strOperId))
-        return {pTask->bIsCancelable ? "" : "the task operation is there, but its isCancelable is not set", {}};
-    std::vector<std::string> lstId = idsOf(stConfig.lstTaskOperation);
-    addIds(lstId, stConfig.lstCheckOperation);
-    return noneOfThem("task or check operation", strOperId, stPlace.strName, lstId);
+    const catalog::StTypeCatalog& stCatalog = stPlace.stLookedInto.pServed->stCatalog;
+    const StWanted stWanted = {{EnEntryKind::TaskOperation, EnEntryKind::CheckOperation}, {lstArgument[1].strText}};
+    const StStand* pDecides = nullptr;
+    const auto     lstStand = findStands(stCatalog.lstConfiguration.front().lstSection, stCatalog.lstFile, stWanted);
+    for (const StStand& stStand : lstStand)
+    {
+        const bool bCheck = stStand.pKind->enKind == EnEntryKind::CheckOperation;
+        if (stStand.bInEffect &&
+            (pDecides == nullptr || (bCheck && pDecides->pKind->enKind != EnEntryKind::CheckOperation)))
+            pDecides = &stStand;
+    }
+    if (pDecides == nullptr)
+        return whyAbsent(stPlace, stWanted);
+    if (pDecides->entry().field("bIsCancelable")->strValue == "1")
+        return {};
+    return {fmt::format("the {} is there, but its isCancelable is not set ({})", pDecides->pKind->pszName,
+                        pDecides->strPlace),
+            {}};
 }
 
 StQueryReason whyNoTaskType(const QueryArguments& lstArgument)
 {
     const StPlace stPlace = findDevicePlace(lstArgument[0].asId(), EnTelnetRule::ByName);
-    if (stPlace.pInfo == nullptr)
+    if (!stPlace.isThere())
         return stPlace.stReason;
-    std::vector<std::string> lstName;
-    for (const StAsnTaskConfigInfoOperation& stTask : stPlace.pInfo->lstTaskConfigInfoOperation)
-    {
-        if (stTask.enTaskType == lstArgument[1].asTaskType())
-            return {};
-        lstName.push_back(taskTypeName(stTask));
-    }
-    return {fmt::format("no task type {} in {}", lstArgument[1].strText, stPlace.strName), offerText(lstName)};
+    StAbsence stAbsence = findAbsence(CServedKeys::instance(), stPlace.stLookedInto,
+                                      {{EnEntryKind::TaskType}, {taskTypeWord(lstArgument[1].asTaskType())}});
+    if (stAbsence.strWhat.empty())
+        return {};
+    std::transform(stAbsence.lstThereAre.begin(), stAbsence.lstThereAre.end(), stAbsence.lstThereAre.begin(),
+                   withNumber);
+    return {stAbsence.text(), offerText(stAbsence.lstThereAre)};
 }
 
 StQueryReason whyNoCapacity(const QueryArguments& lstArgument)
@@ -148,32 +132,8 @@ StQueryReason whyNotTelnet(const QueryArguments& lstArgument)
     StDeviceInfo stDevice;
     if (CDCDeviceInfoDB::getDeviceInfo(lstArgument[0].asId(), stDevice) != DC_RESULT_OK)
         return {fmt::format("no device {}", lstArgument[0].asId()), {}};
-    using Step                    = CXMLConfigDatabase::EnTelnetStep;
-    Step                enDecided = Step::Domain;
-    const std::uint32_t ulTypeID  = stDevice.ulDeviceTypeID;
-    if (CXMLConfigDatabase::bTelnetToDev(stDevice, enDecided))
-        return {};
-    switch (enDecided)
-    {
-    case Step::Domain:
-        return {fmt::format("type {} is not in domain {} (datacom)", ulTypeID, static_cast<int>(EnDeviceTypeDatacom)),
-                {}};
-    case Step::NoDevice:
-        return {"the id stands for no device", {}};
-    case Step::ConnectState:
-        return {fmt::format("the connection state is {}", stDevice.ulConnectState), {}};
-    case Step::Snmp:
-        return {fmt::format("type {} is managed over SNMP", ulTypeID), {}};
-    case Step::Capability:
-        return {fmt::format("type {} does not support the telnet capability \"{}\"", ulTypeID,
-                            stDevice.strTelnetCapability),
-                {}};
-    case Step::LoginState:
-    case Step::NotV3R7:
-    case Step::OtherType:
-        break; // these say yes
-    }
-    return {};
+    const StTelnetRule stTelnet = telnetRule(stDevice);
+    return {stTelnet.bTelnet ? "" : stTelnet.strWhy, {}};
 }
 
 StQueryReason whyNoAlarm(const QueryArguments& lstArgument)

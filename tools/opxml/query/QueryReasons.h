@@ -1,6 +1,7 @@
-// Why a query was answered with no: each function walks the way of its operation
-// and stops where it ends. They look at the records and the inventory and write
-// nothing to the log, save whyNoRules, which has to read the file again.
+// Why a query was answered with no. Those about operations and what stands below them
+// say what is wanted where; what stands in the way there is the business of the room
+// explain/, which reads the types in question once more and says the same to
+// opxml explain.
 #ifndef OPERATIONXML_TOOLS_OPXML_QUERY_QUERYREASONS_H
 #define OPERATIONXML_TOOLS_OPXML_QUERY_QUERYREASONS_H
 
