@@ -4,7 +4,8 @@
 # script, in the order in which they import each other, without imports and exports.
 # The policy names style and script by their hashes, so nothing else runs.
 cmake_minimum_required(VERSION 3.25)
-set(SCRIPTS data view choose dom matrix tree detail health comparison main)
+set(SCRIPTS data view choose dom cells grid filters paper matrix tree detail health comparison main)
+set(STYLES base matrix sign detail text narrow)
 
 # The SHA-256 of a text in base64, as a policy wants it; CMake knows hexadecimal.
 function(hash_base64 TEXT RESULT)
@@ -29,12 +30,16 @@ endfunction()
 set(SCRIPT "\"use strict\";\n{\n")
 foreach(NAME ${SCRIPTS})
     file(READ ${FOLDER}/${NAME}.js TEXT)
-    string(REGEX REPLACE "(^|\n)import [^\n]*" "\\1" TEXT "${TEXT}")
+    string(REGEX REPLACE "(^|\n)import [^;]*;\n" "\\1" TEXT "${TEXT}")
     string(REGEX REPLACE "(^|\n)export " "\\1" TEXT "${TEXT}")
     string(APPEND SCRIPT "${TEXT}")
 endforeach()
 string(APPEND SCRIPT "}\n")
-file(READ ${FOLDER}/page.css STYLE)
+set(STYLE "")
+foreach(NAME ${STYLES})
+    file(READ ${FOLDER}/${NAME}.css TEXT)
+    string(APPEND STYLE "${TEXT}")
+endforeach()
 file(READ ${FOLDER}/page.html HTML)
 
 hash_base64("${SCRIPT}" SCRIPT_HASH)

@@ -8,11 +8,13 @@ const holdsAll = (text, words) => words.every((word) => text.includes(word));
 export const findColumn = (text) => page.columnOf.get(text) ?? page.columns.find((column) => column.name === text);
 
 const byName = (left, right) => left.at - right.at;
-const ORDERS = {
-  most: (left, right) => right.offers - left.offers || byName(left, right),
-  fewest: (left, right) => left.offers - right.offers || byName(left, right),
-  failed: (left, right) => Number(right.isFailed) - Number(left.isFailed) || byName(left, right),
-};
+const ORDERS = new Map(
+  Object.entries({
+    most: (left, right) => right.offers - left.offers || byName(left, right),
+    fewest: (left, right) => left.offers - right.offers || byName(left, right),
+    failed: (left, right) => Number(right.isFailed) - Number(left.isFailed) || byName(left, right),
+  }),
+);
 
 // Those that have it first; what is offered before what is not.
 function byColumn(column, isUpside) {
@@ -41,7 +43,7 @@ export function chooseRows(view) {
       (!lacked || !isOffered(cellAt(row, lacked.at))),
   );
   const sorted = sortColumn(view.sort);
-  const order = sorted ? byColumn(sorted.column, sorted.isUpside) : ORDERS[view.sort];
+  const order = sorted ? byColumn(sorted.column, sorted.isUpside) : ORDERS.get(view.sort);
   return order ? rows.sort(order) : rows;
 }
 
@@ -71,6 +73,10 @@ export function chooseColumns(view, rows) {
   const isDifferent = view.differences ? differing(rows) : () => true;
   const isChanged = view.changed ? changedColumns(rows) : () => true;
   return page.columns.filter(
-    (column) => (view.kinds.size === 0 || view.kinds.has(column.kind)) && holdsAll(column.text, words) && isDifferent(column) && isChanged(column),
+    (column) =>
+      (view.kinds.size === 0 || view.kinds.has(column.kind)) &&
+      holdsAll(column.text, words) &&
+      isDifferent(column) &&
+      isChanged(column),
   );
 }

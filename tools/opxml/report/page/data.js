@@ -72,7 +72,14 @@ function readRow(written, at, devicesOfKey) {
   row.failedVersions = row.versions.filter(([, , , problem]) => problem);
   row.isFailed = Boolean(row.problem) || row.failedVersions.length > 0;
   row.offers = row.codes.reduce((sum, code) => sum + (isOffered(code) ? 1 : 0), 0);
-  row.text = foldCase([row.name, row.key, ...row.serves, ...row.devices.flatMap((device) => [device.name, String(device.id), device.address])].join("\n"));
+  row.text = foldCase(
+    [
+      row.name,
+      row.key,
+      ...row.serves,
+      ...row.devices.flatMap((device) => [device.name, String(device.id), device.address]),
+    ].join("\n"),
+  );
   return row;
 }
 
@@ -84,7 +91,13 @@ function readPage() {
     devicesOfKey.get(device.key).push(device);
   }
   page.rows = page.rows.map((row, at) => readRow(row, at, devicesOfKey));
-  page.columns = page.columns.map(([kind, name], at) => ({ kind, name, at, id: `${kind}:${name}`, text: foldCase(name) }));
+  page.columns = page.columns.map(([kind, name], at) => ({
+    kind,
+    name,
+    at,
+    id: `${kind}:${name}`,
+    text: foldCase(name),
+  }));
   page.columnOf = new Map(page.columns.map((column) => [column.id, column]));
   page.rowOf = new Map(page.rows.toReversed().map((row) => [row.name, row]));
   return page;
@@ -108,7 +121,16 @@ function readDetail(written) {
       line = 0;
     }
     line += down;
-    return { name, rest, place: [file, line, column], module: more.m, fate: more.t, because: more.b, reason: more.r, children: children.map(readNode) };
+    return {
+      name,
+      rest,
+      place: [file, line, column],
+      module: more.m,
+      fate: more.t,
+      because: more.b,
+      reason: more.r,
+      children: children.map(readNode),
+    };
   };
   return {
     files: written.files,

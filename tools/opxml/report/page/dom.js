@@ -5,7 +5,8 @@ export function make(tag, attributes = {}, ...children) {
   const element = document.createElement(tag);
   for (const [name, value] of Object.entries(attributes)) {
     if (name === "text") element.textContent = value;
-    else if (name === "on") for (const [event, listener] of Object.entries(value)) element.addEventListener(event, listener);
+    else if (name === "on")
+      for (const [event, listener] of Object.entries(value)) element.addEventListener(event, listener);
     else if (value === true) element.setAttribute(name, "");
     else if (value !== false && value !== null && value !== undefined) element.setAttribute(name, value);
   }
@@ -29,6 +30,12 @@ export function table(caption, headings, rows) {
   return make(
     "div",
     { class: "wide", tabindex: "0", role: "region", "aria-label": caption },
-    make("table", { class: "list" }, make("caption", { class: "unseen", text: caption }), make("thead", {}, head), make("tbody", {}, ...body)),
+    make(
+      "table",
+      { class: "list" },
+      make("caption", { class: "unseen", text: caption }),
+      make("thead", {}, head),
+      make("tbody", {}, ...body),
+    ),
   );
 }

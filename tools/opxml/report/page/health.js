@@ -9,14 +9,25 @@ let isFilled = false;
 const failedRows = () => page.rows.filter((row) => row.isFailed);
 
 function rowLink(row) {
-  return make("a", { href: linkTo({ view: "matrix", row: row.name, rule: "", file: "" }), text: row.name, on: { click: (event) => {
-    event.preventDefault();
-    go({ view: "matrix", row: row.name, rule: "", file: "" }, true);
-  } } });
+  return make("a", {
+    href: linkTo({ view: "matrix", row: row.name, rule: "", file: "" }),
+    text: row.name,
+    on: {
+      click: (event) => {
+        event.preventDefault();
+        go({ view: "matrix", row: row.name, rule: "", file: "" }, true);
+      },
+    },
+  });
 }
 
 function card(number, words, tone) {
-  return make("li", { class: tone ? `card ${tone}` : "card" }, make("b", { text: number.toLocaleString("en") }), make("span", { text: words }));
+  return make(
+    "li",
+    { class: tone ? `card ${tone}` : "card" },
+    make("b", { text: number.toLocaleString("en") }),
+    make("span", { text: words }),
+  );
 }
 
 function cards() {
@@ -29,7 +40,11 @@ function cards() {
     { class: "cards" },
     card(types.length, types.length === 1 ? "device type and version" : "device types and versions"),
     card(failed, "failed", failed > 0 ? "bad" : "good"),
-    ...(page.lint ? Object.entries(severities).map(([severity, number]) => card(number, number === 1 ? severity : `${severity}s`, number > 0 ? severity : "good")) : []),
+    ...(page.lint
+      ? Object.entries(severities).map(([severity, number]) =>
+          card(number, number === 1 ? severity : `${severity}s`, number > 0 ? severity : "good"),
+        )
+      : []),
     card(page.modules.length, page.modules.length === 1 ? "module file" : "module files"),
     card(page.devices.length, page.devices.length === 1 ? "device" : "devices"),
   );
@@ -42,7 +57,12 @@ function chapter(title, ...content) {
 function failures() {
   const rows = failedRows();
   if (rows.length === 0) return chapter("Failed", make("p", { text: "Every registered type has a configuration." }));
-  const lines = rows.flatMap((row) => [...(row.problem ? [row.problem] : []), ...row.failedVersions.map(([, , , problem]) => problem)].map((problem) => [rowLink(row), problem]));
+  const lines = rows.flatMap((row) =>
+    [...(row.problem ? [row.problem] : []), ...row.failedVersions.map(([, , , problem]) => problem)].map((problem) => [
+      rowLink(row),
+      problem,
+    ]),
+  );
   return chapter("Failed", table("Types that failed, with the reason", ["type and version", "reason"], lines));
 }
 
@@ -61,7 +81,9 @@ function filterLink(words, text) {
 
 function findingsList() {
   const { rules, files, findings } = page.lint;
-  const wanted = findings.filter(([rule, file]) => (!view.rule || rules[rule][0] === view.rule) && (!view.file || files[file][0] === view.file));
+  const wanted = findings.filter(
+    ([rule, file]) => (!view.rule || rules[rule][0] === view.rule) && (!view.file || files[file][0] === view.file),
+  );
   const lines = wanted.map(([rule, file, line, column, message]) => [
     make("span", { class: "place", text: line === 0 ? files[file][0] : `${files[file][0]}:${line}:${column}` }),
     make("span", { class: `severity ${rules[rule][2]}`, text: rules[rule][2] }),
@@ -70,15 +92,32 @@ function findingsList() {
   const list = table("Findings", ["place", "severity", "finding"], lines.slice(0, SHOWN_AT_ONCE));
   const all = rules.reduce((sum, rule) => sum + rule[3], 0);
   const filter = [view.rule, view.file].filter(Boolean).join(", ");
-  const heading = make("p", { id: "findings", tabindex: "-1", role: "status" }, filter ? `${count(wanted.length, "finding")} of ${filter}. ` : `${count(wanted.length, "finding")}. `);
+  const heading = make(
+    "p",
+    { id: "findings", tabindex: "-1", role: "status" },
+    filter ? `${count(wanted.length, "finding")} of ${filter}. ` : `${count(wanted.length, "finding")}. `,
+  );
   if (filter) heading.append(filterLink({ rule: "", file: "" }, "Show all"));
-  if (all > findings.length) heading.append(` The page lists ${findings.length.toLocaleString("en")} of ${all.toLocaleString("en")}; opxml lint lists all.`);
-  const more = make("button", { type: "button", class: "plain", text: `Show all ${wanted.length.toLocaleString("en")}` });
+  if (all > findings.length)
+    heading.append(
+      ` The page lists ${findings.length.toLocaleString("en")} of ${all.toLocaleString("en")}; opxml lint lists all.`,
+    );
+  const more = make("button", {
+    type: "button",
+    class: "plain",
+    text: `Show all ${wanted.length.toLocaleString("en")}`,
+  });
   more.addEventListener("click", () => {
     list.replaceWith(table("Findings", ["place", "severity", "finding"], lines));
     more.remove();
   });
-  return make("div", { id: "finding-list" }, heading, wanted.length > 0 ? list : "", lines.length > SHOWN_AT_ONCE ? more : "");
+  return make(
+    "div",
+    { id: "finding-list" },
+    heading,
+    wanted.length > 0 ? list : "",
+    lines.length > SHOWN_AT_ONCE ? more : "",
+  );
 }
 
 function lint() {
@@ -86,8 +125,16 @@ function lint() {
   const { rules, files } = page.lint;
   if (rules.length === 0) return chapter("Lint", make("p", { text: "opxml lint finds nothing." }));
   const byNumber = [...rules].sort((left, right) => right[3] - left[3]);
-  const ruleLines = byNumber.map(([id, title, severity, number]) => [filterLink({ rule: id, file: "" }, id), make("span", { class: `severity ${severity}`, text: severity }), String(number), title]);
-  const fileLines = files.map(([file, ...counts]) => [filterLink({ rule: "", file }, file), ...counts.map((number) => (number === 0 ? "–" : String(number)))]);
+  const ruleLines = byNumber.map(([id, title, severity, number]) => [
+    filterLink({ rule: id, file: "" }, id),
+    make("span", { class: `severity ${severity}`, text: severity }),
+    String(number),
+    title,
+  ]);
+  const fileLines = files.map(([file, ...counts]) => [
+    filterLink({ rule: "", file }, file),
+    ...counts.map((number) => (number === 0 ? "–" : String(number))),
+  ]);
   return chapter(
     "Lint",
     make("h4", { text: "By rule" }),
@@ -102,32 +149,62 @@ function lint() {
 // ---- The rest ----
 
 function modules() {
-  if (page.modules.length === 0 && page.moduleProblems.length === 0) return chapter("Modules", make("p", { text: "There are none." }));
+  if (page.modules.length === 0 && page.moduleProblems.length === 0)
+    return chapter("Modules", make("p", { text: "There are none." }));
   const lines = page.modules.map((module) => [
     module.name || "–",
     module.problem ? make("span", { class: "problem", text: module.problem }) : (module.holds ?? "nothing"),
     (module.supports ?? []).join(", "),
     make("span", { class: "place", text: module.file }),
   ]);
-  return chapter("Modules", table("Module files", ["module", "holds", "names", "file"], lines), ...page.moduleProblems.map((problem) => make("p", { class: "problem", text: problem })));
+  return chapter(
+    "Modules",
+    table("Module files", ["module", "holds", "names", "file"], lines),
+    ...page.moduleProblems.map((problem) => make("p", { class: "problem", text: problem })),
+  );
 }
 
 function capacity() {
-  const lines = page.rows.filter((row) => !row.further).flatMap((row) => row.versions.map(([version, outcome, file, problem]) => [rowLink(row), version, outcome, problem ? make("span", { class: "problem", text: problem }) : make("span", { class: "place", text: file })]));
+  const lines = page.rows
+    .filter((row) => !row.further)
+    .flatMap((row) =>
+      row.versions.map(([version, outcome, file, problem]) => [
+        rowLink(row),
+        version,
+        outcome,
+        problem ? make("span", { class: "problem", text: problem }) : make("span", { class: "place", text: file }),
+      ]),
+    );
   if (lines.length === 0) return chapter("Capacity", make("p", { text: "No type has capacity documents." }));
-  return chapter("Capacity", table("Versions in service of capacity-capable types", ["type and version", "in service", "outcome", "document"], lines));
+  return chapter(
+    "Capacity",
+    table(
+      "Versions in service of capacity-capable types",
+      ["type and version", "in service", "outcome", "document"],
+      lines,
+    ),
+  );
 }
 
 function alarmTables() {
-  const lines = page.alarmTables.map(([language, file, holds, problem]) => [language, problem ? make("span", { class: "problem", text: problem }) : holds, make("span", { class: "place", text: file })]);
+  const lines = page.alarmTables.map(([language, file, holds, problem]) => [
+    language,
+    problem ? make("span", { class: "problem", text: problem }) : holds,
+    make("span", { class: "place", text: file }),
+  ]);
   if (lines.length === 0) return chapter("Alarm tables", make("p", { text: "There are none." }));
   return chapter("Alarm tables", table("Alarm tables by language", ["language", "holds", "file"], lines));
 }
 
 function devices() {
-  const lines = page.devices.filter((device) => device.problem).map((device) => [device.name || String(device.id), String(device.id), device.problem]);
+  const lines = page.devices
+    .filter((device) => device.problem)
+    .map((device) => [device.name || String(device.id), String(device.id), device.problem]);
   if (lines.length === 0) return null;
-  return chapter("Devices without a configuration", table("Devices without a configuration", ["device", "id", "reason"], lines));
+  return chapter(
+    "Devices without a configuration",
+    table("Devices without a configuration", ["device", "id", "reason"], lines),
+  );
 }
 
 function origin() {
@@ -140,6 +217,9 @@ export function showHealth() {
     byId("finding-list")?.replaceWith(findingsList());
     return;
   }
-  byId("health").append(cards(), ...[failures(), lint(), modules(), capacity(), alarmTables(), devices(), origin()].filter(Boolean));
+  byId("health").append(
+    cards(),
+    ...[failures(), lint(), modules(), capacity(), alarmTables(), devices(), origin()].filter(Boolean),
+  );
   isFilled = true;
 }

@@ -10,7 +10,7 @@ import { showComparison } from "./comparison.js";
 const VIEWS = { matrix: showMatrix, comparison: showComparison, health: showHealth };
 
 function showView() {
-  const shown = view.view in VIEWS ? view.view : "matrix";
+  const shown = Object.hasOwn(VIEWS, view.view) ? view.view : "matrix";
   for (const name of Object.keys(VIEWS)) byId(name).hidden = name !== shown;
   for (const link of document.querySelectorAll("#views a")) {
     const isHere = link.dataset.view === shown;

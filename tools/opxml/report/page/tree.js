@@ -17,11 +17,20 @@ function placeOf(files, place) {
 
 // One line: name, what it says, whose it is, where it stands.
 function lineOf(node, files) {
-  const line = make("span", { class: node.fate ? `line ${node.fate}` : "line" }, placeOf(files, node.place), make("b", { text: node.name }), make("span", { text: node.rest }));
+  const line = make(
+    "span",
+    { class: node.fate ? `line ${node.fate}` : "line" },
+    placeOf(files, node.place),
+    make("b", { text: node.name }),
+    make("span", { text: node.rest }),
+  );
   if (node.module) line.append(" ", make("span", { class: "tag module", text: `module ${node.module}` }));
   if (node.fate) {
     const because = node.because ? ` (${placeWords(files, node.because)})` : "";
-    line.append(" ", make("span", { class: "tag fate", text: FATES[node.fate] + (node.reason ? `: ${node.reason}` : "") + because }));
+    line.append(
+      " ",
+      make("span", { class: "tag fate", text: FATES[node.fate] + (node.reason ? `: ${node.reason}` : "") + because }),
+    );
   }
   return line;
 }
@@ -43,20 +52,34 @@ function branch(summary, children, isOpen, fill) {
 
 function item(node, files, isOpen) {
   if (node.children.length === 0) return make("li", {}, lineOf(node, files));
-  return make("li", {}, branch(lineOf(node, files), node.children, isOpen, (child) => item(child, files, isOpen)));
+  return make(
+    "li",
+    {},
+    branch(lineOf(node, files), node.children, isOpen, (child) => item(child, files, isOpen)),
+  );
 }
 
 const SHOWN_OPEN = 400; // lines; a section with more shows its first level alone
 
 function sectionOf(section, title, size, body) {
-  return make("section", { class: "section", "data-section": section }, make("h3", {}, title, " ", make("span", { class: "size", text: String(size) })), body);
+  return make(
+    "section",
+    { class: "section", "data-section": section },
+    make("h3", {}, title, " ", make("span", { class: "size", text: String(size) })),
+    body,
+  );
 }
 
 export function treeOf(detail) {
   return detail.sections.map(({ section, nodes }) => {
     const isOpen = sizeOf(nodes) <= SHOWN_OPEN;
     const counting = nodes.filter((node) => node.fate !== "cut" && node.fate !== "dropped").length;
-    return sectionOf(section, page.sections[section], counting, make("ul", { class: "tree" }, ...nodes.map((node) => item(node, detail.files, isOpen))));
+    return sectionOf(
+      section,
+      page.sections[section],
+      counting,
+      make("ul", { class: "tree" }, ...nodes.map((node) => item(node, detail.files, isOpen))),
+    );
   });
 }
 
@@ -99,7 +122,8 @@ function stateOfPair({ left, right, isSame }) {
 function pairLine(paired, files) {
   const state = stateOfPair(paired);
   const [mark, words] = SIDES[state];
-  const side = (node, which) => make("span", { class: "side" }, node ? lineOf(node, files[which]) : make("span", { class: "absent", text: "–" }));
+  const side = (node, which) =>
+    make("span", { class: "side" }, node ? lineOf(node, files[which]) : make("span", { class: "absent", text: "–" }));
   return make(
     "span",
     { class: `pair ${state}` },
@@ -112,17 +136,30 @@ function pairLine(paired, files) {
 
 function pairItem(paired, files) {
   if (paired.children.length === 0) return make("li", {}, pairLine(paired, files));
-  return make("li", {}, branch(pairLine(paired, files), paired.children, !paired.isAlike, (child) => pairItem(child, files)));
+  return make(
+    "li",
+    {},
+    branch(pairLine(paired, files), paired.children, !paired.isAlike, (child) => pairItem(child, files)),
+  );
 }
 
 export function treesOf(left, right, isOnlyDifferences) {
   const files = [left.files, right.files];
   const nodesOf = (detail, section) => detail.sections.find((found) => found.section === section)?.nodes ?? [];
   const onlyDifferent = (pairs) =>
-    isOnlyDifferences ? pairs.filter((paired) => !paired.isAlike).map((paired) => ({ ...paired, children: onlyDifferent(paired.children) })) : pairs;
+    isOnlyDifferences
+      ? pairs
+          .filter((paired) => !paired.isAlike)
+          .map((paired) => ({ ...paired, children: onlyDifferent(paired.children) }))
+      : pairs;
   return page.sections.flatMap((title, section) => {
     const pairs = onlyDifferent(pair(nodesOf(left, section), nodesOf(right, section)));
     if (pairs.length === 0) return [];
-    return sectionOf(section, title, pairs.length, make("ul", { class: "tree pairs" }, ...pairs.map((paired) => pairItem(paired, files))));
+    return sectionOf(
+      section,
+      title,
+      pairs.length,
+      make("ul", { class: "tree pairs" }, ...pairs.map((paired) => pairItem(paired, files))),
+    );
   });
 }
