@@ -2,8 +2,10 @@
 // supports, as a readable tree.
 #include "database/CXMLConfigDatabase.h"
 #include "standalone/TypeList.h"
+#include "tools/opxml/catalog/RecordPlaces.h"
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/commands/Devices.h"
+#include "tools/opxml/explain/ServedKeys.h"
 #include "tools/opxml/output/DevTypes.h"
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/RecordTree.h"
@@ -13,10 +15,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <iterator>
 #include <list>
 #include <memory>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace
@@ -25,7 +27,8 @@ struct StShowOptions
 {
     std::string strName;
     std::string strVersion;
-    bool        bJson = false;
+    bool        bWhere = false;
+    bool        bJson  = false;
 };
 
 struct StWanted
@@ -78,30 +81,59 @@ StTree configurationTree(const std::string& strKey, const StAsnDevTypeVerXMLInfo
     return stTree;
 }
 
-// Those of the keys that hold something of what is wanted, in order.
-void gather(const StLoadReport& stReport, const StWanted& stWanted, bool bJson, StShown& stShown)
+// Where the records of a key stand; null when that is not asked for.
+const catalog::StTypeCatalog* findCatalog(const StLoadReport& stReport, const std::string& strKey, bool bWhere)
+{
+    for (const StDevTypeLoad& stLoad : stReport.lstDevType)
+    {
+        if (bWhere && stLoad.strKey == strKey && stLoad.isConfigured())
+            return &CServedKeys::instance().find(stLoad.strDevType, stLoad.strDevTypeVer).stCatalog;
+    }
+    return nullptr;
+}
+
+// Those of a key's records that are wanted.
+void gatherKey(const StLoadReport& stReport, const StWanted& stWanted, const StShowOptions& stOptions,
+               const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo, StShown& stShown)
+{
+    const catalog::StTypeCatalog* pCatalog       = findCatalog(stReport, strKey, stOptions.bWhere);
+    Json                          oRecords       = Json::array();
+    std::size_t                   nConfiguration = 0;
+    std::size_t                   nShown         = 0;
+    for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+    {
+        const std::size_t nAt = nConfiguration++;
+        if (!isWanted(stWanted, *pInfo))
+            continue;
+        ++nShown;
+        if (stOptions.bJson)
+        {
+            Json& oInfo = oRecords.emplace_back(toJson(*pInfo));
+            if (pCatalog != nullptr)
+                addPlaces(oInfo, *pCatalog, nAt);
+            continue;
+        }
+        // Modules go into the first record.
+        const auto lstContribution = nAt == 0 ? contributionsTo(stReport, strKey) : std::vector<StContribution>();
+        StTree&    stTree          = stShown.lstTree.emplace_back(configurationTree(strKey, *pInfo, lstContribution));
+        if (pCatalog != nullptr)
+            addPlaces(stTree, *pCatalog, nAt);
+    }
+    if (nShown == 0)
+        return;
+    ++stShown.nKeys;
+    if (stOptions.bJson)
+        stShown.oRecords[strKey] = std::move(oRecords);
+}
+
+// Of the keys, in order.
+void gather(const StLoadReport& stReport, const StWanted& stWanted, const StShowOptions& stOptions, StShown& stShown)
 {
     CXMLConfigDatabase::getInstance()->visitDevTypes(
         [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
         {
-            std::list<StAsnDevTypeVerXMLInfo*> lstWanted;
-            std::copy_if(lstInfo.begin(), lstInfo.end(), std::back_inserter(lstWanted),
-                         [&stWanted](const StAsnDevTypeVerXMLInfo* pInfo) { return isWanted(stWanted, *pInfo); });
-            if (stWanted.setKey.count(strKey) == 0 || lstWanted.empty())
-                return;
-            ++stShown.nKeys;
-            if (bJson)
-            {
-                stShown.oRecords[strKey] = toJson(lstWanted);
-                return;
-            }
-            for (const StAsnDevTypeVerXMLInfo* pInfo : lstWanted)
-            {
-                // Modules go into the first record.
-                const auto lstContribution =
-                    pInfo == lstInfo.front() ? contributionsTo(stReport, strKey) : std::vector<StContribution>();
-                stShown.lstTree.push_back(configurationTree(strKey, *pInfo, lstContribution));
-            }
+            if (stWanted.setKey.count(strKey) != 0)
+                gatherKey(stReport, stWanted, stOptions, strKey, lstInfo, stShown);
         });
 }
 
@@ -183,7 +215,7 @@ int runShow(const StGlobalOptions& stGlobal, const StShowOptions& stOptions)
         return EXIT_NO;
     const StLoadReport stReport = CXMLConfigDatabase::getInstance()->getLoadReport();
     StShown            stShown;
-    gather(stReport, stWanted, stOptions.bJson, stShown);
+    gather(stReport, stWanted, stOptions, stShown);
     if (!stWanted.strDevice.empty() && !stOptions.bJson)
         printLine(stWanted.strDevice);
     for (const StTree& stTree : stShown.lstTree)
@@ -204,11 +236,12 @@ void addShowCommand(CLI::App& oApp, StTool& stTool)
     auto      pOptions = std::make_shared<StShowOptions>();
     pCommand
         ->add_option(
-            "TYPE", pOptions->strName,
-            "Device type or storage key, with TYPE:VERSION:SOFTWARE:PATCH one version in service; or a device by "
-            "id, name or address")
+            "DEVICE|TYPE", pOptions->strName,
+            "A device by id, name or address; or a device type or storage key, with TYPE:VERSION:SOFTWARE:PATCH one "
+            "version in service")
         ->required();
     pCommand->add_option("VERSION", pOptions->strVersion, "One version of it; without it, all variants are shown");
+    pCommand->add_flag("--where", pOptions->bWhere, "Add to each record where it stands: FILE:LINE:COLUMN");
     pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
     pCommand->callback([&stTool, pOptions]
                        { stTool.fnRun = [&stTool, pOptions] { return runShow(stTool.stOptions, *pOptions); }; });

@@ -1,12 +1,16 @@
 // See CommandLine.h.
 #include "tools/opxml/commands/CommandLine.h"
 
+#include "tools/opxml/commands/HelpFormat.h"
 #include "tools/opxml/output/Terminal.h"
+
+#include <memory>
 
 namespace
 {
 void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
 {
+    oApp.formatter(std::make_shared<CHelpFormat>()); // of its commands as well
     oApp.require_subcommand(1);
     oApp.fallthrough(); // the options below may follow the command as well
     oApp.set_version_flag("--version", "opxml " OPXML_VERSION);

@@ -139,6 +139,19 @@ void addListedWords(const std::string& strKind, StCompletion& stCompletion)
     }
 }
 
+// Calls fnPart for each part of a name of the help: "DEVICE|TYPE" has two.
+template <typename Part>
+void forEachPart(const std::string& strName, Part fnPart)
+{
+    const std::string strParts = strName.substr(0, strName.find('['));
+    for (std::size_t nBegin = 0; nBegin <= strParts.size();)
+    {
+        const std::size_t nEnd = std::min(strParts.find('|', nBegin), strParts.size());
+        fnPart(strParts.substr(nBegin, nEnd - nBegin));
+        nBegin = nEnd + 1;
+    }
+}
+
 // A name of the help: a file, words that are listed, or names of the root, where
 // "DEVICE|TYPE[:VERSION]" takes those of all its parts that may come first.
 void addNames(const StLine& stLine, const std::string& strKind, const ArgumentValues& mapValue,
@@ -155,14 +168,12 @@ void addNames(const StLine& stLine, const std::string& strKind, const ArgumentVa
         return;
     std::string strIgnored;
     standalone::openServerRoot(stLine.strRoot, strIgnored); // without one, rules have names still
-    const std::string strParts = strKind.substr(0, strKind.find('['));
-    for (std::size_t nBegin = 0; nBegin <= strParts.size();)
-    {
-        const std::size_t              nEnd    = std::min(strParts.find('|', nBegin), strParts.size());
-        const std::vector<StCandidate> lstName = namesFor(strParts.substr(nBegin, nEnd - nBegin), mapValue);
-        stCompletion.lstCandidate.insert(stCompletion.lstCandidate.end(), lstName.begin(), lstName.end());
-        nBegin = nEnd + 1;
-    }
+    forEachPart(strKind,
+                [&](const std::string& strPart)
+                {
+                    const std::vector<StCandidate> lstName = namesFor(strPart, mapValue);
+                    stCompletion.lstCandidate.insert(stCompletion.lstCandidate.end(), lstName.begin(), lstName.end());
+                });
 }
 
 void addQuestions(StCompletion& stCompletion)
@@ -203,7 +214,7 @@ void addArgument(const StLine& stLine, StCompletion& stCompletion)
         const std::string  strName     = oPositional.get_name(true);
         if (nAt >= stLine.lstArgument.size() || oPositional.get_items_expected_max() > 1)
             return addNames(stLine, strName, mapValue, stCompletion);
-        mapValue[strName] = stLine.lstArgument[nAt];
+        forEachPart(strName, [&](const std::string& strPart) { mapValue[strPart] = stLine.lstArgument[nAt]; });
     }
 }
 } // namespace

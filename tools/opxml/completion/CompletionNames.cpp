@@ -1,28 +1,21 @@
 // See CompletionNames.h.
 #include "tools/opxml/completion/CompletionNames.h"
 
-#include "database/CXMLConfigDatabase.h"
 #include "lint/Lint.h"
 #include "platform/DeviceAdapter.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "records/WordTables.h"
 #include "standalone/DeviceList.h"
-#include "tools/opxml/query/QueryOperations.h"
+#include "tools/opxml/output/DevTypes.h"
 
 #include <algorithm>
+#include <functional>
 #include <list>
 #include <memory>
 #include <set>
 
 namespace
 {
-std::list<StDeviceType> registeredTypes()
-{
-    std::list<StDeviceType> lstType;
-    CDeviceAdapterInterface::getInstance()->getALLDLLInfo(lstType);
-    return lstType;
-}
-
 std::string valueOf(const ArgumentValues& mapValue, const char* pszArgument)
 {
     const auto itValue = mapValue.find(pszArgument);
@@ -34,7 +27,7 @@ std::vector<StCandidate> types(const ArgumentValues& /*mapValue*/)
 {
     std::vector<StCandidate>           lstName;
     std::map<std::string, std::size_t> mapPlace;
-    for (const StDeviceType& stType : registeredTypes())
+    for (const StRegisteredType& stType : registeredTypes())
     {
         const auto [itPlace, bNew] = mapPlace.try_emplace(stType.strDevType, lstName.size());
         if (bNew)
@@ -49,7 +42,7 @@ std::vector<StCandidate> versions(const ArgumentValues& mapValue)
 {
     const std::string        strType = valueOf(mapValue, "TYPE");
     std::vector<StCandidate> lstName;
-    for (const StDeviceType& stType : registeredTypes())
+    for (const StRegisteredType& stType : registeredTypes())
     {
         if (stType.strDevType == strType)
             lstName.push_back({stType.strDevTypeVer, ""});
@@ -87,10 +80,12 @@ std::vector<StCandidate> devices(const ArgumentValues& mapValue)
 }
 
 // The type and version that the line speaks of, by name or by a device's id.
-bool findEntry(const ArgumentValues& mapValue, StDeviceType& stEntry)
+bool findEntry(const ArgumentValues& mapValue, StRegisteredType& stEntry)
 {
-    const std::string strType    = valueOf(mapValue, "TYPE");
-    const std::string strVersion = valueOf(mapValue, "VERSION");
+    const auto        lstType    = registeredTypes();
+    const StNamedType stNamed    = splitTypeName(lstType, valueOf(mapValue, "TYPE"));
+    const std::string strType    = stNamed.strName;
+    const std::string strVersion = valueOf(mapValue, "VERSION") + stNamed.strVersion;
     const std::string strDevice  = valueOf(mapValue, "DEVICE-ID") + valueOf(mapValue, "DEVICE");
     std::string       strDeviceType;
     for (const standalone::StListedDevice& stDevice : standalone::listDevices())
@@ -99,9 +94,10 @@ bool findEntry(const ArgumentValues& mapValue, StDeviceType& stEntry)
             (std::to_string(stDevice.stInfo.ulDeviceID) == strDevice || stDevice.stInfo.strDeviceName == strDevice))
             strDeviceType = typeOfDevice(stDevice.stInfo);
     }
-    for (const StDeviceType& stType : registeredTypes())
+    for (const StRegisteredType& stType : lstType)
     {
-        const bool bNamed  = stType.strDevType == strType && (strVersion.empty() || stType.strDevTypeVer == strVersion);
+        const bool bName   = stType.strDevType == strType || stType.strKey == strType;
+        const bool bNamed  = bName && (strVersion.empty() || stType.strDevTypeVer == strVersion);
         const bool bDevice = stType.strDevType + " " + stType.strDevTypeVer == strDeviceType;
         if (bNamed || bDevice)
         {
@@ -112,6 +108,32 @@ bool findEntry(const ArgumentValues& mapValue, StDeviceType& stEntry)
     return false;
 }
 
+using Visit = std::function<void(const StAsnDevTypeVerXMLInfo&)>;
+
+// Read as the server reads it, from this type's file alone: what modules add is not
+// among it, and what a capacity document takes away is.
+void visitRecords(const ArgumentValues& mapValue, const Visit& fnVisit)
+{
+    StRegisteredType stEntry;
+    if (!findEntry(mapValue, stEntry))
+        return;
+    CDevTypeXMLResReader               oReader(stEntry.strKey, stEntry.strDevTypeVer, false);
+    std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
+    oReader.readDevTypeVerXMLFile(lstInfo);
+    for (StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+        fnVisit(*std::unique_ptr<StAsnDevTypeVerXMLInfo>(pInfo));
+}
+
+std::vector<StCandidate> sorted(const std::set<std::string>& setId)
+{
+    std::vector<StCandidate> lstName(setId.size());
+    std::transform(setId.begin(), setId.end(), lstName.begin(),
+                   [](const std::string& strId) {
+                       return StCandidate{strId, ""};
+                   });
+    return lstName;
+}
+
 template <typename Record>
 void addIds(std::set<std::string>& setId, const std::list<Record>& lstRecord)
 {
@@ -119,36 +141,64 @@ void addIds(std::set<std::string>& setId, const std::list<Record>& lstRecord)
         setId.insert(stRecord.strId);
 }
 
-// Read as the server reads it, from this type's file alone: what modules add is not
-// among them, and what a capacity document takes away is.
 std::vector<StCandidate> operations(const ArgumentValues& mapValue)
 {
-    StDeviceType stEntry;
-    if (!findEntry(mapValue, stEntry))
-        return {};
-    const std::string    strKey = CXMLConfigDatabase::trans2TelnetDevType(stEntry.strDevType, stEntry.strDevTypeVer);
-    CDevTypeXMLResReader oReader(strKey, stEntry.strDevTypeVer, false);
-    std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
-    oReader.readDevTypeVerXMLFile(lstInfo);
     std::set<std::string> setId;
-    for (StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+    visitRecords(mapValue,
+                 [&setId](const StAsnDevTypeVerXMLInfo& stInfo)
+                 {
+                     const StAsnOperationConfig& stConfig = stInfo.stOperationConfig;
+                     addIds(setId, stConfig.lstDevOperation);
+                     addIds(setId, stConfig.lstTaskOperation);
+                     addIds(setId, stConfig.lstPatchOperation);
+                     addIds(setId, stConfig.lstCheckOperation);
+                     addIds(setId, stConfig.lstCustomOperation);
+                     addIds(setId, stConfig.lstOtherOperation);
+                     addIds(setId, stConfig.lstUpgradeOperation);
+                 });
+    return sorted(setId);
+}
+
+// Those of the operation that the line speaks of, whatever its kind.
+void visitParameters(const ArgumentValues& mapValue, const std::function<void(const StAsnOperParamDef&)>& fnVisit)
+{
+    const std::string strOperation = valueOf(mapValue, "OPERATION");
+    const auto        fnList       = [&](const auto& lstOperation)
     {
-        const std::unique_ptr<StAsnDevTypeVerXMLInfo> pOwned(pInfo);
-        const StAsnOperationConfig&                   stConfig = pOwned->stOperationConfig;
-        addIds(setId, stConfig.lstDevOperation);
-        addIds(setId, stConfig.lstTaskOperation);
-        addIds(setId, stConfig.lstPatchOperation);
-        addIds(setId, stConfig.lstCheckOperation);
-        addIds(setId, stConfig.lstCustomOperation);
-        addIds(setId, stConfig.lstOtherOperation);
-        addIds(setId, stConfig.lstUpgradeOperation);
-    }
-    std::vector<StCandidate> lstName(setId.size());
-    std::transform(setId.begin(), setId.end(), lstName.begin(),
-                   [](const std::string& strId) {
-                       return StCandidate{strId, ""};
-                   });
-    return lstName;
+        for (const auto& stOperation : lstOperation)
+        {
+            if (stOperation.strId == strOperation)
+                std::for_each(stOperation.lstParam.begin(), stOperation.lstParam.end(), fnVisit);
+        }
+    };
+    visitRecords(mapValue,
+                 [&fnList](const StAsnDevTypeVerXMLInfo& stInfo)
+                 {
+                     fnList(stInfo.stOperationConfig.lstDevOperation);
+                     fnList(stInfo.stOperationConfig.lstTaskOperation);
+                     fnList(stInfo.stOperationConfig.lstPatchOperation);
+                     fnList(stInfo.stOperationConfig.lstOtherOperation);
+                 });
+}
+
+std::vector<StCandidate> parameters(const ArgumentValues& mapValue)
+{
+    std::set<std::string> setId;
+    visitParameters(mapValue, [&setId](const StAsnOperParamDef& stParam) { setId.insert(stParam.strId); });
+    return sorted(setId);
+}
+
+std::vector<StCandidate> options(const ArgumentValues& mapValue)
+{
+    const std::string     strParameter = valueOf(mapValue, "PARAMETER");
+    std::set<std::string> setId;
+    visitParameters(mapValue,
+                    [&](const StAsnOperParamDef& stParam)
+                    {
+                        if (stParam.strId == strParameter)
+                            addIds(setId, stParam.lstOption);
+                    });
+    return sorted(setId);
 }
 
 std::vector<StCandidate> taskTypes(const ArgumentValues& /*mapValue*/)
@@ -173,8 +223,9 @@ struct StNames
     std::vector<StCandidate> (*pfnNames)(const ArgumentValues&);
 };
 constexpr StNames NAMES[] = {
-    {"TYPE", types},     {"DEVICE-TYPE", types},    {"VERSION", versions},    {"DEVICE-ID", deviceIds},
-    {"DEVICE", devices}, {"OPERATION", operations}, {"TASK-TYPE", taskTypes}, {"RULE", lintRules},
+    {"TYPE", types},          {"DEVICE-TYPE", types},    {"VERSION", versions},     {"DEVICE-ID", deviceIds},
+    {"DEVICE", devices},      {"OPERATION", operations}, {"PARAMETER", parameters}, {"OPTION", options},
+    {"TASK-TYPE", taskTypes}, {"RULE", lintRules},
 };
 } // namespace
 

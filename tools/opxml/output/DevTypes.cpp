@@ -103,11 +103,14 @@ std::string sourceText(EnConfigSource enSource)
 
 namespace
 {
+// FILE:LINE:COLUMN, as far as the place is known.
 std::string withFile(const std::string& strFile, const StReadProblem& stProblem, std::uint32_t ulResult)
 {
-    const std::string& strNamed = stProblem.strFile.empty() ? strFile : stProblem.strFile;
-    return (strNamed.empty() ? "" : shortPath(strNamed) + ": ") +
-           (stProblem.isSet() ? problemText(stProblem) : "result " + resultText(ulResult));
+    std::string strPlace = shortPath(stProblem.strFile.empty() ? strFile : stProblem.strFile);
+    for (const std::uint32_t ulNumber : {stProblem.ulLine, stProblem.ulColumn})
+        strPlace += ulNumber == 0 ? "" : ":" + std::to_string(ulNumber);
+    return (strPlace.empty() ? "" : strPlace + ": ") +
+           (stProblem.isSet() ? stProblem.strText : "result " + resultText(ulResult));
 }
 } // namespace
 
