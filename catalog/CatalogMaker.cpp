@@ -1,15 +1,13 @@
 // See CatalogMaker.h.
 #include "catalog/CatalogMaker.h"
 
-#include "catalog/EntryMaker.h"
 #include "catalog/PlacedSource.h"
-#include "catalog/Shadowing.h"
+#include "catalog/SectionMaker.h"
 #include "database/CXMLConfigDatabase.h"
 #include "platform/DeviceAdapter.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "reader/CModuleXMLResReader.h"
 #include "reader/ModuleAppend.h"
-#include "reader/SectionTable.h"
 #include "records/ResultCodes.h"
 
 #include <list>
@@ -34,31 +32,6 @@ struct StOwnedRoots
 
     std::list<StAsnDevTypeVerXMLInfo*> lstInfo;
 };
-
-// The sections of a type or module. Lost entries of a module are not known by its
-// lists any more.
-template <typename Root>
-std::vector<StSection> makeSections(const CReadRecorder& oRecorder, const Root& stRoot,
-                                    const std::vector<StLost>& lstModuleLost)
-{
-    std::vector<StSection> lstSection;
-    forEachSection(
-        [&](const auto& stRow)
-        {
-            StSection& stSection          = lstSection.emplace_back();
-            stSection.nRow                = lstSection.size() - 1;
-            const auto&         lstRecord = listOf(stRoot, stRow.pList);
-            std::vector<StLost> lstLost   = oRecorder.lost(&lstRecord);
-            for (const StLost& stLost : lstModuleLost)
-            {
-                if (stLost.nRow == stSection.nRow)
-                    lstLost.push_back(stLost);
-            }
-            addEntries(oRecorder, lstRecord, lstLost, StLost::IN_SECTION, stSection.lstEntry);
-            markShadowed(stSection);
-        });
-    return lstSection;
-}
 } // namespace
 
 class CCatalogMaker::CImpl

@@ -9,6 +9,7 @@
 #include <memory>
 #include <sys/stat.h>
 #include <system_error>
+#include <utility>
 
 namespace standalone
 {
@@ -45,6 +46,16 @@ bool openServerRoot(const std::string& strFolder, std::string& strError)
         strError = strFolder + ": cannot be read: " + oProblem.what();
     }
     return false;
+}
+
+OpenRoot openedServerRoot()
+{
+    return currentInventory();
+}
+
+void resumeServerRoot(OpenRoot pRoot)
+{
+    setCurrentInventory(std::move(pRoot));
 }
 
 void closeServerRoot()

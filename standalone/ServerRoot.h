@@ -10,10 +10,13 @@
 #include "platform/Export.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace standalone
 {
+struct StInventory;
+
 // Codes that the stand-alone services answer with beside 0.
 constexpr std::uint32_t RESULT_NOT_IN_INVENTORY = 0x3B0F0001; // no row for what was asked
 constexpr std::uint32_t RESULT_NO_ROOT          = 0x3B0F0002; // no server root is open
@@ -22,6 +25,14 @@ constexpr std::uint32_t RESULT_NO_ROOT          = 0x3B0F0002; // no server root 
 // it is given here, relative or not, without trailing separators. On failure returns false and puts one message
 // into strError that names the file and, where one failed, the statement.
 OPERATIONXML_PLATFORM_API bool openServerRoot(const std::string& strFolder, std::string& strError);
+
+// A root as it was opened, inventory and all. Null: none.
+using OpenRoot = std::shared_ptr<const StInventory>;
+
+// The root that is open, and taking it up again later, when another one was opened
+// meanwhile: for tools that go to and fro between two. Nothing is read again.
+OPERATIONXML_PLATFORM_API OpenRoot openedServerRoot();
+OPERATIONXML_PLATFORM_API void     resumeServerRoot(OpenRoot pRoot);
 
 // Closes the root. Services that answer with a code then answer RESULT_NO_ROOT,
 // lists and lookups find nothing, paths and environment values are empty.

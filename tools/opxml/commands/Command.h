@@ -42,7 +42,9 @@ void addDevicesCommand(CLI::App& oApp, StTool& stTool);
 void addExplainCommand(CLI::App& oApp, StTool& stTool);
 void addAlarmCommand(CLI::App& oApp, StTool& stTool);
 void addTransferCommand(CLI::App& oApp, StTool& stTool);
+void addDiffCommand(CLI::App& oApp, StTool& stTool);
 void addFileCheckCommand(CLI::App& oApp, StTool& stTool);
+void addFindCommand(CLI::App& oApp, StTool& stTool);
 void addLintCommand(CLI::App& oApp, StTool& stTool);
 void addReportCommand(CLI::App& oApp, StTool& stTool);
 

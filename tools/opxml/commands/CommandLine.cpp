@@ -40,6 +40,8 @@ void describeTool(CLI::App& oApp, StTool& stTool)
     addModulesCommand(oApp, stTool);
     addDevicesCommand(oApp, stTool);
     addExplainCommand(oApp, stTool);
+    addFindCommand(oApp, stTool);
+    addDiffCommand(oApp, stTool);
     addAlarmCommand(oApp, stTool);
     addTransferCommand(oApp, stTool);
     addFileCheckCommand(oApp, stTool);

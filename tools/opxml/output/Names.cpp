@@ -52,6 +52,43 @@ bool mentions(const std::string& strText, const std::string& strPart)
            strPart.empty();
 }
 
+bool matchesPattern(const std::string& strText, const std::string& strPattern)
+{
+    const std::string strFolded = lowerCase(strText);
+    const std::string strWanted = lowerCase(strPattern);
+    std::size_t       nText     = 0;
+    std::size_t       nPattern  = 0;
+    std::size_t       nStar     = std::string::npos; // the last "*", and where the text behind it may begin
+    std::size_t       nBehind   = 0;
+    while (nText < strFolded.size())
+    {
+        if (nPattern < strWanted.size() && strWanted[nPattern] == '*')
+        {
+            nStar   = nPattern++;
+            nBehind = nText;
+        }
+        else if (nPattern < strWanted.size() && strWanted[nPattern] == '?')
+        {
+            ++nPattern;
+            while (++nText < strFolded.size() && (static_cast<unsigned char>(strFolded[nText]) & 0xC0U) == 0x80)
+                continue; // the rest of a UTF-8 character
+        }
+        else if (nPattern < strWanted.size() && strWanted[nPattern] == strFolded[nText])
+        {
+            ++nPattern;
+            ++nText;
+        }
+        else if (nStar == std::string::npos)
+            return false;
+        else
+        {
+            nPattern = nStar + 1;
+            nText    = ++nBehind;
+        }
+    }
+    return strWanted.find_first_not_of('*', nPattern) == std::string::npos;
+}
+
 std::string resultName(std::uint32_t ulResult)
 {
     switch (ulResult)

@@ -14,6 +14,10 @@ std::string resultName(std::uint32_t ulResult);
 // hold each other byte by byte.
 bool mentions(const std::string& strText, const std::string& strPart);
 
+// Whether a text is as a pattern says: "*" stands for any text, "?" for one character;
+// case is folded likewise.
+bool matchesPattern(const std::string& strText, const std::string& strPattern);
+
 // "; did you mean A, B or C?" for the names nearest to a misspelt one; empty
 // when none is near.
 std::string nearestNames(const std::string& strMisspelt, const std::vector<std::string>& lstName);

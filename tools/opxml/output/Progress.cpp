@@ -27,9 +27,14 @@ CProgress::CProgress() : CProgress(registeredCount())
 {
 }
 
-CProgress::CProgress(std::size_t nTypes) : m_bShown(isTerminal(stderr)), m_nTotal(std::max<std::size_t>(nTypes, 1))
+CProgress::CProgress(std::size_t nTypes) : CProgress(nTypes, EnSteps::Heard)
 {
-    if (!m_bShown)
+}
+
+CProgress::CProgress(std::size_t nTypes, EnSteps enSteps)
+    : m_bShown(isTerminal(stderr)), m_nTotal(std::max<std::size_t>(nTypes, 1))
+{
+    if (!m_bShown || enSteps == EnSteps::Told)
         return;
     // Every registry entry is read by one call of this operation.
     standalone::setTraceListener(
@@ -51,6 +56,8 @@ CProgress::~CProgress()
 void CProgress::step()
 {
     ++m_nDone;
+    if (!m_bShown)
+        return;
     const std::size_t nFilled = std::min(BAR_WIDTH, BAR_WIDTH * m_nDone / m_nTotal);
     // Redrawn when it grows, not for every one of ten thousand types.
     if (nFilled == BAR_WIDTH * (m_nDone - 1) / m_nTotal && m_nDone != m_nTotal)

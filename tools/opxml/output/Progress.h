@@ -12,13 +12,22 @@ public:
     // until the object dies.
     CProgress();
     explicit CProgress(std::size_t nTypes);
+
+    // The same where not every type is read: whoever goes through them calls step().
+    enum class EnSteps
+    {
+        Heard,
+        Told,
+    };
+    CProgress(std::size_t nTypes, EnSteps enSteps);
     ~CProgress();
     CProgress(const CProgress&)            = delete;
     CProgress& operator=(const CProgress&) = delete;
 
-private:
+    // One more type is done.
     void step();
 
+private:
     bool        m_bShown;
     std::size_t m_nTotal = 0;
     std::size_t m_nDone  = 0;

@@ -1,0 +1,181 @@
+// See RootDiff.h.
+#include "tools/opxml/diff/RootDiff.h"
+
+#include "catalog/FileCatalog.h"
+#include "common/ReadProblem.h"
+#include "tools/opxml/diff/DiffCollector.h"
+#include "tools/opxml/diff/HurtDevices.h"
+#include "tools/opxml/diff/SameFiles.h"
+#include "tools/opxml/diff/ServerSide.h"
+#include "tools/opxml/output/Exit.h"
+#include "tools/opxml/output/Names.h"
+#include "tools/opxml/output/Progress.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+// Of both registries: those of the old one, then those that the new one has beside them.
+std::vector<StRegisteredType> allTypes(const CServerSide& oOld, const CServerSide& oNew)
+{
+    std::vector<StRegisteredType> lstType = oOld.types();
+    std::copy_if(oNew.types().begin(), oNew.types().end(), std::back_inserter(lstType),
+                 [&oOld](const StRegisteredType& stName) { return oOld.find(stName) == nullptr; });
+    return lstType;
+}
+
+std::vector<StRegisteredType> wantedTypes(const std::vector<StRegisteredType>& lstType,
+                                          const std::vector<std::string>&      lstWanted)
+{
+    if (lstWanted.empty())
+        return lstType;
+    std::vector<StRegisteredType> lstNamed;
+    for (const std::string& strWanted : lstWanted)
+    {
+        const std::vector<StRegisteredType> lstOf = typesNamed(lstType, strWanted);
+        if (lstOf.empty())
+            throw CTrouble("no device type \"" + strWanted + "\"" + nearestNames(strWanted, namesOf(lstType)));
+        lstNamed.insert(lstNamed.end(), lstOf.begin(), lstOf.end());
+    }
+    return lstNamed;
+}
+
+class CRootDiff
+{
+public:
+    CRootDiff(const std::string& strOldRoot, const std::string& strNewRoot) : m_oOld(strOldRoot), m_oNew(strNewRoot)
+    {
+        m_mapNewlyBroken = unreadModules(m_oOld, m_oNew, m_stPassedOver.setOldModule);
+        m_mapMended      = unreadModules(m_oNew, m_oOld, m_stPassedOver.setNewModule);
+    }
+
+    StDiff run(const std::vector<std::string>& lstWanted)
+    {
+        const std::vector<StRegisteredType> lstType = wantedTypes(allTypes(m_oOld, m_oNew), lstWanted);
+        {
+            CProgress oProgress(lstType.size(), CProgress::EnSteps::Told);
+            for (const StRegisteredType& stName : lstType)
+            {
+                compareType(stName);
+                oProgress.step();
+            }
+        }
+        StDiff stDiff = m_oCollector.take();
+        stDiff.nTypes = lstType.size();
+        m_oOld.resume();
+        stDiff.lstDevice = findHurtDevices(stDiff);
+        m_oNew.resume();
+        return stDiff;
+    }
+
+private:
+    using UnreadModules = std::map<std::string, const catalog::StModuleCatalog*>; // by name: the file that is broken
+
+    // The modules that one side has and the other could not read, by their files.
+    static UnreadModules unreadModules(const CServerSide& oHas, const CServerSide& oLacks,
+                                       std::set<std::string>& setName)
+    {
+        UnreadModules mapUnread;
+        for (const catalog::StModuleCatalog& stHas : oHas.modules())
+        {
+            if (stHas.ulResult != 0)
+                continue;
+            for (const catalog::StModuleCatalog& stLacks : oLacks.modules())
+            {
+                if (stLacks.ulResult == 0 || oHas.belowRoot(stHas.strFile) != oLacks.belowRoot(stLacks.strFile))
+                    continue;
+                mapUnread[stHas.strName] = &stLacks;
+                setName.insert(stHas.strName);
+            }
+        }
+        return mapUnread;
+    }
+
+    void compareType(const StRegisteredType& stName)
+    {
+        const StRegisteredType stType = {stName.strDevType, stName.strDevTypeVer, stName.strKey};
+        const StSideType*      pOld   = m_oOld.find(stName);
+        const StSideType*      pNew   = m_oNew.find(stName);
+        if (pOld == nullptr || pNew == nullptr)
+            return tellRegistry(stType, pOld == nullptr);
+        m_oOld.resume();
+        const StConfigPlan stOldPlan = m_oOld.plan(*pOld);
+        m_oNew.resume();
+        const StConfigPlan stNewPlan = m_oNew.plan(*pNew);
+        if (m_oOld.settings() == m_oNew.settings() && m_oSameFiles.isSame(*pOld, stOldPlan, *pNew, stNewPlan))
+            return;
+        const catalog::StTypeCatalog stNewMade = m_oNew.make(*pNew);
+        m_oOld.resume();
+        const catalog::StTypeCatalog stOldMade = m_oOld.make(*pOld);
+        std::vector<StTypeChange>    lstChange = unreadModuleChanges(*pOld, m_mapNewlyBroken, false);
+        for (StTypeChange& stChange : unreadModuleChanges(*pNew, m_mapMended, true))
+            lstChange.push_back(std::move(stChange));
+        for (StTypeChange& stChange : diffTypes(stOldMade, stNewMade, m_stPassedOver))
+            lstChange.push_back(std::move(stChange));
+        m_oCollector.add(stType, lstChange, stOldMade.lstFile, stNewMade.lstFile);
+    }
+
+    void tellRegistry(const StRegisteredType& stType, bool bGained)
+    {
+        StTypeChange stChange;
+        stChange.stEntryChange.stChange.pRule  = &diffRule(bGained ? "type-gained" : "type-lost");
+        stChange.stEntryChange.stChange.enWhat = bGained ? EnChange::Gained : EnChange::Lost;
+        m_oCollector.add(stType, {stChange}, {}, {});
+    }
+
+    // What a module adds to the type is not told as lost when the module is unread.
+    static std::vector<StTypeChange> unreadModuleChanges(const StSideType& stType, const UnreadModules& mapUnread,
+                                                         bool bReadNow)
+    {
+        std::vector<StTypeChange> lstChange;
+        for (const catalog::StModuleCatalog* pModule : stType.lstModule)
+        {
+            const auto itUnread = mapUnread.find(pModule->strName);
+            if (itUnread == mapUnread.end())
+                continue;
+            StChange& stChange                             = lstChange.emplace_back().stEntryChange.stChange;
+            stChange.pRule                                 = &diffRule(bReadNow ? "can-be-read" : "cannot-be-read");
+            stChange.enWhat                                = EnChange::Unread;
+            stChange.strPath                               = "module " + pModule->strName;
+            (bReadNow ? stChange.strOld : stChange.strNew) = problemWithFile(itUnread->second->stProblem);
+        }
+        return lstChange;
+    }
+
+    CServerSide    m_oOld;
+    CServerSide    m_oNew;
+    CSameFiles     m_oSameFiles;
+    CDiffCollector m_oCollector;
+    StPassedOver   m_stPassedOver;
+    UnreadModules  m_mapNewlyBroken; // the new side cannot read them
+    UnreadModules  m_mapMended;      // the old side could not
+};
+
+void requireConfiguration(const catalog::StTypeCatalog& stFile, const std::string& strFile)
+{
+    const auto fnFilled = [](const catalog::StSection& stSection) { return !stSection.lstEntry.empty(); };
+    if (!stFile.lstConfiguration.empty() && std::none_of(stFile.lstConfiguration[0].lstSection.begin(),
+                                                         stFile.lstConfiguration[0].lstSection.end(), fnFilled))
+        throw CTrouble(strFile + ": nothing of a configuration stands in it");
+}
+} // namespace
+
+StDiff diffRoots(const std::string& strOldRoot, const std::string& strNewRoot,
+                 const std::vector<std::string>& lstWanted)
+{
+    return CRootDiff(strOldRoot, strNewRoot).run(lstWanted);
+}
+
+StDiff diffFiles(const std::string& strOldFile, const std::string& strNewFile)
+{
+    const catalog::StTypeCatalog stOld = catalog::makeFileCatalog(strOldFile);
+    const catalog::StTypeCatalog stNew = catalog::makeFileCatalog(strNewFile);
+    requireConfiguration(stOld, strOldFile);
+    requireConfiguration(stNew, strNewFile);
+    CDiffCollector oCollector;
+    oCollector.add({}, diffTypes(stOld, stNew, {}), stOld.lstFile, stNew.lstFile);
+    StDiff stDiff = oCollector.take();
+    stDiff.nTypes = 1;
+    return stDiff;
+}

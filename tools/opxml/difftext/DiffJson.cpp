@@ -1,0 +1,71 @@
+// The answer for programs. Fields are added, never renamed (docs/diff.md).
+#include "tools/opxml/difftext/ChangeText.h"
+#include "tools/opxml/difftext/DiffPrinter.h"
+#include "tools/opxml/output/RecordJson.h"
+
+namespace
+{
+const char* changeWord(EnChange enWhat)
+{
+    constexpr const char* WORDS[] = {"gained", "lost", "changed", "moved", "unread"};
+    return WORDS[static_cast<std::size_t>(enWhat)];
+}
+
+Json placeJson(const StDiff& stDiff, const StDiffPlace& stPlace)
+{
+    if (stPlace.ulLine == 0)
+        return nullptr;
+    return {{"file", stDiff.lstFile[stPlace.ulFile]}, {"line", stPlace.ulLine}, {"column", stPlace.ulColumn}};
+}
+
+Json changeJson(const StDiff& stDiff, const StChange& stChange)
+{
+    Json oSites = Json::array();
+    for (const StDiffSite& stSite : stChange.lstSite)
+    {
+        const StRegisteredType& stType = stDiff.lstType[stSite.ulType];
+        oSites.push_back({{"type", stType.strDevType},
+                          {"version", stType.strDevTypeVer},
+                          {"software", stDiff.lstSoftware[stSite.ulSoftware]},
+                          {"old", placeJson(stDiff, stSite.stOld)},
+                          {"new", placeJson(stDiff, stSite.stNew)}});
+    }
+    return {{"rule", stChange.pRule->pszId},
+            {"impact", impactWord(stChange.pRule->enImpact)},
+            {"change", changeWord(stChange.enWhat)},
+            {"kind", stChange.pKind == nullptr ? "" : stChange.pKind->pszWord},
+            {"path", stChange.strPath},
+            {"field", stChange.strField},
+            {"old", stChange.strOld},
+            {"new", stChange.strNew},
+            {"renamed", stChange.strRename},
+            {"sites", oSites}};
+}
+
+Json deviceJson(const StHurtDevice& stDevice)
+{
+    return {{"id", stDevice.ulDeviceID},   {"name", stDevice.strName},          {"address", stDevice.strAddress},
+            {"type", stDevice.strDevType}, {"version", stDevice.strDevTypeVer}, {"changes", stDevice.lstChange}};
+}
+} // namespace
+
+std::string diffJson(const StDiff& stDiff)
+{
+    Json oChanges = Json::array();
+    for (const StChange& stChange : stDiff.lstChange)
+        oChanges.push_back(changeJson(stDiff, stChange));
+    Json oDevices = Json::array();
+    for (const StHurtDevice& stDevice : stDiff.lstDevice)
+        oDevices.push_back(deviceJson(stDevice));
+    const ImpactCounts arCount = countImpacts(stDiff);
+    return jsonText({{"changes", oChanges},
+                     {"devices", oDevices},
+                     {"summary",
+                      {{"types", stDiff.nTypes},
+                       {"changedTypes", stDiff.lstType.size()},
+                       {"breaking", arCount[0]},
+                       {"compatible", arCount[1]},
+                       {"cosmetic", arCount[2]},
+                       {"devices", stDiff.lstDevice.size()}}}}) +
+           "\n";
+}
