@@ -47,7 +47,7 @@ void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> l
         m_mapOrigin.emplace(stVersion.stFile.strFile, originOf(stVersion.stFile.enSource));
 }
 
-void CPlacedSource::parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser)
+void CPlacedSource::parse(const std::string& strFile, EnConfigSource /*enSource*/, std::shared_ptr<CXmlParser>& pParser)
 {
     auto itKept = std::find_if(m_lstKept.begin(), m_lstKept.end(),
                                [&](const StKept& stKept) { return stKept.strFile == strFile; });

@@ -26,7 +26,7 @@ public:
     // The files of a plan are about to be read. The first ones have their numbers.
     void begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile, const std::string& strCommonFile);
 
-    void parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser) override;
+    void parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser) override;
 
     // The number of a file in the places, and all of them.
     std::uint32_t                   numberOf(const std::string& strFile);

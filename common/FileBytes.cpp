@@ -16,6 +16,11 @@ std::string errnoText(int nErrno)
     return std::generic_category().message(nErrno);
 }
 
+std::int64_t nanos(const timespec& stTime)
+{
+    return std::int64_t{stTime.tv_sec} * 1'000'000'000 + stTime.tv_nsec;
+}
+
 // Closes a file descriptor on every path.
 class CFile
 {
@@ -58,6 +63,21 @@ private:
     int m_nFd;
 };
 } // namespace
+
+bool operator==(const StFileState& stLeft, const StFileState& stRight)
+{
+    return stLeft.nDevice == stRight.nDevice && stLeft.nInode == stRight.nInode && stLeft.nSize == stRight.nSize &&
+           stLeft.nModifiedNanos == stRight.nModifiedNanos && stLeft.nChangedNanos == stRight.nChangedNanos;
+}
+
+std::optional<StFileState> fileState(const std::string& strPath)
+{
+    struct stat stStatus = {};
+    if (::stat(strPath.c_str(), &stStatus) != 0)
+        return std::nullopt;
+    return StFileState{stStatus.st_dev, stStatus.st_ino, stStatus.st_size, nanos(stStatus.st_mtim),
+                       nanos(stStatus.st_ctim)};
+}
 
 std::string readFileBytes(const std::string& strPath, std::string& strBytes)
 {

@@ -65,3 +65,18 @@ std::uint32_t logThrown(const LocationInfo& stWhere, std::uint32_t ulCode)
         return ulCode;
     }
 }
+
+void passOverThrown()
+{
+    try
+    {
+        throw;
+    }
+    catch (const abi::__forced_unwind&)
+    {
+        throw;
+    }
+    catch (...) // nobody waits for it
+    {
+    }
+}

@@ -39,7 +39,7 @@ public:
     CEntry& operator=(const CEntry&) = delete;
 };
 
-// These two are for catch (...) only.
+// These three are for catch (...) only.
 
 // Logs what was thrown, once and under the code, and answers the code. A log that
 // throws too is passed over. Only the cancellation of the thread goes on: stopping
@@ -48,5 +48,9 @@ std::uint32_t logThrown(const LocationInfo& stWhere, std::uint32_t ulCode);
 
 // The same for the outermost entry; below another one it lets everything through.
 std::uint32_t answerThrown(const LocationInfo& stWhere, std::uint32_t ulCode);
+
+// Passes over what was thrown, for what is only tried: the cancellation of the thread
+// goes on as well.
+void passOverThrown();
 
 #endif

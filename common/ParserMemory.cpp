@@ -3,6 +3,8 @@
 
 #include <xercesc/util/PlatformUtils.hpp>
 
+#include <utility>
+
 using xercesc::MemoryManager;
 using xercesc::XMLPlatformUtils;
 
@@ -32,6 +34,7 @@ void* CParserMemory::allocate(XMLSize_t nSize)
     {
         pBlock        = static_cast<StBlock*>(XMLPlatformUtils::fgMemoryManager->allocate(sizeof(StBlock) + nSize));
         pBlock->nSize = nSize;
+        m_nHeld += nSize;
     }
     return pBlock + 1;
 }
@@ -42,7 +45,7 @@ void CParserMemory::deallocate(void* pBytes)
         return;
     StBlock* const pBlock = static_cast<StBlock*>(pBytes) - 1;
     if (!m_bKeeps || pBlock->nSize < LARGE || pBlock->nSize > MAX_KEPT)
-        return XMLPlatformUtils::fgMemoryManager->deallocate(pBlock);
+        return free(pBlock);
     while (m_pKept != nullptr && m_nKept + pBlock->nSize > MAX_KEPT) // by and by what nothing asks for goes
         freeOldest();
     m_nKept += pBlock->nSize;
@@ -77,6 +80,11 @@ void CParserMemory::freeOldest()
     while ((*ppBlock)->pNext != nullptr)
         ppBlock = &(*ppBlock)->pNext;
     m_nKept -= (*ppBlock)->nSize;
-    XMLPlatformUtils::fgMemoryManager->deallocate(*ppBlock);
-    *ppBlock = nullptr;
+    free(std::exchange(*ppBlock, nullptr));
+}
+
+void CParserMemory::free(StBlock* pBlock)
+{
+    m_nHeld -= pBlock->nSize;
+    XMLPlatformUtils::fgMemoryManager->deallocate(pBlock);
 }

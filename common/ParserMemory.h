@@ -19,6 +19,9 @@ public:
     // From now on freed blocks are kept; a fixed amount, whatever the documents take.
     void keepBlocks() { m_bKeeps = true; }
 
+    // The memory of the parser and its document, with what is kept.
+    std::size_t bytesHeld() const { return m_nHeld; }
+
 protected:
     CParserMemory() = default;
     ~CParserMemory() override;
@@ -36,9 +39,11 @@ private:
     xercesc::MemoryManager* getExceptionMemoryManager() override;
 
     StBlock* takeKept(std::size_t nSize);
+    void     free(StBlock* pBlock);
     void     freeOldest();
 
     std::size_t m_nAllocations = 0;
+    std::size_t m_nHeld        = 0;
     bool        m_bKeeps       = false;
     StBlock*    m_pKept        = nullptr; // the block freed last, which leads to those before it
     std::size_t m_nKept        = 0;       // bytes of all of them

@@ -141,6 +141,7 @@ void CXmlParser::releaseDocument()
 {
     clearReading();
     m_stProblem      = {};
+    m_bMemoryRanOut  = false;
     fParseInProgress = false; // left set by a parse that ran out of memory
     resetDocumentPool();
 }
@@ -161,6 +162,12 @@ void CXmlParser::clearReading()
 
 void CXmlParser::parseFile(const std::string& strPath)
 {
+    parseUntold(strPath);
+    tellReadListener(m_stProblem);
+}
+
+void CXmlParser::parseUntold(const std::string& strPath)
+{
     releaseDocument();
     try
     {
@@ -173,10 +180,9 @@ void CXmlParser::parseFile(const std::string& strPath)
     }
     catch (const std::bad_alloc&)
     {
-        m_stProblem.strText = "out of memory";
+        noteMemoryRanOut();
     }
     nameProblem(strPath);
-    tellReadListener(m_stProblem);
 }
 
 void CXmlParser::nameProblem(const std::string& strFile)
@@ -210,11 +216,11 @@ void CXmlParser::parseOnce(std::string_view strXml, std::size_t nBytewiseFrom)
     }
     catch (const OutOfMemoryException&)
     {
-        m_stProblem.strText = "out of memory";
+        noteMemoryRanOut();
     }
     catch (const std::bad_alloc&)
     {
-        m_stProblem.strText = "out of memory";
+        noteMemoryRanOut();
     }
     m_bIsReading = false;
     getScanner()->setErrorReporter(nullptr);
@@ -224,10 +230,12 @@ void CXmlParser::parseOnce(std::string_view strXml, std::size_t nBytewiseFrom)
         return;
     }
     StReadProblem     stProblem = std::exchange(m_stProblem, {});
+    const bool        bMemory   = m_bMemoryRanOut;
     const bool        bBytes    = m_bIsBytesProblem;
     const std::size_t nTaken    = m_nTaken;
     releaseDocument(); // a half-read document is no document
     m_stProblem       = std::move(stProblem);
+    m_bMemoryRanOut   = bMemory;
     m_bIsBytesProblem = bBytes;
     m_nTaken          = nTaken;
 }
@@ -259,6 +267,12 @@ void CXmlParser::noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFi
 {
     if (!m_stProblem.isSet())
         m_stProblem = {"", static_cast<std::uint32_t>(nLine), static_cast<std::uint32_t>(nColumn), strText, {}};
+}
+
+void CXmlParser::noteMemoryRanOut()
+{
+    m_bMemoryRanOut     = true;
+    m_stProblem.strText = "out of memory"; // whatever was noted before, it may be a consequence
 }
 
 void CXmlParser::refuse(const std::string& strText)

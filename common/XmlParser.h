@@ -41,6 +41,10 @@ public:
     // leaves no document, and problem() says why.
     void parseFile(const std::string& strPath);
 
+    // The same without telling the read listener (ReadProblem.h): for a thread that
+    // parses for another one, which tells it when it takes the document.
+    void parseUntold(const std::string& strPath);
+
     // The same for a document held in memory.
     void parseText(std::string_view strXml);
 
@@ -48,10 +52,15 @@ public:
     void releaseDocument();
 
     // For a parser that is used for file after file.
+    using CParserMemory::bytesHeld;
     using CParserMemory::keepBlocks;
 
     // Why there is no document, and where in which file; not set after a good parse.
     const StReadProblem& problem() const { return m_stProblem; }
+
+    // Whether the same bytes would end in the same way again: the parse did not end
+    // because memory ran out, or because the file could not be read.
+    bool isSettled() const { return !m_bMemoryRanOut && m_stProblem.enKind != EnReadProblem::File; }
 
     // All elements of the document with this tag name, in document order.
     const ElementList& elements(const char16_t* pszName) const;
@@ -107,6 +116,7 @@ private:
     void              readDocument(std::string_view strXml, std::size_t nBytewiseFrom);
     void              clearReading();
     void              noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn);
+    void              noteMemoryRanOut();
     [[noreturn]] void refuse(const std::string& strText);
     void              openElement();
     ElementList&      elementsNamed(const XMLCh* pszName);
@@ -118,6 +128,7 @@ private:
     std::unordered_map<const XMLCh*, ElementList> m_mapElements;
     const xercesc::DOMDocument*                   m_pIndexed = nullptr; // the document of m_mapElements
     StReadProblem                                 m_stProblem;
+    bool                                          m_bMemoryRanOut = false; // and that is the problem
 
     // While parseText reads.
     CNestingCheck m_oNesting;

@@ -6,6 +6,7 @@
 #include "platform/Paths.h"
 #include "reader/CDevTypeXMLResReader.h"
 #include "reader/LoadDocuments.h"
+#include "reader/LoadThreads.h"
 #include "records/Vocabulary.h"
 
 #include <ace/Guard_T.h>
@@ -16,6 +17,17 @@
 namespace
 {
 constexpr const char* DC_SOURCE = "CXMLConfigDatabase";
+
+// What is known of the types before the first one is read.
+std::vector<StLoadType> loadTypes(const std::multimap<std::string, StDeviceType>& mapDeviceType)
+{
+    std::vector<StLoadType> lstType;
+    lstType.reserve(mapDeviceType.size());
+    for (const auto& [strDevType, stDeviceType] : mapDeviceType)
+        lstType.push_back({CXMLConfigDatabase::trans2TelnetDevType(strDevType, stDeviceType.strDevTypeVer),
+                           stDeviceType.enConfigFileType == EnConfigFileCommon, isCapacityType(stDeviceType)});
+    return lstType;
+}
 } // namespace
 
 // The full load of one thread. Ends it whatever happens: nobody is left waiting, and
@@ -57,7 +69,7 @@ try
     ulResult = getExistDeviceTypes(mapDeviceType);
     if (ulResult != DC_RESULT_OK)
         return logFail(DC_HERE, ulResult, "getSuppportedDeviceTypes() failed :");
-    CLoadDocuments oDocuments;
+    CLoadDocuments oDocuments(loadTypes(mapDeviceType), loadThreads::count());
     for (const auto& [strDevType, stDeviceType] : mapDeviceType)
     {
         const std::string&                 strDevTypeVer = stDeviceType.strDevTypeVer;
@@ -67,6 +79,7 @@ try
         if (stLoad.ulResult != DC_RESULT_OK)
             logFail(DC_HERE, stLoad.ulResult, "readAndStoreDevTypeXMLConfig() fail." + strDevType + strDevTypeVer);
         m_stLoadReport.lstDevType.push_back(std::move(stLoad));
+        oDocuments.endType();
     }
     return DC_RESULT_OK;
 }

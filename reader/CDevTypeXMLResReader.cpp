@@ -62,7 +62,7 @@ catch (...)
 std::uint32_t CDevTypeXMLResReader::parseConfig(const LocationInfo& stWhere)
 {
     m_stFixedCheck = {};
-    m_pSource->parse(m_stConfig.strFile, m_pXmlParser);
+    m_pSource->parse(m_stConfig.strFile, m_stConfig.enSource, m_pXmlParser);
     if (m_pXmlParser == nullptr)
         return logFail(stWhere, DC_RESULT_PARSER_NULL,
                        "m_pXmlParser == NULL, Server config File :" + m_stConfig.strFile);
@@ -103,7 +103,7 @@ try
     m_stFixedCheck                                       = configSearch::findFixedCheckFile(pInfo->strDevType);
     if (!m_stFixedCheck.isFound())
         return CCheckOpXMLConfig().setCheckOpConfiguration(pDOMParser, &lstCheckOperation);
-    m_pSource->parse(m_stFixedCheck.strFile, m_pFixedCheckXmlParser);
+    m_pSource->parse(m_stFixedCheck.strFile, m_stFixedCheck.enSource, m_pFixedCheckXmlParser);
     if (m_pFixedCheckXmlParser != nullptr) // the check sections report a missing parser
         m_stFixedCheck.stProblem = m_pFixedCheckXmlParser->problem();
     return CCheckOpXMLConfig().setFixedCheckOpConfiguration(m_pFixedCheckXmlParser.get(), &lstCheckOperation);
@@ -121,7 +121,7 @@ try
     m_stCheck                    = configSearch::findCheckFile(&stWhere, m_strDevType, m_enReportType);
     if (m_stCheck.isFound())
     {
-        m_pSource->parse(m_stCheck.strFile, m_pCheckXmlParser);
+        m_pSource->parse(m_stCheck.strFile, m_stCheck.enSource, m_pCheckXmlParser);
         if (m_pCheckXmlParser != nullptr)
             m_stCheck.stProblem = m_pCheckXmlParser->problem();
     }

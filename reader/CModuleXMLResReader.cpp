@@ -225,7 +225,7 @@ std::uint32_t CModuleXMLResReader::initialize(const std::string& strPath, std::s
     const std::uint32_t  ulResult = requireFile(DC_HERE, strPath);
     if (ulResult != DC_RESULT_OK)
         return ulResult;
-    m_pSource->parse(strPath, pXmlParser);
+    m_pSource->parse(strPath, EnConfigSource::None, pXmlParser);
     if (pXmlParser == nullptr)
         return logFail(DC_HERE, DC_RESULT_XML_ERROR, " pXmlParser is null :");
     return DC_RESULT_OK;

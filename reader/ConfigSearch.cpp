@@ -53,14 +53,7 @@ StPlannedFile chooseConfig(const LocationInfo* pWhere, const std::string& strDev
         return foundFile(EnConfigSource::CapacityDocument,
                          CXMLConfigDatabase::getDevTypeXMLFileName(strDevType, stVersion.strSoftVersion,
                                                                    stVersion.strPatchVersion, true, ""));
-    StPlannedFile stFile;
-    stFile.ulResult = CDeviceAdapterInterface::getInstance()->getServerConfigFile(strDevType, stFile.strFile);
-    if (stFile.ulResult == DC_RESULT_OK)
-        return foundFile(EnConfigSource::OwnFile, std::move(stFile.strFile));
-    failedCall(pWhere, stFile.ulResult,
-               "CDeviceAdapterInterface::getInstance()->getServerConfigFile(m_strDevType, strFilePath)");
-    stFile.strFile.clear(); // what a failing call leaves there is no path
-    return stFile;
+    return configSearch::findOwnFile(pWhere, strDevType);
 }
 
 void useTelnetTwin(const LocationInfo* pWhere, const std::string& strDevType, StPlannedFile& stFile)
@@ -106,6 +99,18 @@ StPlannedFile configSearch::findConfig(const LocationInfo* pWhere, const std::st
         return stFile;
     missingFile(pWhere, stFile.strFile); // the twin decides whether that matters
     useTelnetTwin(pWhere, strDevType, stFile);
+    return stFile;
+}
+
+StPlannedFile configSearch::findOwnFile(const LocationInfo* pWhere, const std::string& strDevType)
+{
+    StPlannedFile stFile;
+    stFile.ulResult = CDeviceAdapterInterface::getInstance()->getServerConfigFile(strDevType, stFile.strFile);
+    if (stFile.ulResult == DC_RESULT_OK)
+        return foundFile(EnConfigSource::OwnFile, std::move(stFile.strFile));
+    failedCall(pWhere, stFile.ulResult,
+               "CDeviceAdapterInterface::getInstance()->getServerConfigFile(m_strDevType, strFilePath)");
+    stFile.strFile.clear(); // what a failing call leaves there is no path
     return stFile;
 }
 

@@ -26,6 +26,9 @@ std::uint32_t findDeviceType(const LocationInfo* pWhere, const std::string& strD
 StPlannedFile findConfig(const LocationInfo* pWhere, const std::string& strDevType, const std::string& strDevTypeVer,
                          const StAsnDevVersion& stVersion, bool bUseCommon);
 
+// The type's own file, as the adapter names it; whether it is there is not looked for.
+StPlannedFile findOwnFile(const LocationInfo* pWhere, const std::string& strDevType);
+
 StPlannedFile findCommonFile(const LocationInfo* pWhere);
 
 // The separate check file. A failing adapter is no reason to leave out the file

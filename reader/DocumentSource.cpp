@@ -1,7 +1,8 @@
 // See DocumentSource.h.
 #include "reader/DocumentSource.h"
 
-void CDocumentSource::parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser)
+void CDocumentSource::parse(const std::string&           strFile, EnConfigSource /*enSource*/,
+                            std::shared_ptr<CXmlParser>& pParser)
 {
     if (pParser == nullptr || pParser.use_count() > 1)
         pParser = CXmlParser::create();

@@ -8,6 +8,7 @@
 
 #include "common/XmlParser.h"
 #include "platform/Export.h"
+#include "reader/ConfigOrigin.h"
 
 #include <memory>
 #include <string>
@@ -25,8 +26,9 @@ public:
     // reader's last parser for a file of this kind: use it again, unless somebody
     // else holds it too, or put another in its place. The document may be asked
     // until the reader parses the next file of that kind, or dies.
+    // enSource is what the file is for the read; None for a module's.
     // As it is here: parses the file now.
-    virtual void parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser);
+    virtual void parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser);
 
     // The source of every reader that was given none.
     static CDocumentSource& plain();

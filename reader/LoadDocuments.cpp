@@ -1,20 +1,113 @@
 // See LoadDocuments.h.
 #include "reader/LoadDocuments.h"
 
-#include <algorithm>
+#include "common/Guarded.h"
+#include "common/ReadObserver.h"
+#include "common/ReadProblem.h"
 
-void CLoadDocuments::parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser)
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace
 {
-    pParser.reset(); // idle, if it is one of ours
-    const auto itIdle =
-        std::find_if(m_lstParser.begin(), m_lstParser.end(), [](const auto& pKept) { return pKept.use_count() == 1; });
-    if (itIdle != m_lstParser.end())
-        pParser = *itIdle;
-    else if ((pParser = CXmlParser::create()) != nullptr)
+// Of documents that wait for another type, while a third one is read.
+constexpr std::size_t MAX_WAITING_BYTES = std::size_t{12} << 20;
+} // namespace
+
+CLoadDocuments::CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads)
+{
+    try
     {
-        pParser->keepBlocks();
-        m_lstParser.push_back(pParser);
+        m_oPlan                    = CLoadPlan(lstType);
+        const std::size_t nWorkers = std::min(nThreads, m_oPlan.files().size());
+        if (nWorkers > 1)
+            m_pAhead = std::make_unique<CParseAhead>(m_oPool, m_oPlan.files(), nWorkers - 1);
     }
-    if (pParser != nullptr)
-        pParser->parseFile(strFile);
+    catch (...)
+    {
+        passOverThrown(); // without a plan, or ahead of nothing, the load reads all the same
+    }
+}
+
+void CLoadDocuments::parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser)
+{
+    if (ReadObserver::isRecorded())
+        return CDocumentSource::parse(strFile, enSource, pParser);
+    pParser.reset();
+    const auto itDocument = find(strFile);
+    if (itDocument != m_lstDocument.end())
+    {
+        m_lstDocument.splice(m_lstDocument.end(), m_lstDocument, itDocument);
+        makeRoom();
+        tellReadListener(itDocument->stParsed.pParser->problem());
+    }
+    else
+    {
+        m_lstDocument.push_back({strFile, {}, m_oPlan.lastUser(strFile, enSource, m_nType)});
+        makeRoom();
+        m_lstDocument.back().stParsed = parseNow(strFile);
+    }
+    pParser = m_lstDocument.back().stParsed.pParser;
+}
+
+void CLoadDocuments::endType() noexcept
+{
+    for (auto itDocument = m_lstDocument.begin(); itDocument != m_lstDocument.end();)
+    {
+        const auto itEnded = itDocument++;
+        if (itEnded->nLastUser <= m_nType)
+            drop(itEnded);
+    }
+    ++m_nType;
+}
+
+// The document of a file as it is now; one of what it was is dropped.
+CLoadDocuments::DocumentList::iterator CLoadDocuments::find(const std::string& strFile)
+{
+    const auto itDocument = std::find_if(m_lstDocument.begin(), m_lstDocument.end(),
+                                         [&](const StDocument& stDocument) { return stDocument.strFile == strFile; });
+    if (itDocument == m_lstDocument.end() || itDocument->stParsed.isAsNow(strFile))
+        return itDocument;
+    drop(itDocument);
+    return m_lstDocument.end();
+}
+
+StParsedFile CLoadDocuments::parseNow(const std::string& strFile)
+{
+    StParsedFile stParsed = m_pAhead == nullptr ? StParsedFile() : m_pAhead->take(strFile);
+    if (stParsed.isAsNow(strFile))
+    {
+        tellReadListener(stParsed.pParser->problem());
+        return stParsed;
+    }
+    m_oPool.giveBack(std::move(stParsed.pParser));
+    stParsed.oState  = fileState(strFile);
+    stParsed.pParser = m_oPool.take();
+    if (stParsed.pParser != nullptr)
+        stParsed.pParser->parseFile(strFile);
+    return stParsed;
+}
+
+// Drops what was not used for the longest time, until what waits is within its bound.
+// What a reader has, and the document that is wanted now, take their memory in any case.
+void CLoadDocuments::makeRoom() noexcept
+{
+    const auto  itWanted = std::prev(m_lstDocument.end());
+    std::size_t nWaiting = 0;
+    for (auto itDocument = itWanted; itDocument != m_lstDocument.begin();)
+    {
+        const auto& pParser = (--itDocument)->stParsed.pParser;
+        if (pParser.use_count() > 1)
+            continue;
+        nWaiting += pParser == nullptr ? 0 : pParser->bytesHeld();
+        if (nWaiting > MAX_WAITING_BYTES)
+            drop(itDocument++);
+    }
+}
+
+void CLoadDocuments::drop(DocumentList::iterator itDocument) noexcept
+{
+    m_oPool.giveBack(std::move(itDocument->stParsed.pParser));
+    m_lstDocument.erase(itDocument);
 }

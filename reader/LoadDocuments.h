@@ -1,20 +1,53 @@
-// CLoadDocuments: where the start-up load takes its documents from. One for each
-// load, made and used by the loading thread; it dies with the load.
-// Keeps parsers from one file to the next, with the memory of their documents.
+// CLoadDocuments: where the start-up load takes its documents from. Keeps what later
+// types will want again, as long as the file does not change, and takes what was
+// parsed ahead (ParseAhead.h). One for each load, made and used by the loading
+// thread; it dies with the load, and nothing is kept beyond.
+// A recorded read passes it by: a listener's documents are its own.
 #ifndef OPERATIONXML_READER_LOADDOCUMENTS_H
 #define OPERATIONXML_READER_LOADDOCUMENTS_H
 
 #include "reader/DocumentSource.h"
+#include "reader/LoadPlan.h"
+#include "reader/ParseAhead.h"
+#include "reader/ParserPool.h"
 
+#include <cstddef>
+#include <list>
+#include <memory>
+#include <string>
 #include <vector>
 
 class CLoadDocuments final : public CDocumentSource
 {
 public:
-    void parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser) override;
+    // The types in the order of the load, and how many threads may parse, the loading
+    // one included.
+    CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads);
+
+    void parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser) override;
+
+    // The read of a type has ended, its reader is gone: the next one follows.
+    void endType() noexcept;
 
 private:
-    std::vector<std::shared_ptr<CXmlParser>> m_lstParser; // idle unless a reader holds it too
+    struct StDocument
+    {
+        std::string  strFile;
+        StParsedFile stParsed;
+        std::size_t  nLastUser; // the type after whose read nobody wants it
+    };
+    using DocumentList = std::list<StDocument>;
+
+    DocumentList::iterator find(const std::string& strFile);
+    StParsedFile           parseNow(const std::string& strFile);
+    void                   makeRoom() noexcept;
+    void                   drop(DocumentList::iterator itDocument) noexcept;
+
+    CParserPool                  m_oPool;
+    CLoadPlan                    m_oPlan;
+    std::unique_ptr<CParseAhead> m_pAhead;      // null: with one thread, or little to do
+    std::size_t                  m_nType = 0;   // whose files are read
+    DocumentList                 m_lstDocument; // the one used last is the last one
 };
 
 #endif

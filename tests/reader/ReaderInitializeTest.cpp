@@ -77,7 +77,7 @@ TEST_F(CServerTest, ReadsTheConfigurationFileThatApplies)
 class CNotingSource : public CDocumentSource
 {
 public:
-    void parse(const std::string& strFile, std::shared_ptr<CXmlParser>& pParser) override
+    void parse(const std::string& strFile, EnConfigSource /*enSource*/, std::shared_ptr<CXmlParser>& pParser) override
     {
         setFile.insert(strFile);
         pParser = CXmlParser::create();

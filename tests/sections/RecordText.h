@@ -21,16 +21,18 @@ struct CRecordText
     {
         std::vector<Text> lstText;
         for (const Record& stRecord : lstRecord)
-        {
-            std::vector<Text> lstField;
-            visitFields(stRecord,
-                        [&](const char*, auto /*stKind*/, const auto& field) { lstField.push_back(of(field)); });
-            lstText.push_back(fmt::format("{}", fmt::join(lstField, "|")));
-        }
+            lstText.push_back(of(stRecord));
         return fmt::format("{}", fmt::join(lstText, ", "));
     }
 
 private:
+    template <typename Record>
+    static Text of(const Record& stRecord)
+    {
+        std::vector<Text> lstField;
+        visitFields(stRecord, [&](const char*, auto /*stKind*/, const auto& field) { lstField.push_back(of(field)); });
+        return fmt::format("{}", fmt::join(lstField, "|"));
+    }
     template <typename Record>
     static Text of(const std::list<Record>& lstRecord)
     {
