@@ -21,6 +21,11 @@ foreach(FOLDER platform records sections reader database alarm filecheck)
             PATTERN "ConfigSearch.h" EXCLUDE
             PATTERN "SectionTable.h" EXCLUDE
             PATTERN "ContentQuestions.h" EXCLUDE
+            PATTERN "LoadDocuments.h" EXCLUDE
+            PATTERN "LoadPlan.h" EXCLUDE
+            PATTERN "LoadThreads.h" EXCLUDE
+            PATTERN "ParseAhead.h" EXCLUDE
+            PATTERN "ParserPool.h" EXCLUDE
             PATTERN "QueryGuard.h" EXCLUDE)
 endforeach()
 install(FILES common/XmlParser.h common/ParserMemory.h common/XmlNesting.h common/ReadProblem.h DESTINATION ${HEADER_FOLDER}/common)

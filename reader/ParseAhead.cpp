@@ -155,6 +155,8 @@ void CParseAhead::parseNext(Lock& oLock)
         stParsed = {};
     }
     oLock.lock();
+    if (stParsed.pParser != nullptr) // what it takes is known now
+        m_nBytes += stParsed.pParser->bytesHeld() - std::exchange(stAhead.nBytes, stParsed.pParser->bytesHeld());
     stAhead.stParsed = std::move(stParsed);
     stAhead.enState  = EnState::Ready;
     if (nPlace + 1 < m_nWanted) // the load has gone past it meanwhile

@@ -45,7 +45,7 @@ private:
         const std::string* pFile;
         EnState            enState = EnState::Waiting;
         StParsedFile       stParsed;   // when it is ready
-        std::size_t        nBytes = 0; // what it is taken to need while it is begun or ready
+        std::size_t        nBytes = 0; // what it is taken to need, once it is ready what it needs
     };
 
     using Lock = std::unique_lock<std::mutex>;

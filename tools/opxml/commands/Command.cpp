@@ -2,8 +2,11 @@
 #include "tools/opxml/commands/Command.h"
 
 #include "common/ReadProblem.h"
+#include "reader/LoadThreads.h"
 #include "standalone/LogSink.h"
 #include "standalone/ServerRoot.h"
+
+#include <stdlib.h>
 
 void openLog(const StGlobalOptions& stOptions)
 {
@@ -19,6 +22,8 @@ void openLog(const StGlobalOptions& stOptions)
 void openRoot(const StGlobalOptions& stOptions)
 {
     openLog(stOptions);
+    if (stOptions.uJobs != 0) // no other thread is about yet. NOLINTNEXTLINE(concurrency-mt-unsafe)
+        ::setenv(loadThreads::VARIABLE, std::to_string(stOptions.uJobs).c_str(), 1);
     std::string strError;
     if (!standalone::openServerRoot(stOptions.strRoot, strError))
         throw CTrouble(strError);

@@ -17,6 +17,7 @@ struct StGlobalOptions
     std::string strRoot = ".";
     std::string strLogFile;
     bool        bVerbose = false;
+    unsigned    uJobs    = 0; // 0: as many threads as the library takes by itself
 };
 
 // What the command line asked for; main() runs it after parsing.

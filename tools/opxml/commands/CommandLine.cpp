@@ -1,6 +1,7 @@
 // See CommandLine.h.
 #include "tools/opxml/commands/CommandLine.h"
 
+#include "reader/LoadThreads.h"
 #include "tools/opxml/commands/HelpFormat.h"
 #include "tools/opxml/output/Terminal.h"
 
@@ -22,6 +23,11 @@ void addGlobalOptions(CLI::App& oApp, StGlobalOptions& stOptions)
     oApp.add_option("--log", stOptions.strLogFile, "Write the library's log to a file, one JSON object a line")
         ->type_name("FILE");
     oApp.add_flag("-v,--verbose", stOptions.bVerbose, "Write the library's log to stderr");
+    oApp.add_option("--jobs", stOptions.uJobs,
+                    "Threads that read configuration files; by itself as many as may run, 8 at most")
+        ->envname(loadThreads::VARIABLE)
+        ->type_name("N")
+        ->check(CLI::Range(std::size_t{1}, loadThreads::MOST));
     oApp.add_flag_callback("--wide", showWide, "Tables and trees as wide as they are, whatever the terminal");
     oApp.footer("Exit status: 0 yes, found or all loaded; 1 no, nothing or some failed; 2 trouble.\n"
                 "Colours only on a terminal, and never when NO_COLOR is set.");
