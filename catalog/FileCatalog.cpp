@@ -40,7 +40,7 @@ try
     std::shared_ptr<CXmlParser> pParser;
     {
         const ReadObserver::CScope oScope(oRecorder);
-        oSource.parse(strFile, pParser);
+        oSource.parse(strFile, EnConfigSource::OwnFile, pParser);
     }
     stCatalog.lstFile           = oSource.files();
     stCatalog.stOrigin.strFile  = strFile;
