@@ -73,8 +73,8 @@ void findConfiguration(StServedDevice& stDevice, const KeyStates& mapState)
 
 bool isDeviceNamed(const StDeviceInfo& stDevice, const std::string& strName)
 {
-    return strName == std::to_string(stDevice.ulDeviceID) || strName == stDevice.strDeviceName ||
-           strName == stDevice.strIPAddress;
+    return !strName.empty() && (strName == std::to_string(stDevice.ulDeviceID) || strName == stDevice.strDeviceName ||
+                                strName == stDevice.strIPAddress); // a device may have no name
 }
 
 std::string servingKey(const StServedDevice& stDevice)

@@ -23,8 +23,9 @@ std::string answerText(const StExplanation& stExplanation)
                     stExplanation.bOffered ? "is offered" : "is not offered", stSubject.strTitle);
     if (!stExplanation.bOffered)
         return fmt::format("no: {}{}", strOffered,
-                           stExplanation.lstObstacle.empty() ? ", and nothing is called like it"
-                                                             : ": " + stExplanation.lstObstacle.front().strText);
+                           stExplanation.lstObstacle.empty()
+                               ? ", and nothing is called like it (opxml find tells which types have it)"
+                               : ": " + stExplanation.lstObstacle.front().strText);
     const auto itOffered = std::find_if(stExplanation.lstStand.begin(), stExplanation.lstStand.end(),
                                         [&stExplanation](const StStand& stStand)
                                         { return isFound(stStand, stExplanation.stWanted) && isOffered(stStand); });

@@ -5,6 +5,7 @@
 #include "tools/opxml/catalog/EntryText.h"
 #include "tools/opxml/explain/CapacityPlace.h"
 #include "tools/opxml/explain/ModuleObstacles.h"
+#include "tools/opxml/explain/WhatThereIs.h"
 #include "tools/opxml/output/Names.h"
 
 #include <fmt/format.h>
@@ -65,7 +66,10 @@ public:
             m_stAbsence = {
                 m_stLookedInto.pServed->strProblem, {{EnObstacle::Unread, m_stLookedInto.pServed->strProblem, {}}}, {}};
         if (!m_stAbsence.strWhat.empty())
-            addFromElsewhere();
+            addFromOutside();
+        std::stable_sort(m_stAbsence.lstObstacle.begin(), m_stAbsence.lstObstacle.end(),
+                         [](const StObstacle& stLeft, const StObstacle& stRight)
+                         { return stLeft.enObstacle < stRight.enObstacle; });
         return std::move(m_stAbsence);
     }
 
@@ -88,10 +92,11 @@ private:
         const bool bMustDefine = m_stWanted.lstKind.empty() && m_stMissing.lstId.size() == 1;
         return isFound(stStand, m_stWanted) && (!bMustDefine || isDefinition(stStand));
     }
-    bool isThere(const Stands& lstStand) const
+    const StStand* findWanted(const Stands& lstStand) const
     {
-        return std::any_of(lstStand.begin(), lstStand.end(),
-                           [this](const StStand& stStand) { return isWanted(stStand); });
+        const auto itFound = std::find_if(lstStand.begin(), lstStand.end(),
+                                          [this](const StStand& stStand) { return isWanted(stStand); });
+        return itFound == lstStand.end() ? nullptr : &*itFound;
     }
 
     // The first of operation, parameter and option that is not there, or that is
@@ -103,7 +108,7 @@ private:
         {
             m_stMissing = m_stWanted.upTo(m_nLevel);
             lstStand    = standsIn(m_stMissing);
-            if (!isThere(lstStand))
+            if (findWanted(lstStand) == nullptr)
                 break;
         }
         if (m_nLevel > m_stWanted.lstId.size())
@@ -143,7 +148,7 @@ private:
         std::string strIn;
         for (std::size_t nAt = m_nLevel - 1; nAt-- > 0;)
             strIn += fmt::format("{}\"{}\"", strIn.empty() ? "" : " of ", lstId[nAt]);
-        const bool        bNumber = m_nLevel == 3 && !m_stWanted.bByName;
+        const bool        bNumber = m_nLevel == OPTION_LEVEL && !m_stWanted.bByName;
         const std::string strId   = bNumber ? numberText(lstId[2]) : "\"" + lstId[m_nLevel - 1] + "\"";
         return fmt::format("no {} {} in {}{}", partName(), strId, strIn.empty() ? "" : strIn + " of ",
                            m_stLookedInto.strWhere);
@@ -179,27 +184,31 @@ private:
         }
     }
 
-    // Elsewhere in this configuration.
+    // As something else in this configuration.
     void addOtherKinds()
     {
         StWanted stOther = m_stMissing;
         stOther.lstKind.clear();
         Stands lstStand = standsIn(stOther);
-        if (m_nLevel > 1 && !isAnyInEffect(lstStand, false)) // in another operation
+        if (isAnyInEffect(lstStand, m_nLevel == 1))
+            return addAsOther(EnObstacle::OtherKind, "it is ", lstStand);
+        if (m_nLevel == OPTION_LEVEL && !m_stWanted.bByName)
+            return; // a number alone tells nothing
+        if (m_nLevel > 1)
         {
             stOther.lstId = {m_stMissing.lstId.back()};
-            if (m_nLevel < 3 || m_stWanted.bByName)
-                lstStand = standsIn(stOther);
+            lstStand      = standsIn(stOther);
         }
-        addAsOtherKind(lstStand);
+        addAsOther(EnObstacle::Elsewhere, m_nLevel == 1 ? "nothing defines it, but it is " : "elsewhere it is ",
+                   lstStand);
     }
 
     // Each kind once, at its first place; where something defines it, what refers to that
     // tells nothing.
-    void addAsOtherKind(const Stands& lstStand)
+    void addAsOther(EnObstacle enObstacle, const char* pszBegin, const Stands& lstStand)
     {
         const bool            bDefined   = isAnyInEffect(lstStand, true);
-        StObstacle            stObstacle = {EnObstacle::OtherKind, {}, {}};
+        StObstacle            stObstacle = {enObstacle, {}, {}};
         std::set<std::string> setKind;
         for (const StStand& stStand : lstStand)
         {
@@ -209,7 +218,7 @@ private:
                 continue;
             stObstacle.lstPlace.push_back(stStand.strPlace);
             stObstacle.strText +=
-                fmt::format("{}{} ({})", stObstacle.strText.empty() ? "it is " : ", ", strKind, stStand.strPlace);
+                fmt::format("{}{} ({})", stObstacle.strText.empty() ? pszBegin : ", ", strKind, stStand.strPlace);
         }
         if (setKind.size() > NAMED_KINDS)
             stObstacle.strText += fmt::format(", and {} more", setKind.size() - NAMED_KINDS);
@@ -236,15 +245,16 @@ private:
     {
         for (std::size_t nAt = 0; nAt < m_stCatalog.lstConfiguration.size(); ++nAt)
         {
-            const Stands lstStand = standsIn(m_stCatalog, nAt, m_stMissing);
-            if (nAt == m_stLookedInto.nConfiguration || !isThere(lstStand))
+            const Stands   lstStand = standsIn(m_stCatalog, nAt, m_stMissing);
+            const StStand* pFound   = findWanted(lstStand);
+            if (nAt == m_stLookedInto.nConfiguration || pFound == nullptr)
                 continue;
             const catalog::StConfiguration& stOther = m_stCatalog.lstConfiguration[nAt];
             const bool                      bOne    = stOther.lstVersion.size() == 1;
             add({EnObstacle::OtherVersion,
                  fmt::format("{} {} {} it ({})", bOne ? "version" : "versions", versionsText(stOther),
-                             bOne ? "has" : "have", lstStand.front().strPlace),
-                 {lstStand.front().strPlace}});
+                             bOne ? "has" : "have", pFound->strPlace),
+                 {pFound->strPlace}});
         }
     }
 
@@ -260,7 +270,7 @@ private:
     }
 
     // Outside this configuration. Whoever has none misses the whole of what is asked for.
-    void addFromElsewhere()
+    void addFromOutside()
     {
         if (m_stAbsence.lstObstacle.size() == 1 &&
             m_stAbsence.lstObstacle.front().enObstacle == EnObstacle::SwitchedOff)
@@ -270,7 +280,7 @@ private:
             return;
         for (StObstacle& stObstacle : moduleObstacles(m_oKeys, m_stLookedInto.strDevType, m_stMissing))
             add(std::move(stObstacle));
-        listWhatThereIs();
+        addWhatThereIs();
         for (StObstacle& stObstacle : brokenModules(m_oKeys, m_stMissing))
             add(std::move(stObstacle));
     }
@@ -281,68 +291,24 @@ private:
         const bool         bTelnet  = m_stLookedInto.pServed->strKey != m_stLookedInto.strDevType;
         const StServedKey& stOther  = m_oKeys.find(m_stLookedInto.strDevType, bTelnet ? "" : strSuffix);
         const Stands       lstStand = standsIn(stOther.stCatalog, 0, m_stMissing);
-        if (&stOther == m_stLookedInto.pServed || !isThere(lstStand))
+        const StStand*     pFound   = findWanted(lstStand);
+        if (&stOther == m_stLookedInto.pServed || pFound == nullptr)
             return;
         add({EnObstacle::OtherVariant,
              fmt::format("\"{}\", for devices that are {}managed over telnet, has it ({})", stOther.strKey,
-                         bTelnet ? "not " : "", lstStand.front().strPlace),
-             {lstStand.front().strPlace}});
+                         bTelnet ? "not " : "", pFound->strPlace),
+             {pFound->strPlace}});
     }
 
-    void addName(const catalog::StEntry& stEntry, std::vector<std::string>& lstName)
+    // At this level, and which of it is spelt nearly the same.
+    void addWhatThereIs()
     {
-        const catalog::StField* pValue = stEntry.field("ulValue");
-        lstName.push_back(stEntry.strId);
-        std::string strShown = pValue == nullptr ? stEntry.strId : pValue->strValue + " " + stEntry.strId;
-        auto&       lstThere = m_stAbsence.lstThereAre;
-        if (!strShown.empty() && std::find(lstThere.begin(), lstThere.end(), strShown) == lstThere.end())
-            lstThere.push_back(std::move(strShown));
-    }
-
-    // What is there at this level, and which of it is spelt nearly the same.
-    void listWhatThereIs()
-    {
-        std::vector<std::string> lstName;
-        if (m_nLevel > 1)
-        {
-            for (const StStand& stStand : standsIn(m_stWanted.upTo(m_nLevel - 1)))
-            {
-                for (const catalog::StEntry& stEntry : stStand.entry().lstChild)
-                {
-                    if (isFound(stStand, m_stWanted) && stEntry.enFate == catalog::EnEntryFate::Counts)
-                        addName(stEntry, lstName);
-                }
-            }
-        }
-        else
-            listOperations(lstName);
-        const std::string strNear =
-            m_nLevel == 3 && !m_stWanted.bByName ? "" : nearestNames(m_stMissing.lstId.back(), lstName);
+        StThereIs stThereIs       = whatThereIs(m_stCatalog, m_stLookedInto.nConfiguration, m_stMissing);
+        m_stAbsence.lstThereAre   = std::move(stThereIs.lstShown);
+        const bool        bName   = m_nLevel < OPTION_LEVEL || m_stWanted.bByName;
+        const std::string strNear = bName ? nearestNames(m_stMissing.lstId.back(), stThereIs.lstName) : "";
         if (!strNear.empty())
             add({EnObstacle::Spelling, strNear.substr(strNear.find_first_not_of("; ")), {}});
-    }
-
-    void listOperations(std::vector<std::string>& lstName)
-    {
-        std::vector<EnEntryKind> lstKind = m_stWanted.lstKind;
-        if (lstKind.empty())
-        {
-            for (const StEntryKind& stKind : entryKinds())
-            {
-                if (stKind.enRole == EnEntryRole::Operation || stKind.enKind == EnEntryKind::TaskType)
-                    lstKind.push_back(stKind.enKind);
-            }
-        }
-        for (const catalog::StSection& stSection :
-             m_stCatalog.lstConfiguration[m_stLookedInto.nConfiguration].lstSection)
-        {
-            for (const catalog::StEntry& stEntry : stSection.lstEntry)
-            {
-                if (stEntry.enFate == catalog::EnEntryFate::Counts &&
-                    std::find(lstKind.begin(), lstKind.end(), kindOf(stSection.nRow, stEntry).enKind) != lstKind.end())
-                    addName(stEntry, lstName);
-            }
-        }
     }
 
     void add(StObstacle stObstacle) { m_stAbsence.lstObstacle.push_back(std::move(stObstacle)); }
@@ -383,6 +349,8 @@ const char* obstacleWord(EnObstacle enObstacle)
         return "module";
     case EnObstacle::ModuleName:
         return "module-name";
+    case EnObstacle::Elsewhere:
+        return "elsewhere";
     case EnObstacle::Spelling:
         return "spelling";
     case EnObstacle::BrokenModule:

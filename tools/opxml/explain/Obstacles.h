@@ -19,13 +19,14 @@ enum class EnObstacle : std::int32_t
     Unread,       // there is no configuration: its file could not be read, say
     SwitchedOff,  // it is there, and says that it is not supported
     Shadowed,     // another definition of the id comes first
-    OtherKind,    // it is there as something else
+    OtherKind,    // another kind of operation defines it
     Capacity,     // a capacity document takes it out
     OtherVersion, // other versions in service have it
     LeftOut,      // the reader leaves it out
     OtherVariant, // the telnet variant has it, or only that has not
     Module,       // a module has it that does not name the type, or does not merge it
     ModuleName,   // a module has it that names the type misspelt
+    Elsewhere,    // nothing defines it, but something else uses the name
     Spelling,     // something is spelt nearly the same
     BrokenModule, // a module file that mentions it could not be read
 };

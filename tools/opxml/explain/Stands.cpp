@@ -12,8 +12,6 @@
 
 namespace
 {
-constexpr std::size_t OPTION_LEVEL = 3;
-
 bool isFlagSet(const catalog::StEntry& stEntry, const char* pszField)
 {
     const catalog::StField* pField = stEntry.field(pszField);

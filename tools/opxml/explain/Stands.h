@@ -6,8 +6,11 @@
 
 #include "tools/opxml/catalog/EntryKinds.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
+
+constexpr std::size_t OPTION_LEVEL = 3; // below operation and parameter: it may be meant by its number
 
 // What is looked for: an operation, a parameter of it, an option of that; likewise the
 // items of a check, the steps of an upgrade and whatever else stands below another.

@@ -18,9 +18,11 @@ using standalone::StListedDevice;
 
 const std::string TELNET_SUFFIX(Vocabulary::TELNET_SUFFIX);
 
-// By which of its names a device is meant; empty: by none.
+// By which of its names a device is meant; empty: by none. It may have none itself.
 std::string deviceNamedBy(const StDeviceInfo& stDevice, const std::string& strName)
 {
+    if (strName.empty())
+        return {};
     if (strName == std::to_string(stDevice.ulDeviceID))
         return "its id";
     if (strName == stDevice.strDeviceName)
