@@ -37,6 +37,12 @@ struct StOwnedRoots
 class CCatalogMaker::CImpl
 {
 public:
+    explicit CImpl(const DocumentSink& fnParsed)
+        : m_oModuleSource(m_oModuleRecorder, EnOrigin::Module, fnParsed),
+          m_oSource(m_oRecorder, EnOrigin::OwnFile, fnParsed)
+    {
+    }
+
     void readModules()
     {
         m_oModuleSource.begin({}, {}, "");
@@ -90,8 +96,8 @@ public:
     std::vector<StReadProblem>   m_lstModuleProblem;
     CReadRecorder                m_oModuleRecorder;
     CReadRecorder                m_oRecorder{&m_oModuleRecorder};
-    CPlacedSource                m_oModuleSource{m_oModuleRecorder, EnOrigin::Module};
-    CPlacedSource                m_oSource{m_oRecorder, EnOrigin::OwnFile};
+    CPlacedSource                m_oModuleSource;
+    CPlacedSource                m_oSource;
 
 private:
     void read(StTypeCatalog& stType, bool bCapacity, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
@@ -143,7 +149,7 @@ private:
     std::vector<std::string> m_lstModuleFile;
 };
 
-CCatalogMaker::CCatalogMaker() : m_pImpl(std::make_unique<CImpl>())
+CCatalogMaker::CCatalogMaker(const DocumentSink& fnParsed) : m_pImpl(std::make_unique<CImpl>(fnParsed))
 {
     try
     {
@@ -151,7 +157,7 @@ CCatalogMaker::CCatalogMaker() : m_pImpl(std::make_unique<CImpl>())
     }
     catch (...) // half the modules would be a wrong answer
     {
-        m_pImpl = std::make_unique<CImpl>();
+        m_pImpl = std::make_unique<CImpl>(fnParsed);
     }
 }
 
@@ -177,10 +183,5 @@ const std::vector<StModuleCatalog>& CCatalogMaker::modules() const
 const std::vector<StReadProblem>& CCatalogMaker::moduleProblems() const
 {
     return m_pImpl->m_lstModuleProblem;
-}
-
-CPlacedParser* CCatalogMaker::document(const std::string& strFile) const
-{
-    return m_pImpl->m_oSource.find(strFile);
 }
 } // namespace catalog

@@ -11,17 +11,22 @@
 #include "catalog/PlacedParser.h"
 #include "platform/Export.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace catalog
 {
+// Is handed each file that was parsed, before it is read, also one without a document;
+// valid for the call. It may have the document read for itself.
+using DocumentSink = std::function<void(const std::string& strFile, EnOrigin enOrigin, CPlacedParser& oParser)>;
+
 class OPERATIONXML_API CCatalogMaker
 {
 public:
     // Reads all modules.
-    CCatalogMaker();
+    explicit CCatalogMaker(const DocumentSink& fnParsed = {});
     ~CCatalogMaker();
     CCatalogMaker(const CCatalogMaker&)            = delete;
     CCatalogMaker& operator=(const CCatalogMaker&) = delete;
@@ -33,10 +38,6 @@ public:
     // looked into.
     const std::vector<StModuleCatalog>& modules() const;
     const std::vector<StReadProblem>&   moduleProblems() const;
-
-    // The parsed file, for rules on documents: of the type that was made last, or the
-    // common file. Null when it is not kept; valid until the next make().
-    CPlacedParser* document(const std::string& strFile) const;
 
 private:
     class CImpl;

@@ -80,14 +80,14 @@ StSpot CDocumentPlaces::nameSpot(const DOMElement& oElement) const
 std::vector<StAttributePlace> CDocumentPlaces::attributes(const StElementPlace& stElement) const
 {
     std::vector<StAttributePlace> lstAttribute;
-    const std::string_view        strText = m_pText->bytes();
+    const std::string_view        strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
     lstAttribute.reserve(8); // nearly all have less
-    std::size_t nAt = std::min(strText.find_first_of(" \t\r\n/>", stElement.stTag.nBegin), stElement.stTag.nEnd);
+    std::size_t nAt = std::min(strText.find_first_of(" \t\r\n/>", stElement.stTag.nBegin), strText.size());
     while (stElement.bWritten)
     {
         nAt                      = strText.find_first_not_of(BLANKS, nAt);
         const std::size_t nEqual = strText.find('=', nAt);
-        if (nEqual == std::string_view::npos || nEqual >= stElement.stTag.nEnd)
+        if (nEqual == std::string_view::npos)
             break;
         const std::size_t nOpen  = strText.find_first_of("\"'", nEqual);
         const std::size_t nClose = nOpen == std::string_view::npos ? nOpen : strText.find(strText[nOpen], nOpen + 1);

@@ -49,24 +49,25 @@ void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> l
 
 void CPlacedSource::parse(const std::string& strFile, EnConfigSource /*enSource*/, std::shared_ptr<CXmlParser>& pParser)
 {
-    auto itKept = std::find_if(m_lstKept.begin(), m_lstKept.end(),
-                               [&](const StKept& stKept) { return stKept.strFile == strFile; });
+    const auto     itOrigin = m_mapOrigin.find(strFile);
+    const EnOrigin enOrigin = itOrigin == m_mapOrigin.end() ? m_enOrigin : itOrigin->second;
+    auto           itKept   = std::find_if(m_lstKept.begin(), m_lstKept.end(),
+                                           [&](const StKept& stKept) { return stKept.strFile == strFile; });
     if (itKept == m_lstKept.end())
     {
         std::shared_ptr<CPlacedParser> pPlaced = freeParser();
-        if (pPlaced != nullptr)
-            pPlaced->parsePlaced(strFile);
-        pParser = pPlaced;
+        pParser                                = pPlaced;
         if (pPlaced == nullptr)
             return;
+        pPlaced->parsePlaced(strFile);
+        if (m_fnParsed)
+            m_fnParsed(strFile, enOrigin, *pPlaced);
         m_lstKept.push_back({strFile, std::move(pPlaced)});
         itKept = std::prev(m_lstKept.end());
     }
     else
         m_lstKept.splice(m_lstKept.end(), m_lstKept, itKept);
-    pParser                 = itKept->pParser;
-    const auto     itOrigin = m_mapOrigin.find(strFile);
-    const EnOrigin enOrigin = itOrigin == m_mapOrigin.end() ? m_enOrigin : itOrigin->second;
+    pParser = itKept->pParser;
     m_oRecorder.documentBegun(*itKept->pParser, numberOf(strFile), enOrigin);
 }
 
@@ -91,15 +92,5 @@ std::uint32_t CPlacedSource::numberOf(const std::string& strFile)
     if (itFile == m_lstFile.end())
         m_lstFile.push_back(strFile);
     return nFile;
-}
-
-CPlacedParser* CPlacedSource::find(const std::string& strFile) const
-{
-    for (const StKept& stKept : m_lstKept)
-    {
-        if (stKept.strFile == strFile)
-            return stKept.pParser.get();
-    }
-    return nullptr;
 }
 } // namespace catalog

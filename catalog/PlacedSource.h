@@ -4,7 +4,7 @@
 #ifndef OPERATIONXML_CATALOG_PLACEDSOURCE_H
 #define OPERATIONXML_CATALOG_PLACEDSOURCE_H
 
-#include "catalog/PlacedParser.h"
+#include "catalog/CatalogMaker.h"
 #include "catalog/ReadRecorder.h"
 #include "reader/ConfigPlan.h"
 #include "reader/DocumentSource.h"
@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace catalog
@@ -21,7 +22,10 @@ namespace catalog
 class CPlacedSource final : public CDocumentSource
 {
 public:
-    CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin) : m_oRecorder(oRecorder), m_enOrigin(enOrigin) {}
+    CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin, DocumentSink fnParsed = {})
+        : m_oRecorder(oRecorder), m_enOrigin(enOrigin), m_fnParsed(std::move(fnParsed))
+    {
+    }
 
     // The files of a plan are about to be read. The first ones have their numbers.
     void begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile, const std::string& strCommonFile);
@@ -31,8 +35,6 @@ public:
     // The number of a file in the places, and all of them.
     std::uint32_t                   numberOf(const std::string& strFile);
     const std::vector<std::string>& files() const { return m_lstFile; }
-
-    CPlacedParser* find(const std::string& strFile) const;
 
 private:
     struct StKept
@@ -46,6 +48,7 @@ private:
 
     CReadRecorder&                  m_oRecorder;
     EnOrigin                        m_enOrigin; // of files that no plan names
+    DocumentSink                    m_fnParsed; // may be empty
     std::map<std::string, EnOrigin> m_mapOrigin;
     std::vector<std::string>        m_lstFile;
     std::string                     m_strCommonFile;

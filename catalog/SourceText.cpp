@@ -8,7 +8,8 @@ namespace catalog
 {
 namespace
 {
-constexpr std::size_t BLOCK = 1024;
+constexpr std::size_t BLOCK         = 1024;
+constexpr std::size_t LONGEST_SHOWN = 4096;
 
 std::size_t countCharacters(std::string_view strText)
 {
@@ -40,6 +41,12 @@ std::string_view CSourceText::line(std::uint32_t ulLine) const
     if (nEnd > nBegin && m_strBytes[nEnd - 1] == '\r')
         --nEnd;
     return std::string_view(m_strBytes).substr(nBegin, nEnd - nBegin);
+}
+
+std::string CSourceText::shownLine(std::uint32_t ulLine) const
+{
+    const std::string_view strLine = line(ulLine);
+    return strLine.size() > LONGEST_SHOWN ? std::string() : std::string(strLine);
 }
 
 StSpot CSourceText::spot(std::size_t nOffset, std::size_t nBytes) const

@@ -33,6 +33,10 @@ public:
     // The text of a line without its end; nothing when there is no such line.
     std::string_view line(std::uint32_t ulLine) const;
 
+    // The same for people; nothing of a longer line than anybody reads, as a file of one
+    // line may be asked for it as often as it has bytes.
+    std::string shownLine(std::uint32_t ulLine) const;
+
     // The spot of some bytes; its length ends with the line.
     StSpot spot(std::size_t nOffset, std::size_t nBytes) const;
 

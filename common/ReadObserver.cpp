@@ -4,6 +4,7 @@
 #include "common/ReadObserver.h"
 
 #include <thread>
+#include <utility>
 
 CReadObserver::~CReadObserver() = default;
 
@@ -13,20 +14,16 @@ std::atomic<CReadObserver*> g_pObserver{nullptr};
 
 namespace
 {
-std::mutex g_oTurn; // of the one recorded read
+std::recursive_mutex g_oTurn; // of the one recorded read
 
 class CListener final : public CReadObserver
 {
 public:
-    void start(CReadObserver& oTarget)
+    // Whoever heard before, or null.
+    CReadObserver* exchange(CReadObserver* pTarget)
     {
-        m_pTarget = &oTarget;
-        m_oOwner.store(std::this_thread::get_id());
-    }
-    void stop()
-    {
-        m_oOwner.store({});
-        m_pTarget = nullptr;
+        m_oOwner.store(pTarget == nullptr ? std::thread::id() : std::this_thread::get_id());
+        return std::exchange(m_pTarget, pTarget);
     }
 
     void lookup(const xercesc::DOMNode& oBelow, const char16_t* pszName) override
@@ -101,15 +98,15 @@ bool isRecorded()
     return get() != nullptr && listener().isMine();
 }
 
-CScope::CScope(CReadObserver& oObserver) : m_oTurn(g_oTurn)
+CScope::CScope(CReadObserver& oObserver) : m_oTurn(g_oTurn), m_pOuter(listener().exchange(&oObserver))
 {
-    listener().start(oObserver);
     g_pObserver.store(&listener());
 }
 
 CScope::~CScope()
 {
-    g_pObserver.store(nullptr);
-    listener().stop();
+    if (m_pOuter == nullptr)
+        g_pObserver.store(nullptr);
+    listener().exchange(m_pOuter);
 }
 } // namespace ReadObserver

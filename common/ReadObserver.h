@@ -95,7 +95,8 @@ inline CReadObserver* get()
 OPERATIONXML_API bool isRecorded();
 
 // Lets an observer hear what this thread reads, until the end of the scope. One at a
-// time in a process: a second one waits for the first.
+// time in a process: a scope of another thread waits for the first. Within a scope of
+// the same thread it takes the place of that one's observer for its own time.
 class OPERATIONXML_API CScope
 {
 public:
@@ -105,7 +106,8 @@ public:
     CScope& operator=(const CScope&) = delete;
 
 private:
-    std::unique_lock<std::mutex> m_oTurn;
+    std::unique_lock<std::recursive_mutex> m_oTurn;
+    CReadObserver*                         m_pOuter; // that hears again behind this scope, or null
 };
 } // namespace ReadObserver
 

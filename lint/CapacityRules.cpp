@@ -130,7 +130,7 @@ private:
     void reportSysOid(const StCapacityEntry& stEntry)
     {
         add("capacity-unknown-sysoid", stEntry.stPlace, "no device type has the sysoid " + inQuotes(stEntry.strSysOid),
-            ": the entry is never read", "sysoid " + stEntry.strSysOid, {});
+            ": the entry is never read", "sysoid " + shortened(stEntry.strSysOid), {});
     }
 
     void checkOperations(const StCapacityEntry& stEntry)
@@ -161,7 +161,7 @@ private:
             const StField* pValue = stOption.field("ulValue");
             add("capacity-unknown-id", pValue->stPlace.ulLine == 0 ? stOption.stPlace : pValue->stPlace,
                 "the option " + inQuotes(stOption.strId) + strOf + " has not the number " + strHas,
-                ": it is taken away like one that is not listed", strOf + "/" + stOption.strId + "=",
+                ": it is taken away like one that is not listed", strOf + "/" + shortened(stOption.strId) + "=",
                 {"its number is " + *pOption->setNumber.begin()});
         }
     }
@@ -177,7 +177,7 @@ private:
             return nullptr;
         add("capacity-unknown-id", placeOfId(stEntry),
             std::string("the configuration has no ") + pszWhat + " " + inQuotes(stEntry.strId) + strOf,
-            ": the line changes nothing", strOf + "/" + stEntry.strId,
+            ": the line changes nothing", strOf + "/" + shortened(stEntry.strId),
             m_oHints.didYouMean(stEntry.strId, stBelow.mapChild));
         return nullptr;
     }

@@ -125,6 +125,8 @@ public:
     {
         for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
+            if (m_oReport.isFull())
+                return;
             if (stEntry.pAround != nullptr)
                 reportNested(stEntry);
             if (!stEntry.stMark.bMet || stEntry.bInside)

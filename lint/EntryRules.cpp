@@ -30,6 +30,8 @@ public:
     {
         for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
+            if (m_oReport.isFull())
+                return;
             if (!stEntry.stMark.bMet)
                 continue;
             for (const char* pszName : IDENTITIES)

@@ -4,6 +4,7 @@
 #include "lint/Phrases.h"
 
 #include <algorithm>
+#include <map>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -14,9 +15,6 @@ namespace
 {
 constexpr std::string_view ALLOWANCE = "opxml-lint:";
 
-// A longer line is no help, and a file of one line may have as many findings as bytes.
-constexpr std::size_t SHOWN_LINE = 4096;
-
 // Takes the first word off a text.
 std::string_view takeWord(std::string_view& strText)
 {
@@ -25,9 +23,25 @@ std::string_view takeWord(std::string_view& strText)
     return strWord;
 }
 
-auto placeOf(const StFinding& stFinding)
+auto placeOf(const StSpot& stSpot)
+{
+    return std::tie(stSpot.ulLine, stSpot.ulColumn);
+}
+
+auto orderOf(const StFinding& stFinding)
 {
     return std::tie(stFinding.ulLine, stFinding.ulColumn, stFinding.strRule, stFinding.strMessage);
+}
+
+// In the order of the file, each mistake once.
+void sort(std::vector<StFinding>& lstFinding)
+{
+    std::sort(lstFinding.begin(), lstFinding.end(),
+              [](const StFinding& stLeft, const StFinding& stRight) { return orderOf(stLeft) < orderOf(stRight); });
+    lstFinding.erase(std::unique(lstFinding.begin(), lstFinding.end(),
+                                 [](const StFinding& stLeft, const StFinding& stRight)
+                                 { return orderOf(stLeft) == orderOf(stRight); }),
+                     lstFinding.end());
 }
 } // namespace
 
@@ -47,6 +61,8 @@ void CFileReport::add(const char* pszRule, const StSpot& stSpot, std::string str
 void CFileReport::add(const char* pszRule, EnSeverity enSeverity, const StSpot& stSpot, std::string strMessage,
                       std::string strSubject, std::vector<std::string> lstHelp)
 {
+    if (isFull())
+        return;
     StFinding stFinding;
     stFinding.strRule    = pszRule;
     stFinding.enSeverity = enSeverity;
@@ -78,48 +94,48 @@ void CFileReport::takeComment(const std::string& strComment, const StSpot& stSpo
         m_lstAllowance.push_back({strRule, stSpot, stEnd, false});
 }
 
-bool CFileReport::isAllowed(const StFinding& stFinding)
+// Both lists come in the order of the file, and allowances nest as elements do.
+void CFileReport::dropAllowed(std::vector<StFinding>& lstFinding)
 {
-    bool bAllowed = false;
-    for (StAllowance& stAllowance : m_lstAllowance)
+    std::map<std::string, std::vector<StAllowance*>> mapOpen; // by rule, the innermost last
+    auto                                             itNext      = m_lstAllowance.begin();
+    const auto                                       fnIsAllowed = [&](const StFinding& stFinding)
     {
         const auto oPlace = std::tie(stFinding.ulLine, stFinding.ulColumn);
-        if (stAllowance.strRule != stFinding.strRule ||
-            oPlace < std::tie(stAllowance.stSpot.ulLine, stAllowance.stSpot.ulColumn) ||
-            oPlace > std::tie(stAllowance.stEnd.ulLine, stAllowance.stEnd.ulColumn))
-            continue;
-        stAllowance.bUsed = true;
-        bAllowed          = true;
-    }
-    return bAllowed;
+        for (; itNext != m_lstAllowance.end() && placeOf(itNext->stSpot) <= oPlace; ++itNext)
+            mapOpen[itNext->strRule].push_back(&*itNext);
+        std::vector<StAllowance*>& lstOpen = mapOpen[stFinding.strRule];
+        while (!lstOpen.empty() && placeOf(lstOpen.back()->stEnd) < oPlace)
+            lstOpen.pop_back();
+        if (!lstOpen.empty())
+            lstOpen.back()->bUsed = true;
+        return !lstOpen.empty();
+    };
+    lstFinding.erase(std::remove_if(lstFinding.begin(), lstFinding.end(), fnIsAllowed), lstFinding.end());
 }
 
 void CFileReport::flush(const FindingSink& fnFinding)
 {
+    const bool             bFull      = isFull();
     std::vector<StFinding> lstFinding = std::exchange(m_lstFinding, {});
-    lstFinding.erase(std::remove_if(lstFinding.begin(), lstFinding.end(),
-                                    [this](const StFinding& stFinding) { return isAllowed(stFinding); }),
-                     lstFinding.end());
+    sort(lstFinding);
+    dropAllowed(lstFinding);
     for (const StAllowance& stAllowance : std::exchange(m_lstAllowance, {}))
     {
-        if (!stAllowance.bUsed)
+        if (!stAllowance.bUsed && !bFull) // else it may be needed by what is not told
             add("unused-allowance", stAllowance.stSpot, "nothing here needs an allowance for " + stAllowance.strRule,
                 "allowance " + stAllowance.strRule);
     }
     std::move(m_lstFinding.begin(), m_lstFinding.end(), std::back_inserter(lstFinding));
     m_lstFinding.clear();
-
-    std::sort(lstFinding.begin(), lstFinding.end(),
-              [](const StFinding& stLeft, const StFinding& stRight) { return placeOf(stLeft) < placeOf(stRight); });
-    lstFinding.erase(std::unique(lstFinding.begin(), lstFinding.end(),
-                                 [](const StFinding& stLeft, const StFinding& stRight)
-                                 { return placeOf(stLeft) == placeOf(stRight); }),
-                     lstFinding.end());
+    sort(lstFinding);
+    if (bFull && !lstFinding.empty())
+        lstFinding.back().lstHelp.push_back("only " + std::to_string(MAX_FINDINGS) +
+                                            " findings of one file are told: there may be more");
     for (StFinding& stFinding : lstFinding)
     {
-        const std::string_view strLine = m_pText == nullptr ? std::string_view() : m_pText->line(stFinding.ulLine);
-        if (strLine.size() <= SHOWN_LINE)
-            stFinding.strSource = std::string(strLine);
+        if (m_pText != nullptr)
+            stFinding.strSource = m_pText->shownLine(stFinding.ulLine);
         fnFinding(stFinding);
     }
 }

@@ -6,6 +6,7 @@
 #include "catalog/SourceText.h"
 #include "lint/Lint.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
@@ -26,6 +27,10 @@ struct StAllowance
     bool        bUsed = false;
 };
 
+// As many findings of one file are told: more help nobody, and a file may hold a
+// mistake in every few bytes.
+constexpr std::size_t MAX_FINDINGS = 10'000;
+
 class CFileReport
 {
 public:
@@ -43,16 +48,19 @@ public:
     void add(const char* pszRule, EnSeverity enSeverity, const StSpot& stSpot, std::string strMessage,
              std::string strSubject, std::vector<std::string> lstHelp = {});
 
+    // Nothing more is told of the file: whoever looks for more may stop.
+    bool isFull() const { return m_lstFinding.size() >= MAX_FINDINGS; }
+
     // Takes a comment of the file: an allowance holds to the given end, one that is
     // not understood is a finding, and any other comment is none of ours.
     void takeComment(const std::string& strComment, const StSpot& stSpot, const StSpot& stEnd);
 
     // Hands the findings over in order and forgets them. Allowances that nothing
-    // needed are findings, too.
+    // needed are findings, too; of several for one finding the innermost is needed.
     void flush(const FindingSink& fnFinding);
 
 private:
-    bool isAllowed(const StFinding& stFinding);
+    void dropAllowed(std::vector<StFinding>& lstFinding);
 
     std::string                        m_strFile;
     std::shared_ptr<const CSourceText> m_pText;

@@ -18,7 +18,9 @@ class CServerCheck
 public:
     CServerCheck(const std::string& strInventory, const FindingSink& fnFinding, const StReadAlong& stAlong)
         : m_strInventory(strInventory), m_fnFinding(fnFinding), m_stAlong(stAlong), m_stFiles(findServerFiles()),
-          m_lstIsDone(m_stFiles.lstType.size())
+          m_lstIsDone(m_stFiles.lstType.size()),
+          m_oMaker([this](const std::string& strFile, catalog::EnOrigin enOrigin, catalog::CPlacedParser& oParser)
+                   { takeDocument(strFile, enOrigin, oParser); })
     {
         // Any type may have something to say about a module.
         std::vector<std::size_t> lstAll(m_stFiles.lstType.size());
@@ -43,7 +45,7 @@ public:
                 m_stAlong.fnFile(strFile);
             for (const std::size_t nType : stFile.lstType)
                 checkType(nType);
-            checkDocument(strFile, stFile.enKind, nullptr);
+            checkAlone(strFile, stFile.enKind);
             m_oTypeFindings.tell(strFile, reportOf(strFile));
             flushUpTo(strFile);
         }
@@ -103,7 +105,7 @@ private:
             lstType.push_back(stType.strDevType);
         for (const catalog::StModuleCatalog& stModule : m_oMaker.modules())
         {
-            checkDocument(stModule.strFile, EnFileKind::Module, nullptr);
+            checkAlone(stModule.strFile, EnFileKind::Module);
             const StLostNames& stLost = m_mapLost[stModule.strFile];
             m_stLostInModules.setText.insert(stLost.setText.begin(), stLost.setText.end());
         }
@@ -111,7 +113,7 @@ private:
                      [this](const std::string& strFile) -> CFileReport& { return reportOf(strFile); });
     }
 
-    // A type with all its files, whose documents are at hand right after it was read.
+    // A type with all its files, of which each is checked when it is parsed.
     void checkType(std::size_t nType)
     {
         if (m_lstIsDone[nType])
@@ -127,7 +129,7 @@ private:
             const auto itFile = m_stFiles.mapFile.find(strFile);
             if (itFile == m_stFiles.mapFile.end() || itFile->second.enKind == EnFileKind::Module)
                 continue;
-            checkDocument(strFile, itFile->second.enKind, m_oMaker.document(strFile));
+            checkAlone(strFile, itFile->second.enKind);
             const StLostNames& stOfFile = m_mapLost[strFile];
             stLost.setText.insert(stOfFile.setText.begin(), stOfFile.setText.end());
         }
@@ -137,30 +139,42 @@ private:
         checkVersions(stMade, reportOf(m_strInventory));
     }
 
-    // Once for each file; pParser is its parsed document where there is one already.
-    void checkDocument(const std::string& strFile, EnFileKind enKind, catalog::CPlacedParser* pParser)
+    // A file that is parsed for the catalog of a type, or as a module.
+    void takeDocument(const std::string& strFile, catalog::EnOrigin enOrigin, catalog::CPlacedParser& oParser)
+    {
+        const auto itFile = m_stFiles.mapFile.find(strFile);
+        if (enOrigin == catalog::EnOrigin::Module)
+            checkDocument(strFile, EnFileKind::Module, oParser);
+        else if (itFile != m_stFiles.mapFile.end())
+            checkDocument(strFile, itFile->second.enKind, oParser);
+    }
+
+    // A file that no type has been made of.
+    void checkAlone(const std::string& strFile, EnFileKind enKind)
+    {
+        if (m_mapLost.count(strFile) != 0)
+            return;
+        const std::unique_ptr<catalog::CPlacedParser> pParser = catalog::CPlacedParser::create();
+        if (pParser == nullptr)
+            return;
+        pParser->parsePlaced(strFile);
+        checkDocument(strFile, enKind, *pParser);
+    }
+
+    // Once for each file.
+    void checkDocument(const std::string& strFile, EnFileKind enKind, catalog::CPlacedParser& oParser)
     {
         const auto [itLost, bFirst] = m_mapLost.try_emplace(strFile);
         if (!bFirst)
             return;
-        std::unique_ptr<catalog::CPlacedParser> pOwn;
-        if (pParser == nullptr)
-        {
-            pOwn    = catalog::CPlacedParser::create();
-            pParser = pOwn.get();
-            if (pParser == nullptr)
-                return;
-            pParser->parsePlaced(strFile);
-        }
         CFileReport& oReport = reportOf(strFile);
-        oReport.showLinesOf(pParser->places().text());
-        lintDocument(*pParser, enKind, oReport, itLost->second);
+        oReport.showLinesOf(oParser.places().text());
+        lintDocument(oParser, enKind, oReport, itLost->second);
     }
 
     const std::string&                                  m_strInventory;
     const FindingSink&                                  m_fnFinding;
     const StReadAlong&                                  m_stAlong;
-    catalog::CCatalogMaker                              m_oMaker;
     StServerFiles                                       m_stFiles;
     std::vector<bool>                                   m_lstIsDone; // by type
     std::set<std::string>                               m_setSysOid;
@@ -168,6 +182,7 @@ private:
     CTypeFindings                                       m_oTypeFindings;
     std::map<std::string, StLostNames>                  m_mapLost; // of the files that are checked
     StLostNames                                         m_stLostInModules;
+    catalog::CCatalogMaker                              m_oMaker; // calls back while it is made
 };
 } // namespace
 

@@ -68,6 +68,8 @@ private:
 
     void check(const StReadElement& stElement)
     {
+        if (m_oReport.isFull())
+            return;
         if (!stElement.stMark.bMet && stElement.pParent != nullptr && isMistaken(stElement))
             return reportElement(stElement);
         checkAttributes(stElement);
@@ -181,7 +183,7 @@ private:
     {
         for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
         {
-            if (!stWritten.bRead && !isForOthers(stWritten.strName))
+            if (!stWritten.bRead && !isForOthers(stWritten.strName) && !m_oReport.isFull())
                 reportAttribute(stElement, stWritten);
         }
     }
@@ -202,7 +204,7 @@ private:
         m_stLost.setText.insert(stWritten.strValue);
         const StSpot      stSpot   = m_stRead.oPlaces.attributeSpot(*stElement.pElement, stWritten.strName);
         const std::string strWhat  = "nothing reads " + inQuotes(stWritten.strName) + " of " + tag(stElement.strName);
-        const std::string strAbout = stElement.subject().append("@").append(stWritten.strName);
+        const std::string strAbout = stElement.subject() + "@" + shortened(stWritten.strName);
         if (!strNear.empty())
             m_oReport.add("unknown-attribute", EnSeverity::Error, stSpot, strWhat, strAbout,
                           {"did you mean " + inQuotes(strNear) + "?"});
@@ -240,8 +242,10 @@ private:
     {
         const catalog::StElementPlace& stPlace = m_stRead.oPlaces.element(*stElement.pElement);
         const std::string_view         strLine = std::string_view(strText).substr(0, strText.find('\n'));
-        const std::size_t              nAt     = m_stRead.oPlaces.text()->bytes().find(strLine, stPlace.stTag.nEnd);
-        return nAt < stPlace.stWhole.nEnd ? m_stRead.oPlaces.text()->spot(nAt, strLine.size()) : nameSpot(stElement);
+        const std::string_view         strBytes =
+            std::string_view(m_stRead.oPlaces.text()->bytes()).substr(0, stPlace.stWhole.nEnd);
+        const std::size_t nAt = strBytes.find(strLine, stPlace.stTag.nEnd);
+        return nAt == std::string_view::npos ? nameSpot(stElement) : m_stRead.oPlaces.text()->spot(nAt, strLine.size());
     }
 
     // The values in an element that is not read.
@@ -266,6 +270,8 @@ void takeAllowances(const catalog::CDocumentPlaces& oPlaces, CFileReport& oRepor
 {
     for (const catalog::StCommentPlace& stComment : oPlaces.comments())
     {
+        if (oReport.isFull())
+            return;
         const catalog::StRange stEnd = stComment.nElement == catalog::NO_ELEMENT
                                            ? catalog::StRange{stComment.stRange.nEnd, stComment.stRange.nEnd}
                                            : catalog::StRange{oPlaces.elements()[stComment.nElement].stWhole.nEnd,

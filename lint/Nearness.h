@@ -17,14 +17,14 @@ namespace lint
 // near; of several equally near ones the first.
 OPERATIONXML_API std::string nearestName(std::string_view strMisspelt, const std::vector<std::string>& lstName);
 
-// The help lines of a check. Bounded: where everything is misspelt, only the first
-// mistakes are compared with all the names there are.
+// What was meant, and the help lines of a check. Bounded: where everything is
+// misspelt, only the first mistakes are compared with all the names there are.
 class CHints
 {
 public:
-    // One line, or none when no name is near.
+    // The nearest name, or nothing.
     template <typename Names>
-    std::vector<std::string> didYouMean(std::string_view strMisspelt, const Names& names)
+    std::string nearest(std::string_view strMisspelt, const Names& names)
     {
         if (names.size() > m_nLeft)
             return {};
@@ -32,7 +32,14 @@ public:
         std::vector<std::string> lstName;
         for (const auto& name : names)
             lstName.push_back(textOf(name));
-        const std::string strNear = nearestName(strMisspelt, lstName);
+        return nearestName(strMisspelt, lstName);
+    }
+
+    // One line, or none when no name is near.
+    template <typename Names>
+    std::vector<std::string> didYouMean(std::string_view strMisspelt, const Names& names)
+    {
+        const std::string strNear = nearest(strMisspelt, names);
         return strNear.empty() ? std::vector<std::string>() : std::vector{"did you mean \"" + strNear + "\"?"};
     }
 

@@ -9,14 +9,26 @@ namespace lint
 {
 constexpr std::string_view BLANKS = " \t\r\n"; // all that XML has
 
+// A text as far as anybody reads it: a file may have a megabyte in one attribute.
+inline std::string shortened(std::string_view strText)
+{
+    constexpr std::size_t LONGEST = 200;
+    if (strText.size() <= LONGEST)
+        return std::string(strText);
+    std::size_t nEnd = LONGEST;
+    while (nEnd > 0 && (strText[nEnd] & 0xC0) == 0x80) // within a character
+        --nEnd;
+    return std::string(strText.substr(0, nEnd)) + "…";
+}
+
 inline std::string inQuotes(std::string_view strText)
 {
-    return "\"" + std::string(strText) + "\"";
+    return "\"" + shortened(strText) + "\"";
 }
 
 inline std::string tag(std::string_view strElement)
 {
-    return "<" + std::string(strElement) + ">";
+    return "<" + shortened(strElement) + ">";
 }
 
 // Without the blanks at either end.

@@ -3,6 +3,7 @@
 
 #include "common/XmlRead.h"
 #include "lint/Nearness.h"
+#include "lint/Phrases.h"
 
 #include <algorithm>
 
@@ -81,9 +82,9 @@ bool StReadElement::isOption() const
 
 std::string StReadElement::subject() const
 {
-    std::string strStep(strName);
+    std::string strStep = shortened(strName);
     if (const std::string_view strId = value("id"); !strId.empty())
-        strStep.append("[").append(strId).append("]");
+        strStep += "[" + shortened(strId) + "]";
     return pParent == nullptr ? strStep : pParent->subject() + "/" + strStep;
 }
 

@@ -67,10 +67,7 @@ struct StWay
     const StWay*     pAbove;
     std::string_view strName;
 
-    std::string text() const
-    {
-        return pAbove == nullptr ? std::string(strName) : pAbove->text() + "/" + std::string(strName);
-    }
+    std::string text() const { return (pAbove == nullptr ? std::string() : pAbove->text() + "/") + shortened(strName); }
 };
 
 // An element may be read into two menus, with other words in each.

@@ -79,18 +79,6 @@ protected:
 
     std::string lineOf(const StReadElement& stElement) const { return std::to_string(nameSpot(stElement).ulLine); }
 
-    // A part of an element's text, where the file has that text as it is read. Of an
-    // empty part what comes behind it.
-    StSpot textSpot(const StReadElement& stElement, const std::string& strText, std::size_t nFrom,
-                    std::size_t nBytes) const
-    {
-        const catalog::StElementPlace& stPlace  = m_stRead.oPlaces.element(*stElement.pElement);
-        const std::string&             strBytes = m_stRead.oPlaces.text()->bytes();
-        if (strText.empty() || !stPlace.bWritten || strBytes.compare(stPlace.stTag.nEnd, strText.size(), strText) != 0)
-            return nameSpot(stElement);
-        return m_stRead.oPlaces.text()->spot(stPlace.stTag.nEnd + nFrom, std::max<std::size_t>(nBytes, 1));
-    }
-
     const StReadDocument& m_stRead;
     CFileReport&          m_oReport;
 };
@@ -105,6 +93,8 @@ public:
     {
         for (const StReadElement* pRecord : metInDocument("record"))
         {
+            if (m_oReport.isFull())
+                return;
             m_pRecord  = pRecord;
             m_bFlawed  = holdsUnread(*pRecord);
             m_mapParam = {};
@@ -122,6 +112,7 @@ private:
     {
         const StReadElement* pElement;
         std::string          strText;
+        bool                 bAsWritten; // the file has the text as it is read
     };
 
     void takeParam(const StReadElement& stParam)
@@ -143,14 +134,31 @@ private:
                           about() + "@" + strName);
             lstParam.clear();
         }
-        lstParam.push_back({&stParam, toLocal(stParam.pElement->getTextContent())});
+        const std::string strText = toLocal(stParam.pElement->getTextContent());
+        lstParam.push_back({&stParam, strText, isAsWritten(stParam, strText)});
+    }
+
+    bool isAsWritten(const StReadElement& stParam, const std::string& strText) const
+    {
+        const catalog::StElementPlace& stPlace = m_stRead.oPlaces.element(*stParam.pElement);
+        return !strText.empty() && stPlace.bWritten &&
+               m_stRead.oPlaces.text()->bytes().compare(stPlace.stTag.nEnd, strText.size(), strText) == 0;
+    }
+
+    // A part of the text of a parameter. Of an empty part what comes behind it.
+    StSpot textSpot(const StParam& stParam, std::size_t nFrom, std::size_t nBytes) const
+    {
+        const std::size_t nText = m_stRead.oPlaces.element(*stParam.pElement->pElement).stTag.nEnd;
+        return stParam.bAsWritten ? m_stRead.oPlaces.text()->spot(nText + nFrom, std::max<std::size_t>(nBytes, 1))
+                                  : nameSpot(*stParam.pElement);
     }
 
     // What a record is about, without its line.
     std::string about() const
     {
         const auto itId = m_mapParam.find(m_stRead.enKind == EnFileKind::AlarmExplanation ? "AlarmID" : "DevType");
-        return m_pRecord->subject() + (itId == m_mapParam.end() ? "" : "[" + itId->second.back().strText + "]");
+        return m_pRecord->subject() +
+               (itId == m_mapParam.end() ? "" : "[" + shortened(itId->second.back().strText) + "]");
     }
 
     const StParam* find(const char* pszName) const
@@ -169,8 +177,8 @@ private:
         if (ulNumber && isDigits(strNumber))
             return ulNumber;
         const std::size_t nBlank   = std::min(strPiece.find_first_not_of(BLANKS), strPiece.size());
-        const StSpot      stSpot   = textSpot(*stParam.pElement, stParam.strText, nFrom + nBlank, strNumber.size());
-        const std::string strAbout = about() + ":" + strNumber;
+        const StSpot      stSpot   = textSpot(stParam, nFrom + nBlank, strNumber.size());
+        const std::string strAbout = about() + ":" + shortened(strNumber);
         if (ulNumber)
             m_oReport.add("bad-fault-id", stSpot, inQuotes(strNumber) + " is read as " + std::to_string(*ulNumber),
                           strAbout, {"write the digits alone"});
@@ -214,7 +222,7 @@ private:
     StSpot spotOf(const StParam& stParam) const
     {
         const std::size_t nBlank = std::min(stParam.strText.find_first_not_of(BLANKS), stParam.strText.size());
-        return textSpot(*stParam.pElement, stParam.strText, nBlank, trimmed(stParam.strText).size());
+        return textSpot(stParam, nBlank, trimmed(stParam.strText).size());
     }
 
     void checkRegistration()
@@ -249,7 +257,7 @@ private:
         const StReadElement*     pFirst = nullptr;
         for (const StParam& stList : lstList)
         {
-            for (std::size_t nFrom = 0; nFrom <= stList.strText.size();)
+            for (std::size_t nFrom = 0; nFrom <= stList.strText.size() && !m_oReport.isFull();)
             {
                 const std::size_t nComma  = std::min(stList.strText.find(',', nFrom), stList.strText.size());
                 const std::size_t nPiece  = std::exchange(nFrom, nComma + 1);
@@ -259,16 +267,16 @@ private:
                 const auto [itFirst, bFirst] = m_mapFault.emplace(std::pair(ulDevType, *ulFault), m_pRecord);
                 if (bFirst)
                     continue;
-                if (lstRepeated.empty())
+                if (pFirst == nullptr)
                 {
                     const std::size_t nId = stList.strText.find_first_not_of(BLANKS, nPiece);
-                    stRepeated = textSpot(*stList.pElement, stList.strText, nId, std::to_string(*ulFault).size());
-                    pFirst     = itFirst->second;
+                    stRepeated            = textSpot(stList, nId, std::to_string(*ulFault).size());
+                    pFirst                = itFirst->second;
                 }
                 lstRepeated.push_back(std::to_string(*ulFault));
             }
         }
-        if (!lstRepeated.empty())
+        if (pFirst != nullptr)
             m_oReport.add("duplicate-record", stRepeated, repeatedText(lstRepeated, *pFirst), about());
     }
 
@@ -303,6 +311,8 @@ public:
         const Elements lstRoot = metInDocument("zipcheck");
         for (const StReadElement* pRoot : lstRoot)
         {
+            if (m_oReport.isFull())
+                return;
             if (pRoot == lstRoot.front())
                 checkRoot(*pRoot);
             else
@@ -322,8 +332,10 @@ private:
                           "there is no <uncompressed_type> in it, so the file is invalid", stRoot.subject());
         for (const StReadElement* pType : lstType)
         {
+            if (m_oReport.isFull())
+                return;
             const std::string strType(pType->read(RULE_VALUE));
-            m_strAbout = pType->subject() + "[" + strType + "]";
+            m_strAbout = pType->subject() + "[" + shortened(strType) + "]";
             if (!checkValue(*pType))
                 continue;
             const auto [itFirst, bFirst] = m_mapType.emplace(strType, pType);

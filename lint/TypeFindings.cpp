@@ -55,8 +55,10 @@ void CTypeFindings::add(const catalog::StTypeCatalog& stType, StTypeFinding stFi
     if (stFinding.stPlace.ulFile >= stType.lstFile.size())
         return;
     const catalog::StPlace& stPlace  = stFinding.stPlace;
-    StShared&               stShared = m_mapFile[stType.lstFile[stPlace.ulFile]]
-                                  [{stPlace.ulLine, stPlace.ulColumn, stFinding.pszRule, stFinding.strWhat}];
+    auto&                   mapPlace = m_mapFile[stType.lstFile[stPlace.ulFile]];
+    if (mapPlace.size() >= MAX_FINDINGS)
+        return;
+    StShared& stShared = mapPlace[{stPlace.ulLine, stPlace.ulColumn, stFinding.pszRule, stFinding.strWhat}];
     stShared.setKey.insert(stType.strKey);
     if (stShared.stFinding.pszRule == nullptr)
         stShared.stFinding = std::move(stFinding);

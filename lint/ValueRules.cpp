@@ -48,6 +48,8 @@ public:
     {
         for (const StReadElement& stElement : m_stRead.oTree.elements())
         {
+            if (m_oReport.isFull())
+                return;
             for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
             {
                 const StAskedAttribute* pAsked = stWritten.bRead ? stElement.asked(stWritten.strName) : nullptr;

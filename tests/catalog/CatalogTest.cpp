@@ -230,6 +230,25 @@ TEST_F(CatalogTest, AgreesWithTheStoreOnAGeneratedRoot)
     EXPECT_LT(1000u, oAgreement.m_nEntries);
 }
 
+// Whoever checks documents gets each file as it is parsed, and none is parsed for that.
+TEST_F(CatalogTest, HandsOverEachFileOnce)
+{
+    std::string strError;
+    ASSERT_TRUE(standalone::openServerRoot(OPERATIONXML_SOURCE_DIR "/examples/server", strError)) << strError;
+    std::map<std::string, int> mapParsed;
+    CCatalogMaker              oMaker([&](const std::string& strFile, catalog::EnOrigin enOrigin, auto& /*oParser*/)
+                         { mapParsed[strFile] += enOrigin == catalog::EnOrigin::Module ? 1 : 100; });
+    std::map<std::string, int> mapExpected;
+    for (const catalog::StModuleCatalog& stModule : oMaker.modules())
+        mapExpected[stModule.strFile] = 1;
+    ASSERT_FALSE(mapExpected.empty());
+    EXPECT_EQ(mapExpected, mapParsed);
+    const StConfigPlan stPlan = oMaker.make("OLT-880", "A2.4").stPlan;
+    for (const StPlannedFile* pFile : {&stPlan.stConfig, &stPlan.stFixedCheck})
+        mapExpected[pFile->strFile] = 100;
+    EXPECT_EQ(mapExpected, mapParsed);
+}
+
 // The entries of a catalog, one a line: id, place, places of its attributes, what
 // became of it and why.
 class CListing

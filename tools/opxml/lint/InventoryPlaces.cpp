@@ -208,10 +208,15 @@ catalog::StSpot CInventoryPlaces::spot(const std::string& strTable, const standa
     const auto itTable = m_mapTuple.find(strTable);
     if (itTable == m_mapTuple.end())
         return {};
-    const auto itTuple = std::find_if(itTable->second.begin(), itTable->second.end(),
-                                      [&stRow](const StTuple& stTuple) { return isRow(stTuple, stRow); });
-    if (itTuple == itTable->second.end())
+    const std::vector<StTuple>& lstTuple = itTable->second;
+    const auto                  fnIsRow  = [&stRow](const StTuple& stTuple) { return isRow(stTuple, stRow); };
+    std::size_t&                nLast    = m_mapLast[strTable];
+    auto itTuple = std::find_if(lstTuple.begin() + static_cast<std::ptrdiff_t>(nLast), lstTuple.end(), fnIsRow);
+    if (itTuple == lstTuple.end())
+        itTuple = std::find_if(lstTuple.begin(), lstTuple.end(), fnIsRow);
+    if (itTuple == lstTuple.end())
         return {};
+    nLast                = static_cast<std::size_t>(itTuple - lstTuple.begin());
     const auto itLiteral = itTuple->mapLiteral.find(strColumn);
     if (itLiteral == itTuple->mapLiteral.end())
         return m_oText.spot(itTuple->nBegin, 1);

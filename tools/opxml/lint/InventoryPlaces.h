@@ -22,7 +22,7 @@ public:
     catalog::StSpot spot(const std::string& strTable, const standalone::InventoryRow& stRow,
                          const std::string& strColumn) const;
 
-    std::string_view line(std::uint32_t ulLine) const { return m_oText.line(ulLine); }
+    std::string line(std::uint32_t ulLine) const { return m_oText.shownLine(ulLine); }
 
 private:
     struct StLiteral
@@ -52,6 +52,7 @@ private:
     const std::map<std::string, std::vector<std::string>>& m_mapColumn;
     std::size_t                                            m_nAt = 0;
     std::map<std::string, std::vector<StTuple>>            m_mapTuple; // by table
+    mutable std::map<std::string, std::size_t>             m_mapLast;  // the tuple found last: rows come in their order
 };
 
 #endif

@@ -19,6 +19,7 @@
 #include <set>
 #include <system_error>
 #include <tuple>
+#include <utility>
 
 namespace
 {
@@ -36,14 +37,6 @@ bool isThere(const std::string& strPath)
 {
     std::error_code oIgnored; // what cannot be asked is not there
     return std::filesystem::exists(strPath, oIgnored);
-}
-
-std::vector<std::string> helpFor(const std::string& strName, const std::vector<std::string>& lstName)
-{
-    const std::string strNear = lint::nearestName(strName, lstName);
-    if (strNear.empty())
-        return {};
-    return {fmt::format("did you mean \"{}\"?", strNear)};
 }
 
 std::string telnetKey(const std::string& strKey)
@@ -100,17 +93,19 @@ private:
         if (stFinding.enSeverity == lint::EnSeverity::Warning && !lstHelp.empty())
             stFinding.enSeverity = lint::EnSeverity::Error; // surely meant as another one
         stFinding.lstHelp = std::move(lstHelp);
-        if (const CInventoryPlaces* pPlaces = places())
-        {
-            const catalog::StSpot stSpot = pPlaces->spot(pszTable, stRow, pszColumn);
-            stFinding.ulLine             = stSpot.ulLine;
-            stFinding.ulColumn           = stSpot.ulColumn;
-            stFinding.ulLength           = stSpot.ulLength;
-            stFinding.strSource          = std::string(pPlaces->line(stSpot.ulLine));
-        }
+        setPlace(stFinding, placeOf(pszTable, stRow, pszColumn));
         if (stRow.count("path") != 0)
             m_stFound.setToldFile.insert(wholePath(valueOf(stRow, "path")));
         m_stFound.lstFinding.push_back(std::move(stFinding));
+    }
+
+    StInventoryPlace placeOf(const char* pszTable, const InventoryRow& stRow, const char* pszColumn)
+    {
+        const CInventoryPlaces* pPlaces = places();
+        if (pPlaces == nullptr)
+            return {};
+        const catalog::StSpot stSpot = pPlaces->spot(pszTable, stRow, pszColumn);
+        return {stSpot, pPlaces->line(stSpot.ulLine)};
     }
 
     // Read with the first finding: most inventories have none.
@@ -219,9 +214,10 @@ private:
                 checkConfigPath(stRow, strKey);
                 continue;
             }
-            const std::string strNear = lint::nearestName(strKey, lstMissing);
+            const std::string strNear = m_oHints.nearest(strKey, lstMissing);
             setMisspelt.insert(strNear);
-            addUnknownKey("config_file", stRow, strNear.empty() ? m_lstKey : std::vector<std::string>{strNear});
+            const std::vector<std::string> lstNear = {strNear};
+            addUnknownKey("config_file", stRow, strNear.empty() ? std::as_const(m_lstKey) : lstNear);
         }
         for (const InventoryRow& stRow : rows("device_type"))
         {
@@ -279,7 +275,7 @@ private:
     {
         const std::string strKey = valueOf(stRow, "device_type");
         addOnce("key " + strKey, pszTable, stRow, "device_type",
-                fmt::format("no device type is kept under \"{}\"", strKey), helpFor(strKey, lstNear));
+                fmt::format("no device type is kept under \"{}\"", strKey), m_oHints.didYouMean(strKey, lstNear));
     }
 
     // ---- type ids ----
@@ -339,7 +335,8 @@ private:
         if (std::find(itKey->second.begin(), itKey->second.end(), strVersion) != itKey->second.end())
             return true;
         addOnce("version " + strKey + " " + strVersion, pszTable, stRow, "device_type_version",
-                fmt::format("\"{}\" has no version \"{}\"", strKey, strVersion), helpFor(strVersion, itKey->second));
+                fmt::format("\"{}\" has no version \"{}\"", strKey, strVersion),
+                m_oHints.didYouMean(strVersion, itKey->second));
         return false;
     }
 
@@ -360,8 +357,10 @@ private:
                     meantKey(stRow), valueOf(stRow, "soft_version"), valueOf(stRow, "patch_version"), true, ""));
             }
         }
+        std::set<std::string> setRecorded;
         for (const InventoryRow& stRow : rows("capacity"))
         {
+            setRecorded.insert(inventoryVersion(stRow));
             const bool bInstalled = checkTypeVersion("capacity", stRow);
             if (!bInstalled)
                 tellVersion(stRow, versionText(versionOf(stRow)));
@@ -369,6 +368,17 @@ private:
                      mapInService[typeVersionOf(stRow)].count(versionOf(stRow)) == 0)
                 addOutOfService(stRow, mapInService[typeVersionOf(stRow)]);
         }
+        for (const InventoryRow& stRow : rows("version_in_service"))
+        {
+            if (setRecorded.count(inventoryVersion(stRow)) == 0)
+                m_stFound.mapUnrecorded[inventoryVersion(stRow)] = placeOf("version_in_service", stRow, "soft_version");
+        }
+    }
+
+    // "KEY/VERSION".
+    static std::string inventoryVersion(const InventoryRow& stRow)
+    {
+        return valueOf(stRow, "device_type") + "/" + versionText(versionOf(stRow));
     }
 
     static std::string typeVersionOf(const InventoryRow& stRow)
@@ -392,10 +402,10 @@ private:
         m_stFound.setToldVersion.insert(meantKey(stRow) + "/" + strVersion);
     }
 
-    std::string meantKey(const InventoryRow& stRow) const
+    std::string meantKey(const InventoryRow& stRow)
     {
         const std::string strKey = valueOf(stRow, "device_type");
-        return isKey(strKey) ? strKey : lint::nearestName(strKey, m_lstKey);
+        return isKey(strKey) ? strKey : m_oHints.nearest(strKey, m_lstKey);
     }
 
     // Meant is a version in service that has no record, rather than one that has.
@@ -409,10 +419,10 @@ private:
         std::vector<std::string> lstVersion;
         std::transform(setVersion.begin(), setVersion.end(), std::back_inserter(lstVersion), &versionText);
         const std::string strVersion = versionText(versionOf(stRow));
-        tellVersion(stRow, lint::nearestName(strVersion, lstVersion));
+        tellVersion(stRow, m_oHints.nearest(strVersion, lstVersion));
         add("points-nowhere", "capacity", stRow, "soft_version",
             fmt::format("version \"{}\" of \"{}\" is not in service", strVersion, valueOf(stRow, "device_type")),
-            helpFor(strVersion, lstVersion));
+            m_oHints.didYouMean(strVersion, lstVersion));
     }
 
     // ---- names that are asked for ----
@@ -430,7 +440,7 @@ private:
                     const std::vector<std::string>& lstName)
     {
         const std::string        strName = valueOf(stRow, pszColumn);
-        std::vector<std::string> lstHelp = helpFor(strName, lstName);
+        std::vector<std::string> lstHelp = m_oHints.didYouMean(strName, lstName);
         add("unasked-name", pszTable, stRow, pszColumn, fmt::format("no question asks for \"{}\"", strName),
             std::move(lstHelp));
         if (m_stFound.lstFinding.back().lstHelp.empty())
@@ -540,9 +550,11 @@ private:
             lstLanguage.push_back(itEntry->path().filename().string() + "/");
         if (!lstLanguage.empty() && !isThere(strFolder + strLanguage))
             add("points-nowhere", "environment", stLanguage, "value",
-                fmt::format("there is no language folder \"{}\"", strLanguage), helpFor(strLanguage, lstLanguage));
+                fmt::format("there is no language folder \"{}\"", strLanguage),
+                m_oHints.didYouMean(strLanguage, lstLanguage));
     }
 
+    lint::CHints                                    m_oHints;
     std::string                                     m_strRoot;
     standalone::StInventoryRows                     m_stRows;
     std::unique_ptr<CInventoryPlaces>               m_pPlaces; // none for a database
@@ -556,6 +568,14 @@ private:
     std::set<std::pair<std::string, std::string>>   m_setId; // type id and version id
 };
 } // namespace
+
+void setPlace(lint::StFinding& stFinding, const StInventoryPlace& stPlace)
+{
+    stFinding.ulLine    = stPlace.stSpot.ulLine;
+    stFinding.ulColumn  = stPlace.stSpot.ulColumn;
+    stFinding.ulLength  = stPlace.stSpot.ulLength;
+    stFinding.strSource = stPlace.strSource;
+}
 
 StInventoryFindings lintInventory(const std::string& strRoot)
 {

@@ -22,6 +22,15 @@ bool followsFrom(const StInventoryFindings& stInventory, const lint::StFinding& 
     return stFinding.strRule == "capacity-no-record" && stInventory.setToldVersion.count(stFinding.strSubject) != 0;
 }
 
+// What the server's check says of a version in service, with the row of that version.
+lint::StFinding placed(const StInventoryFindings& stInventory, lint::StFinding stFinding)
+{
+    const auto itPlace = stInventory.mapUnrecorded.find(stFinding.strSubject);
+    if (stFinding.strRule == "capacity-no-record" && itPlace != stInventory.mapUnrecorded.end())
+        setPlace(stFinding, itPlace->second);
+    return stFinding;
+}
+
 // Puts what is found about the tool's own files among the server's, by their names.
 class CSorter
 {
@@ -94,7 +103,7 @@ std::size_t lintRoot(const std::string& strRoot, const lint::FindingSink& fnTell
             if (followsFrom(stInventory, stFinding))
                 return;
             if (stFinding.strFile == stInventory.strFile)
-                oSorter.add(stFinding);
+                oSorter.add(placed(stInventory, stFinding));
             else
                 oSorter.take(stFinding);
         },
