@@ -82,7 +82,7 @@ const StEntryKind& kindOf(std::size_t nRow, const catalog::StEntry& stEntry)
     const std::string_view  strRecord = stEntry.pszRecord;
     for (const StEntryKind* pKind : s_arKind.at(nRow))
     {
-        if (pKind->pszRecord == strRecord)
+        if (pKind->strRecord == strRecord)
             return *pKind;
     }
     for (const StOtherRecord& stOther : OTHER_RECORDS)

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 enum class EnEntryKind : std::int32_t
@@ -52,13 +53,13 @@ enum class EnEntryRole : std::int32_t
 
 struct StEntryKind
 {
-    EnEntryKind enKind;
-    EnEntryRole enRole;
-    const char* pszWord;    // "device": for --kind, and in JSON
-    const char* pszName;    // "device operation"
-    const char* pszPlural;  // "device operations"
-    const char* pszRecord;  // "StAsnOperation"
-    const char* pszSection; // the one list of a configuration that holds it, "lstDevOperation"; null: several do
+    EnEntryKind      enKind;
+    EnEntryRole      enRole;
+    const char*      pszWord;    // "device": for --kind, and in JSON
+    const char*      pszName;    // "device operation"
+    const char*      pszPlural;  // "device operations"
+    std::string_view strRecord;  // "StAsnOperation"
+    const char*      pszSection; // the one list of a configuration that holds it, "lstDevOperation"; null: several do
 };
 
 // In the order of their table, which is that of EnEntryKind.
