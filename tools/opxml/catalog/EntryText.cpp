@@ -53,9 +53,11 @@ std::string saysText(const catalog::StEntry& stEntry)
     std::string strText;
     for (const catalog::StField& stField : stEntry.lstField)
     {
-        if (stField.stPlace.ulLine != 0 && stField.strValue != stEntry.strId)
-            strText +=
-                fmt::format("{}{}={}", strText.empty() ? "" : ", ", attributeText(stField.pszName), stField.strValue);
+        if (stField.stPlace.ulLine == 0 || stField.strValue == stEntry.strId)
+            continue;
+        const bool bNoWord = stField.enKind == catalog::EnFieldKind::Word && stField.strValue.empty();
+        strText += fmt::format("{}{}={}", strText.empty() ? "" : ", ", attributeText(stField.pszName),
+                               bNoWord ? "?" : stField.strValue);
     }
     return strText;
 }

@@ -20,7 +20,8 @@ std::string originText(const catalog::StEntry& stEntry);
 // A field as authors write it: "isCancelable" for "bIsCancelable".
 std::string attributeText(const char* pszField);
 
-// What stands in the file beside the id: "isCancelable=1, operationLevel=Both".
+// What stands in the file beside the id: "isCancelable=1, operationLevel=Both"; "?" for a
+// word that means nothing there.
 std::string saysText(const catalog::StEntry& stEntry);
 
 #endif

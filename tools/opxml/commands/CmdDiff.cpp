@@ -3,7 +3,6 @@
 #include "tools/opxml/commands/Command.h"
 #include "tools/opxml/diff/RootDiff.h"
 #include "tools/opxml/difftext/DiffPrinter.h"
-#include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
 #include "tools/opxml/output/Text.h"
 
@@ -23,12 +22,12 @@ struct StDiffOptions
     bool                     bRules    = false;
 };
 
-int printRules()
+int printRules(const std::string& strFormat)
 {
-    CTable oTable({{"IMPACT"}, {"RULE"}, {"WHAT HAPPENED"}, {"WHOM IT CONCERNS", 1}});
-    for (const StDiffRule& stRule : diffRules())
-        oTable.addRow({impactWord(stRule.enImpact), stRule.pszId, stRule.pszTitle, stRule.pszWhy});
-    print(oTable.text());
+    if (strFormat == "json")
+        print(diffRulesJson());
+    else
+        print(strFormat == "markdown" ? diffRulesMarkdown() : diffRulesText());
     return EXIT_YES;
 }
 
@@ -57,7 +56,7 @@ StDiff compare(const StDiffOptions& stOptions)
 int runDiff(const StGlobalOptions& stGlobal, const StDiffOptions& stOptions)
 {
     if (stOptions.bRules)
-        return printRules();
+        return printRules(stOptions.strFormat);
     if (stOptions.strNew.empty())
         throw CTrouble("name two server roots, or two configuration files: OLD and NEW");
     openLog(stGlobal);

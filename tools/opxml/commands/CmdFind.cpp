@@ -7,11 +7,14 @@
 #include "tools/opxml/output/RecordJson.h"
 #include "tools/opxml/output/Table.h"
 #include "tools/opxml/output/Terminal.h"
+#include "tools/opxml/output/Text.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <map>
 #include <memory>
+#include <tuple>
 
 namespace
 {
@@ -30,9 +33,12 @@ StFindWish wishOf(const StFindOptions& stOptions)
     return {stOptions.lstWord, stOptions.bLike, findKind(stOptions.strKind), stOptions.strModule};
 }
 
-std::string softwareOf(const StFindType& stType)
+// "V4 (V4.2 P03, V5.0)" where not all software versions are meant.
+std::string versionOf(const StFindType& stType)
 {
-    return fmt::format("{}", fmt::join(stType.lstSoftware, ", "));
+    if (stType.lstSoftware.empty())
+        return stType.strDevTypeVer;
+    return fmt::format("{} ({})", stType.strDevTypeVer, fmt::join(stType.lstSoftware, ", "));
 }
 
 // What was asked for, in words: a kind and an id, or a module.
@@ -56,31 +62,75 @@ std::string countText(const StFindOptions& stOptions, const StFindResult& stResu
                        stOptions.bMissing || strKinds.empty() ? "" : " (" + strKinds + ")");
 }
 
+// One row of the table: versions of a type that have an entry from the same place, and
+// the kinds as which that place is read.
+struct StFoundRow
+{
+    const StFoundEntry*      pFound = nullptr;
+    std::vector<std::string> lstVersion;
+    std::vector<std::string> lstKind;
+};
+
+void addOnce(std::vector<std::string>& lstText, const std::string& strText)
+{
+    if (std::find(lstText.begin(), lstText.end(), strText) == lstText.end())
+        lstText.push_back(strText);
+}
+
+std::vector<StFoundRow> foundRows(const StFindResult& stResult)
+{
+    using RowKey = std::tuple<std::size_t, std::string, std::string, std::string, std::string>;
+    std::map<RowKey, std::size_t> mapRow;
+    std::vector<StFoundRow>       lstRow;
+    for (const StFoundEntry& stFound : stResult.lstFound)
+    {
+        const auto [itRow, bNew] = mapRow.try_emplace(
+            {stFound.nWord, stFound.stType.strDevType, stFound.strPath, stFound.strSays, stFound.strPlace},
+            lstRow.size());
+        if (bNew)
+            lstRow.push_back({&stFound, {}, {}});
+        addOnce(lstRow[itRow->second].lstVersion, versionOf(stFound.stType));
+        addOnce(lstRow[itRow->second].lstKind, stFound.pKind->pszWord);
+    }
+    return lstRow;
+}
+
+std::string countLines(const StFindOptions& stOptions, const StFindResult& stResult)
+{
+    std::string strText;
+    for (std::size_t nWord = 0; nWord < stResult.lstCount.size(); ++nWord)
+        strText += joinLines(wrapText(printable(countText(stOptions, stResult, nWord)), widthOf(stdout), 2));
+    return strText;
+}
+
 std::string foundTable(const StFindOptions& stOptions, const StFindResult& stResult)
 {
-    CTable oTable(
-        {{"TYPE"}, {"VERSION", 1}, {"SOFTWARE", 2}, {"KIND"}, {"ENTRY"}, {"SAYS", 4}, {"FROM", 3}, {"PLACE"}});
-    for (const StFoundEntry& stFound : stResult.lstFound)
+    CTable oTable({{"TYPE"}, {"VERSION", 1}, {"KIND"}, {"ENTRY"}, {"SAYS", 3}, {"FROM", 2}, {"PLACE"}});
+    for (const StFoundRow& stRow : foundRows(stResult))
+    {
+        const StFoundEntry& stFound = *stRow.pFound;
         oTable.addRow(
-            {stFound.stType.strDevType, stFound.stType.strDevTypeVer, softwareOf(stFound.stType),
-             stFound.pKind->pszWord, stFound.strPath, stFound.strSays, stFound.strOrigin,
+            {stFound.stType.strDevType, fmt::format("{}", fmt::join(stRow.lstVersion, ", ")),
+             fmt::format("{}", fmt::join(stRow.lstKind, ", ")), stFound.strPath, stFound.strSays, stFound.strOrigin,
              stFound.strPlace + (stFound.strShadow.empty() ? "" : ", in the shadow of " + stFound.strShadow)});
-    std::string strText = stResult.lstFound.empty() ? "" : oTable.text();
-    for (std::size_t nWord = 0; nWord < stResult.lstCount.size(); ++nWord)
-        strText += countText(stOptions, stResult, nWord) + "\n";
-    return strText;
+    }
+    return (stResult.lstFound.empty() ? "" : oTable.text()) + countLines(stOptions, stResult);
 }
 
 std::string lackingTable(const StFindOptions& stOptions, const StFindResult& stResult)
 {
-    CTable oTable({{"TYPE"}, {"VERSION"}, {"SOFTWARE", 1}, {"LACKS"}, {"WHY", 2}});
+    const bool bWhy = std::any_of(stResult.lstLacking.begin(), stResult.lstLacking.end(),
+                                  [](const StFoundNot& stLacking) { return !stLacking.strWhy.empty(); });
+    CTable     oTable(bWhy ? std::vector<StColumn>{{"TYPE"}, {"VERSION"}, {"LACKS"}, {"WHY"}}
+                           : std::vector<StColumn>{{"TYPE"}, {"VERSION"}, {"LACKS"}});
     for (const StFoundNot& stLacking : stResult.lstLacking)
-        oTable.addRow({stLacking.stType.strDevType, stLacking.stType.strDevTypeVer, softwareOf(stLacking.stType),
-                       stOptions.lstWord[stLacking.nWord], stLacking.strWhy});
-    std::string strText = stResult.lstLacking.empty() ? "" : oTable.text();
-    for (std::size_t nWord = 0; nWord < stResult.lstCount.size(); ++nWord)
-        strText += countText(stOptions, stResult, nWord) + "\n";
-    return strText;
+    {
+        std::vector<std::string> lstCell = {stLacking.stType.strDevType, versionOf(stLacking.stType),
+                                            stOptions.lstWord[stLacking.nWord], stLacking.strWhy};
+        lstCell.resize(bWhy ? 4 : 3);
+        oTable.addRow(lstCell);
+    }
+    return (stResult.lstLacking.empty() ? "" : oTable.text()) + countLines(stOptions, stResult);
 }
 
 Json typeJson(const StFindType& stType)
@@ -125,21 +175,25 @@ std::string findJson(const StFindOptions& stOptions, const StFindResult& stResul
     return jsonText(oJson) + "\n";
 }
 
-// What was found nowhere: as another kind, or an id next to it.
+// Where to look instead for a word that was found nowhere: another kind, or an id next to it.
+std::string suggestion(const StFindOptions& stOptions, const StFindResult& stResult, std::size_t nWord)
+{
+    std::string strKinds;
+    for (const auto& [enKind, nTypes] : stResult.lstCount[nWord].mapByKind)
+        strKinds += fmt::format("{}{} ({})", strKinds.empty() ? "; it is there as " : ", ", kindOf(enKind).pszName,
+                                nTypes == 1 ? "1 type" : std::to_string(nTypes) + " types");
+    if (!strKinds.empty() || stOptions.bLike)
+        return strKinds;
+    return nearestNames(stOptions.lstWord[nWord], {stResult.setId.begin(), stResult.setId.end()});
+}
+
 void suggest(const StFindOptions& stOptions, const StFindResult& stResult)
 {
     for (std::size_t nWord = 0; nWord < stOptions.lstWord.size(); ++nWord)
     {
-        const StFindCount& stCount = stResult.lstCount[nWord];
-        if (stCount.nHave != 0)
-            continue;
-        std::string strKinds;
-        for (const auto& [enKind, nTypes] : stCount.mapByKind)
-            strKinds +=
-                fmt::format("{} {} of {}", strKinds.empty() ? "; it is a" : ", a", kindOf(enKind).pszName, nTypes);
-        const std::vector<std::string> lstId(stResult.setId.begin(), stResult.setId.end());
-        remark("no " + std::string(stOptions.strKind.empty() ? "entry " : "") + wantedText(stOptions, nWord) +
-               (strKinds.empty() ? nearestNames(stOptions.lstWord[nWord], lstId) : strKinds));
+        if (stResult.lstCount[nWord].nHave == 0)
+            remark("no " + std::string(stOptions.strKind.empty() ? "entry " : "") + wantedText(stOptions, nWord) +
+                   suggestion(stOptions, stResult, nWord));
     }
 }
 

@@ -157,7 +157,7 @@ void forEachPart(const std::string& strName, Part fnPart)
 void addNames(const StLine& stLine, const std::string& strKind, const ArgumentValues& mapValue,
               StCompletion& stCompletion)
 {
-    if (strKind == "FILE" || strKind == "DIR")
+    if (strKind == "FILE" || strKind == "DIR" || strKind == "OLD" || strKind == "NEW")
     {
         stCompletion.bFiles  = true;
         stCompletion.bFolder = strKind == "DIR";
@@ -167,7 +167,9 @@ void addNames(const StLine& stLine, const std::string& strKind, const ArgumentVa
     if (!stCompletion.lstCandidate.empty())
         return;
     std::string strIgnored;
-    standalone::openServerRoot(stLine.strRoot, strIgnored); // without one, rules have names still
+    const auto  itOld = mapValue.find("OLD"); // a command that compares two roots
+    standalone::openServerRoot(itOld == mapValue.end() ? stLine.strRoot : itOld->second,
+                               strIgnored); // without one, rules have names still
     forEachPart(strKind,
                 [&](const std::string& strPart)
                 {

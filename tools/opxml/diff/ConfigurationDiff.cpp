@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -28,10 +29,35 @@ public:
             m_nRow = stOld.lstSection[nAt].nRow;
             compareLists(stOld.lstSection[nAt].lstEntry, stNew.lstSection[nAt].lstEntry);
         }
+        dropSecondReadings();
         return std::move(m_lstChange);
     }
 
 private:
+    // The isolation view reads the element of the device view's menu a second time, with
+    // words of its own: what changed for both is told of the menu.
+    void dropSecondReadings()
+    {
+        const auto fnKey = [](StEntryChange stChange)
+        {
+            stChange.stChange.pKind = nullptr;
+            stChange.stChange.strOld.clear();
+            stChange.stChange.strNew.clear();
+            return keyOf(stChange);
+        };
+        std::set<ChangeKey>        setOfMenu;
+        std::vector<StEntryChange> lstKept;
+        for (StEntryChange& stChange : m_lstChange) // the menu stands before the isolation view in their table
+        {
+            const EnEntryKind enKind = stChange.stChange.pKind->enKind;
+            if (enKind == EnEntryKind::Menu)
+                setOfMenu.insert(fnKey(stChange));
+            if (enKind != EnEntryKind::IsolationMenu || setOfMenu.count(fnKey(stChange)) == 0)
+                lstKept.push_back(std::move(stChange));
+        }
+        m_lstChange = std::move(lstKept);
+    }
+
     void compareLists(const std::vector<catalog::StEntry>& lstOld, const std::vector<catalog::StEntry>& lstNew)
     {
         using catalog::EnEntryFate;
@@ -248,6 +274,17 @@ private:
     std::vector<StEntryChange>           m_lstChange;
 };
 } // namespace
+
+ChangeKey keyOf(const StEntryChange& stChange)
+{
+    const StChange&         st    = stChange.stChange;
+    const catalog::StPlace& stOld = stChange.stOld;
+    const catalog::StPlace& stNew = stChange.stNew;
+    return {st.pRule,    st.enWhat,
+            st.pKind,    st.strPath,
+            st.strField, st.strOld,
+            st.strNew,   {stOld.ulFile, stOld.ulLine, stOld.ulColumn, stNew.ulFile, stNew.ulLine, stNew.ulColumn}};
+}
 
 std::vector<StEntryChange> diffConfigurations(const catalog::StConfiguration& stOld,
                                               const catalog::StConfiguration& stNew, const StPassedOver& stPassedOver)

@@ -5,8 +5,11 @@
 
 #include "tools/opxml/diff/Diff.h"
 
+#include <array>
+#include <cstdint>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 // A change of one type, with places in the files of the two catalogs.
@@ -16,6 +19,11 @@ struct StEntryChange
     catalog::StPlace stOld;
     catalog::StPlace stNew;
 };
+
+// What makes a change the same as another one of the same type.
+using ChangeKey = std::tuple<const StDiffRule*, EnChange, const StEntryKind*, std::string, std::string, std::string,
+                             std::string, std::array<std::uint32_t, 6>>;
+ChangeKey keyOf(const StEntryChange& stChange);
 
 // Modules whose entries are passed over on either side: the other side could not read them.
 struct StPassedOver

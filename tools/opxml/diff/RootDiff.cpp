@@ -173,6 +173,8 @@ StDiff diffFiles(const std::string& strOldFile, const std::string& strNewFile)
     const catalog::StTypeCatalog stNew = catalog::makeFileCatalog(strNewFile);
     requireConfiguration(stOld, strOldFile);
     requireConfiguration(stNew, strNewFile);
+    if (stOld.lstConfiguration.empty() && stNew.lstConfiguration.empty())
+        throw CTrouble("neither file can be read: " + whyNotRead(stOld) + "; " + whyNotRead(stNew));
     CDiffCollector oCollector;
     oCollector.add({}, diffTypes(stOld, stNew, {}), stOld.lstFile, stNew.lstFile);
     StDiff stDiff = oCollector.take();

@@ -6,15 +6,40 @@
 #include "records/ServerNames.h"
 #include "tools/opxml/output/Exit.h"
 
+namespace
+{
+// All that the library asks for by name, as one text.
+std::string readSettings()
+{
+    std::string strAll;
+    for (const ServerNames::StName& stName : ServerNames::SETTINGS)
+    {
+        std::string strValue;
+        CDCSettingInfoTab::Instance()->getValueByParam(stName.pszName, strValue);
+        strAll += strValue + '\n';
+    }
+    for (const ServerNames::StName& stName : ServerNames::CONFIG_ITEMS)
+        strAll += std::to_string(NS_UTIL::CConfigItem::Instance()->readCfgItemIntValueFromDB(ServerNames::ITEM_SECTION,
+                                                                                             stName.pszName, -1)) +
+                  '\n';
+    for (const ServerNames::StName& stName : ServerNames::RESOURCES)
+    {
+        std::string strValue;
+        CSysCommonFunc::readResourceFile(stName.pszName, strValue);
+        strAll += strValue + '\n';
+    }
+    return strAll;
+}
+} // namespace
+
 CServerSide::CServerSide(const std::string& strRoot) : m_strRoot(strRoot)
 {
     std::string strError;
     if (!standalone::openServerRoot(strRoot, strError))
         throw CTrouble(strError);
-    m_pRoot  = standalone::openedServerRoot();
-    m_pMaker = std::make_unique<catalog::CCatalogMaker>();
-    if (CSysCommonFunc::readResourceFile(ServerNames::BACKUP_PROGRAM_SUPPORT, m_strSettings) != DC_RESULT_OK)
-        m_strSettings = "none";
+    m_pRoot       = standalone::openedServerRoot();
+    m_pMaker      = std::make_unique<catalog::CCatalogMaker>();
+    m_strSettings = readSettings();
     std::map<std::string, std::vector<const catalog::StModuleCatalog*>> mapModule; // by name: so they are merged
     for (const catalog::StModuleCatalog& stModule : m_pMaker->modules())
     {

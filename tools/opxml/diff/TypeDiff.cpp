@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
-#include <tuple>
 #include <utility>
 
 namespace
@@ -35,17 +34,6 @@ VersionStates versionsOf(const catalog::StTypeCatalog& stType)
     }
     return mapState;
 }
-
-// What makes the same change of two configurations the same.
-auto keyOf(const StEntryChange& stChange)
-{
-    const StChange& st      = stChange.stChange;
-    const auto      fnPlace = [](const catalog::StPlace& stPlace)
-    { return std::tuple(stPlace.ulFile, stPlace.ulLine, stPlace.ulColumn); };
-    return std::tuple(st.pRule, st.enWhat, st.pKind, st.strPath, st.strField, st.strOld, st.strNew,
-                      fnPlace(stChange.stOld), fnPlace(stChange.stNew));
-}
-using ChangeKey = decltype(keyOf(StEntryChange()));
 
 class CTypeDiff
 {

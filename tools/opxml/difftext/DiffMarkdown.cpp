@@ -47,7 +47,7 @@ std::string devicesTable(const StDiff& stDiff)
 {
     if (stDiff.lstDevice.empty())
         return {};
-    std::string strText = "\n## Devices that lose something: " + std::to_string(stDiff.lstDevice.size()) +
+    std::string strText = "\n### Devices that lose something: " + std::to_string(stDiff.lstDevice.size()) +
                           "\n\n| id | name | address | type | version | losses |\n|---|---|---|---|---|---|\n";
     for (const StHurtDevice& stDevice : stDiff.lstDevice)
         strText += fmt::format("| {} | {} | {} | {} | {} | {} |\n", stDevice.ulDeviceID, escaped(stDevice.strName),
@@ -62,13 +62,13 @@ std::string diffMarkdown(const StDiff& stDiff)
     if (stDiff.isEmpty())
         return {};
     constexpr const char* HEADINGS[] = {"Breaking", "Compatible", "Cosmetic"};
-    std::string           strText    = "# Changes: " + diffSummary(stDiff) + "\n";
+    std::string           strText    = "## Changes: " + diffSummary(stDiff) + "\n";
     const ImpactCounts    arCount    = countImpacts(stDiff);
     for (std::size_t nAt = 0; nAt < arCount.size(); ++nAt)
     {
         if (arCount.at(nAt) == 0)
             continue;
-        strText += fmt::format("\n## {}: {}\n\n", HEADINGS[nAt], arCount.at(nAt));
+        strText += fmt::format("\n### {}: {}\n\n", HEADINGS[nAt], arCount.at(nAt));
         for (const StChange& stChange : stDiff.lstChange)
         {
             if (static_cast<std::size_t>(stChange.pRule->enImpact) == nAt)

@@ -1,4 +1,4 @@
-// The answer of a comparison as a whole, in each of its formats. Stateless.
+// The answer of a comparison as a whole, and the table of rules, in each format. Stateless.
 #ifndef OPERATIONXML_TOOLS_OPXML_DIFFTEXT_DIFFPRINTER_H
 #define OPERATIONXML_TOOLS_OPXML_DIFFTEXT_DIFFPRINTER_H
 
@@ -16,5 +16,10 @@ std::string diffJson(const StDiff& stDiff);
 
 // "3 device types compared: 2 breaking, 1 cosmetic; 4 devices lose something".
 std::string diffSummary(const StDiff& stDiff);
+
+// The table of rules.
+std::string diffRulesText();
+std::string diffRulesMarkdown();
+std::string diffRulesJson();
 
 #endif

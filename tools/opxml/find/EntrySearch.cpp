@@ -57,7 +57,10 @@ public:
 
     void tell()
     {
-        for (auto& [oKey, stHit] : m_mapHit)
+        std::stable_sort(m_lstHit.begin(), m_lstHit.end(),
+                         [](const StHit& stLeft, const StHit& stRight)
+                         { return stLeft.stFound.nWord < stRight.stFound.nWord; });
+        for (StHit& stHit : m_lstHit)
         {
             stHit.stFound.stType = typeOf(stHit.setConfiguration);
             m_stResult.lstFound.push_back(std::move(stHit.stFound));
@@ -113,20 +116,20 @@ private:
         }
         const catalog::StEntry& stEntry = stWalked.entry();
         const catalog::StPlace& stPlace = stEntry.stPlace;
-        // In the order of the types' sections, the words one after the other.
-        const auto itHit = m_mapHit.try_emplace(
-            {nWord, stWalked.nRow, stPlace.ulFile, stPlace.ulLine, stPlace.ulColumn, pathText(stWalked.lstPath)});
-        StHit& stHit = itHit.first->second;
-        stHit.setConfiguration.insert(m_nConfiguration);
-        if (itHit.second)
-            stHit.stFound = {nWord,
-                             {},
-                             stWalked.pKind,
-                             pathText(stWalked.lstPath),
-                             saysText(stEntry),
-                             originText(stEntry),
-                             placeText(m_stType.lstFile, stPlace),
-                             strShadow};
+        const std::string       strPath = pathText(stWalked.lstPath);
+        const auto [itHit, bNew]        = m_mapHit.try_emplace(
+                   {nWord, stWalked.nRow, stPlace.ulFile, stPlace.ulLine, stPlace.ulColumn, strPath}, m_lstHit.size());
+        if (bNew)
+            m_lstHit.push_back({{nWord,
+                                 {},
+                                 stWalked.pKind,
+                                 strPath,
+                                 saysText(stEntry),
+                                 originText(stEntry),
+                                 placeText(m_stType.lstFile, stPlace),
+                                 strShadow},
+                                {}});
+        m_lstHit[itHit->second].setConfiguration.insert(m_nConfiguration);
     }
 
     std::string lostText(const StWalkedEntry& stWalked) const
@@ -178,7 +181,8 @@ private:
     StFindResult&                 m_stResult;
     std::vector<StOfWord>         m_lstWord;
     std::size_t                   m_nConfiguration = 0;
-    std::map<HitKey, StHit>       m_mapHit;
+    std::vector<StHit>            m_lstHit;
+    std::map<HitKey, std::size_t> m_mapHit; // where it stands in the list
 };
 
 CEntrySearch::CEntrySearch(StFindWish stWish) : m_stWish(std::move(stWish))
