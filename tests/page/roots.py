@@ -54,3 +54,22 @@ def replace(path, words):
         text = text.replace(word, other)
     with open(path, "w", encoding="utf-8") as file:
         file.write(text)
+
+
+# The example as it may have been: what is gone today, came, or says something else.
+def earlier_root(example, folder):
+    root = os.path.join(folder, "earlier")
+    shutil.copytree(example, root)
+    config = os.path.join(root, "common/dc/conf/dc/devtype_xmlconf")
+    replace(os.path.join(config, "LX_2400_S_ServerConfiguration.xml"), {
+        '    <Operation id="Recover" operationLevel="DeviceLevel" isCancelable="0">':
+            '    <Operation id="Diagnose" operationLevel="DeviceLevel"/>\n'
+            '    <Operation id="Recover" operationLevel="DeviceLevel" isCancelable="1">',
+        '<Option id="PATCH" value="4" target="flash:/patch"/>': '<Option id="PATCH" value="44" target="flash:/patch"/>',
+    })
+    replace(os.path.join(config, "OLT-880_ServerConfiguration.xml"), {
+        '    <Operation id="Save" operationLevel="DeviceLevel" isCancelable="0"/>\n': "",
+        '    <Item type="DeviceOperation" id="Dispense"/>\n': "",
+    })
+    replace(os.path.join(root, "server.sql"), {"'RX 900\\E'": "'RX 900-E'"})
+    return root

@@ -15,7 +15,7 @@ sys.path[:0] = [HERE, os.path.join(HERE, "../cli")]
 
 from agreement import offered, said, show_lines
 from browser import Browser
-from roots import HOSTILE_DEVICE, HOSTILE_OPERATION, HOSTILE_TYPE, Tool, hostile_root
+from roots import HOSTILE_DEVICE, HOSTILE_OPERATION, HOSTILE_TYPE, Tool, earlier_root, hostile_root
 from screenshots import take_screenshots
 from selenium.webdriver.common.keys import Keys
 
@@ -232,7 +232,7 @@ class NavigationTest(PageTest):
         self.assertEqual("1 1", self.browser.run(focused))
         self.browser.press(Keys.END)
         self.assertEqual("1 165", self.browser.run(focused))
-        self.assertTrue(self.browser.run("const place = document.activeElement.getBoundingClientRect(); return place.right <= innerWidth"))
+        self.assertTrue(self.browser.run("const place = document.activeElement.getBoundingClientRect(); return place.right < innerWidth + 1"))
         self.browser.press(Keys.CONTROL + Keys.HOME)
         self.assertEqual("0 -1", self.browser.run(focused))
         self.browser.press(Keys.ENTER)
@@ -297,6 +297,54 @@ class HostileTest(PageTest):
         self.browser.settle()
         self.assertTrue(all("Content Security Policy" in line for line in self.browser.console()))
         self.browser.requests()  # that of the image, which was refused
+
+
+class ComparisonTest(PageTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.earlier = earlier_root(cls.server, cls.tool.folder)
+        cls.compared = cls.tool.page(cls.server, "--compare", cls.earlier)
+
+    def test_gains_and_losses_stand_in_the_matrix(self):
+        self.open("#changed=1", self.compared)
+        matrix = self.browser.run(READ_MATRIX)
+        marks = {(row["type"], row["version"], *column): label.split(", ")[-1] for row in matrix["rows"]
+                 for column, label in zip(matrix["columns"], row["labels"]) if label.split(", ")[-1] in ("gain", "loss", "change")}
+        expected = {("OLT-880", "A2.4", "device", "Save"): "gain", ("OLT-880", "A2.4", "menu", "Dispense"): "gain",
+                    ("OLT-880", "A2.4", "isolation-menu", "Dispense"): "gain"}
+        for version in ("V3.7", "V3.8"):
+            expected |= {("LX 2400/S", version, "device", "Diagnose"): "loss", ("LX 2400/S", version, "device", "Recover"): "change"}
+        self.assertEqual(expected, marks)
+        tags = {row["type"]: row["tags"] for row in matrix["rows"]}
+        self.assertEqual((["gone"], ["new"]), (tags["RX 900-E"], tags["RX 900\\E"]))
+
+    def test_the_list_is_that_of_diff(self):
+        diff = json.loads(self.tool.run(self.server, "diff", self.earlier, self.server, "--format", "json").stdout)
+        self.open("#view=comparison", self.compared)
+        breaking = self.browser.run("return [...document.querySelectorAll('[aria-label=\"Breaking changes\"] tbody tr')].map((row) => row.innerText)")
+        wanted = [change for change in diff["changes"] if change["impact"] == "breaking"]
+        self.assertEqual(len(wanted), len(breaking))
+        for change, line in zip(wanted, breaking):
+            self.assertIn(change.get("path") or "device type", line)
+        devices = self.browser.texts('[aria-label="Devices that lose something"] tbody td:nth-child(2)')
+        self.assertEqual([str(device["id"]) for device in diff["devices"]], devices)
+        self.browser.click('[aria-label="Breaking changes"] a')
+        self.assertEqual("LX 2400/S V3.7", self.browser.text("#detail-heading"))
+
+    def test_everybody_can_read_it(self):
+        for width, dark in ((1440, True), (360, False)):
+            self.browser.look(width, 900, dark)
+            for view in ("#view=comparison", "#changed=1"):
+                self.open(view, self.compared)
+                self.assertEqual([], self.browser.violations(), view)
+                self.assertLessEqual(self.browser.run("return document.documentElement.scrollWidth"), width)
+
+    # Two roots without a difference: nothing is marked, and the page says so.
+    def test_nothing_changed(self):
+        page = self.tool.page(self.server, "--compare", self.server)
+        self.open("#view=comparison", page)
+        self.assertEqual(4, self.browser.text("#comparison").count("None."))
 
 
 class ForEverybodyTest(PageTest):

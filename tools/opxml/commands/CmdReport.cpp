@@ -25,6 +25,10 @@ void addReportCommand(CLI::App& oApp, StTool& stTool)
     pCommand->add_option("--output", pWish->strOutput, "The page; written whole or not at all")
         ->type_name("FILE.html")
         ->required();
+    pCommand
+        ->add_option("--compare", pWish->strCompare,
+                     "Show as well what changed since this server root, as opxml diff does")
+        ->type_name("OLDROOT");
     pCommand->add_option("--title", pWish->strTitle, "Heading of the page; else the name of the root's folder")
         ->type_name("TEXT");
     pCommand->add_flag("!--no-details", pWish->bDetails,

@@ -95,6 +95,8 @@ Json rowJson(const StReportRow& stRow, const std::vector<std::uint32_t>& lstPlac
     addList(oJson, "modules", stRow.lstModule);
     if (!stRow.bFirst)
         oJson["further"] = true;
+    if (stRow.bGone)
+        oJson["gone"] = true;
     if (!stRow.lstVersion.empty())
         oJson["versions"] = versionsJson(stRow.lstVersion);
     addText(oJson, "cells", cellText(stRow.lstCell, lstPlace));

@@ -2,6 +2,8 @@
 // are read, and only then it is known what stands in the matrix.
 #include "tools/opxml/report/Report.h"
 
+#include "tools/opxml/diff/RootDiff.h"
+#include "tools/opxml/report/Comparison.h"
 #include "tools/opxml/report/Packing.h"
 #include "tools/opxml/report/PageFile.h"
 #include "tools/opxml/report/PageJson.h"
@@ -75,9 +77,16 @@ std::string writeReport(const StReportWish& stWish)
             oPage.write("</script>\n");
         };
     }
+    StDiff stDiff;
+    if (!stWish.strCompare.empty())
+        stDiff = diffRoots(stWish.strCompare, stWish.strRoot); // leaves the second one open
     readReport(stWish.strRoot, stWish.bLint, fnDetail, stReport);
+    addGone(stDiff, stReport);
+    Json oJson = pageJson(stReport);
+    if (!stWish.strCompare.empty())
+        oJson["comparison"] = comparisonJson(stDiff, wholePath(stWish.strCompare));
     oPage.write("<script type=\"application/json\" id=\"data\">");
-    oPage.write(scriptJson(pageJson(stReport)));
+    oPage.write(scriptJson(oJson));
     oPage.write("</script>\n");
     oPage.write(PAGE_TAIL);
     oPage.finish();

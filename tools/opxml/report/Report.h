@@ -9,6 +9,7 @@ struct StReportWish
 {
     std::string strOutput;
     std::string strRoot;
+    std::string strCompare; // root to compare with; empty: none
     std::string strTitle;
     std::string strTool; // name and version
     bool        bDetails = true;

@@ -35,6 +35,7 @@ struct StReportRow
     std::string                  strReplacedBy;       // version of the later entry that has the key
     std::vector<std::string>     lstServed;           // the versions in service that it is for; none: all
     bool                         bFirst = true;       // of its type: the one that answers questions without a version
+    bool                         bGone  = false;      // it was registered in the root that this one is compared with
     std::vector<std::string>     lstModule;           // what is merged into it, a module once for each time
     std::vector<StReportVersion> lstVersion;          // of the type, with its first row
     Cells                        lstCell;             // by column

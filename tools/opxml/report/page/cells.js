@@ -31,15 +31,15 @@ export function sign(code) {
   return shape;
 }
 
-const CHANGES = { gain: ["gain", "+"], loss: ["loss", "−"], change: ["change", "≠"] };
+export const CHANGE_MARKS = { gain: "+", loss: "−", change: "≠" };
 
 export function fillCell(cell, row, column) {
   const code = cellAt(row, column.at);
   const change = row.changes?.get(column.at);
   if (code !== NOTHING) cell.append(sign(code));
   if (change) {
-    cell.classList.add(CHANGES[change][0]);
-    cell.append(make("span", { class: "mark", text: CHANGES[change][1] }));
+    cell.classList.add(change);
+    cell.append(make("span", { class: "mark", text: CHANGE_MARKS[change] }));
   }
   cell.setAttribute("aria-label", change ? `${cellWords(code)}, ${change}` : cellWords(code));
 }
@@ -76,7 +76,7 @@ export function rowHeading(row, rowAt) {
   return heading;
 }
 
-export function columnHeading(column, at, isFirst) {
+export function columnHeading(column, at, isFirst, isWithKind) {
   const sorted = sortColumn(view.sort);
   const isSorted = sorted?.column === column;
   const heading = make(
@@ -91,6 +91,7 @@ export function columnHeading(column, at, isFirst) {
     },
     make("span", { class: "operation", text: column.name }),
   );
+  if (isWithKind) heading.firstChild.dataset.kind = column.kind.replace("-", " ");
   heading.dataset.at = `-1 ${at}`;
   return heading;
 }

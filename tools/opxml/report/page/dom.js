@@ -22,7 +22,7 @@ export const unseen = (text) => make("span", { class: "unseen", text });
 export const count = (number, one, many = `${one}s`) => `${number.toLocaleString("en")} ${number === 1 ? one : many}`;
 
 // A table with a caption; cells are texts or nodes, headings of rows in the first column.
-export function table(caption, headings, rows) {
+function wholeTable(caption, headings, rows) {
   const head = make("tr", {}, ...headings.map((heading) => make("th", { scope: "col", text: heading })));
   const body = rows.map((cells) =>
     make("tr", {}, ...cells.map((cell, at) => make(at === 0 ? "th" : "td", at === 0 ? { scope: "row" } : {}, cell))),
@@ -38,4 +38,16 @@ export function table(caption, headings, rows) {
       make("tbody", {}, ...body),
     ),
   );
+}
+
+const SHOWN_AT_ONCE = 200;
+
+// The same; of a long list the rest comes when it is asked for.
+export function table(caption, headings, rows) {
+  const whole = make("div", {}, wholeTable(caption, headings, rows.slice(0, SHOWN_AT_ONCE)));
+  if (rows.length <= SHOWN_AT_ONCE) return whole;
+  const more = make("button", { type: "button", class: "plain", text: `Show all ${rows.length.toLocaleString("en")}` });
+  more.addEventListener("click", () => whole.replaceChildren(wholeTable(caption, headings, rows)));
+  whole.append(more);
+  return whole;
 }

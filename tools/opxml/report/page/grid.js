@@ -8,6 +8,7 @@ import { bodyCell, columnHeading, kindTitles, rowHeading } from "./cells.js";
 const ROW_HEIGHT = 40; // as in matrix.css
 const COLUMN_WIDTH = 34;
 const SHOWN_WHOLE = 6000; // cells: a small matrix is all there
+const ROOM_FOR_TITLE = 5; // columns: where a kind has less, its word stands at each column
 const MARGIN = 8; // rows and columns beyond what is in sight
 
 let rows = [];
@@ -59,11 +60,12 @@ function kindRow(first, end) {
     const begin = at;
     while (at < end && columns[at].kind === columns[begin].kind) at++;
     const title = kindTitles.get(columns[begin].kind);
+    const isNarrow = at - begin < ROOM_FOR_TITLE;
     cells.push(
       make(
         "th",
         { scope: "colgroup", colspan: at - begin, "aria-colindex": begin + 2, class: "kind", title },
-        make("span", { text: title }),
+        make("span", { text: title, class: isNarrow ? "unseen" : "" }),
       ),
     );
   }
@@ -74,11 +76,15 @@ function kindRow(first, end) {
 const beginsKind = (at) => at > 0 && columns[at - 1].kind !== columns[at].kind;
 
 function headingRow(first, end) {
+  const numbers = new Map();
+  for (let at = first; at < end; at++) numbers.set(columns[at].kind, (numbers.get(columns[at].kind) ?? 0) + 1);
+  const isNarrow = (kind) => numbers.get(kind) < ROOM_FOR_TITLE;
   const cells = [
     make("th", { scope: "col", class: "corner", "aria-colindex": 1 }, make("span", { text: "Type and version" })),
   ];
   if (first > 0) cells.push(gapCell());
-  for (let at = first; at < end; at++) cells.push(columnHeading(columns[at], at, beginsKind(at)));
+  for (let at = first; at < end; at++)
+    cells.push(columnHeading(columns[at], at, beginsKind(at), isNarrow(columns[at].kind)));
   if (end < columns.length) cells.push(gapCell());
   return make("tr", { "aria-rowindex": 2 }, ...cells);
 }
@@ -132,19 +138,21 @@ function markFocus(isToFocus) {
   if (isToFocus && cell !== document.activeElement) cell.focus({ preventScroll: true });
 }
 
+// Where to scroll to, so that a cell lies behind the headings and before the end. Columns
+// may be a fraction wider than they are asked to be.
+function scrolled(now, room, headings, at, size) {
+  const begin = at * size;
+  const end = begin + size + headings + 2;
+  if (at >= 0 && begin < now) return begin;
+  return at >= 0 && end > now + room ? end - room : now;
+}
+
 function bringIntoSight({ row, column }) {
   const scroll = byId("scroll");
   const grid = byId("grid");
-  const top = grid.tHead.offsetHeight;
-  const left = grid.rows[1].cells[0].offsetWidth;
-  const y = row * ROW_HEIGHT;
-  const x = column * COLUMN_WIDTH;
-  if (row >= 0 && y < scroll.scrollTop) scroll.scrollTop = y;
-  if (row >= 0 && y + ROW_HEIGHT + top > scroll.scrollTop + scroll.clientHeight)
-    scroll.scrollTop = y + ROW_HEIGHT + top - scroll.clientHeight;
-  if (column >= 0 && x < scroll.scrollLeft) scroll.scrollLeft = x;
-  if (column >= 0 && x + COLUMN_WIDTH + left > scroll.scrollLeft + scroll.clientWidth)
-    scroll.scrollLeft = x + COLUMN_WIDTH + left - scroll.clientWidth;
+  const names = grid.rows[1].cells[0].offsetWidth;
+  scroll.scrollTop = scrolled(scroll.scrollTop, scroll.clientHeight, grid.tHead.offsetHeight, row, ROW_HEIGHT);
+  scroll.scrollLeft = scrolled(scroll.scrollLeft, scroll.clientWidth, names, column, COLUMN_WIDTH);
 }
 
 function moveTo(row, column) {
@@ -216,6 +224,7 @@ export function focusGrid() {
 export function fillGrid(shownRows, shownColumns) {
   rows = shownRows;
   columns = shownColumns;
+  byId("grid").style.width = `calc(var(--names) + ${columns.length * COLUMN_WIDTH}px)`;
   byId("grid").setAttribute("aria-rowcount", rows.length + 2);
   byId("grid").setAttribute("aria-colcount", columns.length + 1);
   draw(false);

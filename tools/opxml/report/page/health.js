@@ -3,12 +3,11 @@ import { page } from "./data.js";
 import { go, linkTo, view } from "./view.js";
 import { byId, count, make, table } from "./dom.js";
 
-const SHOWN_AT_ONCE = 200;
 let isFilled = false;
 
 const failedRows = () => page.rows.filter((row) => row.isFailed);
 
-function rowLink(row) {
+export function rowLink(row) {
   return make("a", {
     href: linkTo({ view: "matrix", row: row.name, rule: "", file: "" }),
     text: row.name,
@@ -89,7 +88,6 @@ function findingsList() {
     make("span", { class: `severity ${rules[rule][2]}`, text: rules[rule][2] }),
     make("span", {}, message, " ", make("span", { class: "rule", text: rules[rule][0] })),
   ]);
-  const list = table("Findings", ["place", "severity", "finding"], lines.slice(0, SHOWN_AT_ONCE));
   const all = rules.reduce((sum, rule) => sum + rule[3], 0);
   const filter = [view.rule, view.file].filter(Boolean).join(", ");
   const heading = make(
@@ -102,22 +100,8 @@ function findingsList() {
     heading.append(
       ` The page lists ${findings.length.toLocaleString("en")} of ${all.toLocaleString("en")}; opxml lint lists all.`,
     );
-  const more = make("button", {
-    type: "button",
-    class: "plain",
-    text: `Show all ${wanted.length.toLocaleString("en")}`,
-  });
-  more.addEventListener("click", () => {
-    list.replaceWith(table("Findings", ["place", "severity", "finding"], lines));
-    more.remove();
-  });
-  return make(
-    "div",
-    { id: "finding-list" },
-    heading,
-    wanted.length > 0 ? list : "",
-    lines.length > SHOWN_AT_ONCE ? more : "",
-  );
+  const list = wanted.length > 0 ? table("Findings", ["place", "severity", "finding"], lines) : "";
+  return make("div", { id: "finding-list" }, heading, list);
 }
 
 function lint() {

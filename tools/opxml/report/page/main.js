@@ -5,7 +5,7 @@ import { byId } from "./dom.js";
 import { showMatrix, startMatrix } from "./matrix.js";
 import { showDetail } from "./detail.js";
 import { showHealth } from "./health.js";
-import { showComparison } from "./comparison.js";
+import { markChanges, showComparison } from "./comparison.js";
 
 const VIEWS = { matrix: showMatrix, comparison: showComparison, health: showHealth };
 
@@ -37,6 +37,7 @@ function begin() {
     event.preventDefault();
     byId("main").focus();
   });
+  markChanges();
   startMatrix();
   onChange(showView);
   onChange(showDetail);

@@ -1,8 +1,9 @@
 // The matrix: what is chosen of it, in the grid and on paper.
 import { chooseColumns, chooseRows } from "./choose.js";
+import { page } from "./data.js";
 import { view } from "./view.js";
 import { byId, make } from "./dom.js";
-import { sign } from "./cells.js";
+import { CHANGE_MARKS, sign } from "./cells.js";
 import { fillGrid, startGrid } from "./grid.js";
 import { showFilters, startFilters, tellCount } from "./filters.js";
 import { fillPaper } from "./paper.js";
@@ -29,8 +30,18 @@ const LEGEND = [
   [12, "device and board"],
 ];
 
+function marks() {
+  if (!page.comparison) return [];
+  return Object.entries(CHANGE_MARKS).map(([change, mark]) =>
+    make("li", {}, make("span", { class: "mark", text: mark }), make("span", { text: change })),
+  );
+}
+
 export function startMatrix() {
-  byId("legend").append(...LEGEND.map(([code, text]) => make("li", {}, sign(code), make("span", { text }))));
+  byId("legend").append(
+    ...LEGEND.map(([code, text]) => make("li", {}, sign(code), make("span", { text }))),
+    ...marks(),
+  );
   startFilters();
   startGrid();
   addEventListener("beforeprint", () => fillPaper(chosen.rows, chosen.columns));
