@@ -1,13 +1,10 @@
-// The schemas as a strict parser sees them, and their words beside the word tables.
+// The schemas as a strict parser sees them.
 #include "TestSupport.h"
-#include "records/WordTables.h"
 
 #include <fmt/format.h>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/sax/HandlerBase.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
-
-#include <map>
 
 using namespace xercesc;
 
@@ -65,41 +62,4 @@ TEST_F(SchemaTest, StrictParsersTakeEverySchema)
     EXPECT_EQ(10u, nSchemas); // one for each kind of file, and two that they share
 }
 
-template <typename Table>
-std::vector<std::string> tableWords(const Table& arTable)
-{
-    std::vector<std::string> lstWord;
-    for (const auto& stRow : arTable)
-        lstWord.emplace_back(stRow.strWord);
-    return lstWord;
-}
-
-TEST_F(SchemaTest, WordsAreThoseOfTheWordTables)
-{
-    // clang-format off
-    const struct
-    {
-        const char*              pszType;
-        std::vector<std::string> lstWord;
-    } CASES[] = {
-        {"operationLevel", tableWords(OPERATION_LEVEL_WORDS)}, {"availability", tableWords(AVAILABILITY_WORDS)},
-        {"patchType", tableWords(PATCH_TYPE_WORDS)}, {"operationKind", tableWords(TYPE_REF_WORDS)},
-        {"isolationOperationKind", tableWords(ISOLATION_TYPE_REF_WORDS)}, {"taskTypeName", tableWords(TASK_TYPE_WORDS)},
-    };
-    // clang-format on
-    XercesDOMParser oParser;
-    oParser.parse((SCHEMAS / "types.xsd").c_str());
-    ASSERT_EQ(0u, oParser.getErrorCount());
-    std::map<std::string, std::vector<std::string>> mapWords; // of each type
-    const DOMNodeList* pWords = oParser.getDocument()->getElementsByTagName(u"xs:enumeration");
-    for (XMLSize_t nWord = 0; nWord < pWords->getLength(); ++nWord)
-    {
-        const auto*    pWord = dynamic_cast<const DOMElement*>(pWords->item(nWord));
-        const DOMNode* pType = pWord->getParentNode()->getParentNode();
-        mapWords[local(dynamic_cast<const DOMElement*>(pType)->getAttribute(u"name"))].push_back(
-            local(pWord->getAttribute(u"value")));
-    }
-    for (const auto& stCase : CASES)
-        EXPECT_THAT(mapWords[stCase.pszType], testing::UnorderedElementsAreArray(stCase.lstWord)) << stCase.pszType;
-}
 } // namespace
