@@ -44,7 +44,9 @@ std::string attributeText(const char* pszField)
     strName.erase(0, strName.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ")); // the type letters
     if (strName.empty())
         return pszField;
-    strName.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(strName.front())));
+    const bool bAbbreviation = strName.size() > 1 && std::isupper(static_cast<unsigned char>(strName[1])) != 0;
+    if (!bAbbreviation) // "GUITemplete" is written as it is
+        strName.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(strName.front())));
     return strName;
 }
 

@@ -21,10 +21,23 @@ struct StDevicesOptions
     bool        bJson = false;
 };
 
-bool isNamed(const StServedDevice& stDevice, const std::string& strWord)
+bool isMentioned(const StServedDevice& stDevice, const std::string& strWord)
 {
-    return strWord == std::to_string(stDevice.stInfo.ulDeviceID) || mentions(stDevice.stInfo.strDeviceName, strWord) ||
-           mentions(stDevice.stInfo.strIPAddress, strWord) || mentions(stDevice.strDevType, strWord);
+    return mentions(stDevice.stInfo.strDeviceName, strWord) || mentions(stDevice.stInfo.strIPAddress, strWord) ||
+           mentions(stDevice.strDevType, strWord);
+}
+
+// The device that bears the word as id, name or address is the one that is meant;
+// otherwise all that mention it.
+std::vector<StServedDevice> devicesOf(const std::vector<StServedDevice>& lstAll, const std::string& strWord)
+{
+    std::vector<StServedDevice> lstFound;
+    std::copy_if(lstAll.begin(), lstAll.end(), std::back_inserter(lstFound),
+                 [&strWord](const StServedDevice& stDevice) { return isDeviceNamed(stDevice.stInfo, strWord); });
+    if (lstFound.empty())
+        std::copy_if(lstAll.begin(), lstAll.end(), std::back_inserter(lstFound),
+                     [&strWord](const StServedDevice& stDevice) { return isMentioned(stDevice, strWord); });
+    return lstFound;
 }
 
 std::string softwareOf(const StServedDevice& stDevice)
@@ -100,10 +113,8 @@ std::string noDeviceText(const std::vector<StServedDevice>& lstDevice, const std
 int runDevices(const StGlobalOptions& stGlobal, const StDevicesOptions& stOptions)
 {
     openRoot(stGlobal);
-    const std::vector<StServedDevice> lstAll = gatherDevices();
-    std::vector<StServedDevice>       lstDevice;
-    std::copy_if(lstAll.begin(), lstAll.end(), std::back_inserter(lstDevice),
-                 [&stOptions](const StServedDevice& stDevice) { return isNamed(stDevice, stOptions.strWord); });
+    const std::vector<StServedDevice> lstAll    = gatherDevices();
+    std::vector<StServedDevice>       lstDevice = devicesOf(lstAll, stOptions.strWord);
     loadConfigurations(lstDevice);
     if (stOptions.bJson)
         print(devicesJson(lstDevice));
@@ -119,8 +130,9 @@ void addDevicesCommand(CLI::App& oApp, StTool& stTool)
 {
     CLI::App* pCommand = oApp.add_subcommand("devices", "List the devices and the configuration that serves each");
     auto      pOptions = std::make_shared<StDevicesOptions>();
-    pCommand->add_option("WORD", pOptions->strWord,
-                         "Only those of this id, or with this text in name, address or type");
+    pCommand->add_option(
+        "WORD", pOptions->strWord,
+        "Only the one of this id, name or address, else those with this text in name, address or type");
     pCommand->add_flag("--json", pOptions->bJson, "Print JSON");
     pCommand->footer("Exit status: 0 some found, 1 none, 2 trouble.");
     pCommand->callback([&stTool, pOptions]
