@@ -31,9 +31,11 @@ void addReportCommand(CLI::App& oApp, StTool& stTool)
         ->type_name("OLDROOT");
     pCommand->add_option("--title", pWish->strTitle, "Heading of the page; else the name of the root's folder")
         ->type_name("TEXT");
-    pCommand->add_flag("!--no-details", pWish->bDetails,
-                       "Leave out the trees of the types: the page is a tenth of the size");
-    pCommand->add_flag("!--no-lint", pWish->bLint, "Leave out what opxml lint finds: the page is made faster");
+    pCommand->add_flag_callback(
+        "--no-details", [pWish] { pWish->bDetails = false; },
+        "Leave out the trees of the types: the page is a tenth of the size");
+    pCommand->add_flag_callback(
+        "--no-lint", [pWish] { pWish->bLint = false; }, "Leave out what opxml lint finds: the page is made faster");
     pCommand->footer("The page needs no server, no network and no other file.\n"
                      "Exit status: 0 it is written, 2 trouble.");
     pCommand->callback([&stTool, pWish]

@@ -11,6 +11,9 @@
 
 namespace
 {
+// From here on a page gets little smaller, and takes longer to write.
+constexpr int PACKING_LEVEL = 5;
+
 using Bytes = std::vector<unsigned char>;
 
 Bytes compressed(std::string_view strText)
@@ -18,7 +21,7 @@ Bytes compressed(std::string_view strText)
     uLongf nBytes = compressBound(static_cast<uLong>(strText.size()));
     Bytes  lstByte(nBytes);
     if (compress2(lstByte.data(), &nBytes, reinterpret_cast<const Bytef*>(strText.data()),
-                  static_cast<uLong>(strText.size()), Z_DEFAULT_COMPRESSION) != Z_OK)
+                  static_cast<uLong>(strText.size()), PACKING_LEVEL) != Z_OK)
         throw CTrouble("no memory to compress the details of a type");
     lstByte.resize(nBytes);
     return lstByte;

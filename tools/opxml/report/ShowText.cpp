@@ -22,7 +22,11 @@ public:
     // ", name: value", or nothing for an empty value.
     std::string detail(std::string_view strName, const char* pszField) const
     {
-        return value(pszField).empty() ? "" : fmt::format(", {}: {}", strName, value(pszField));
+        const std::string_view strValue = value(pszField);
+        std::string            strText;
+        if (!strValue.empty())
+            strText.append(", ").append(strName).append(": ").append(strValue);
+        return strText;
     }
 
     const char* flag(const char* pszField, const char* pszWord) const { return value(pszField) == "1" ? pszWord : ""; }
@@ -128,6 +132,6 @@ StShowText showText(const catalog::StEntry& stEntry, const catalog::StEntry* pPa
     if (!bIsThere)
         return {strId, ""};
     if (strRecord == "StAsnCheckType")
-        return {fmt::format("{}. {}", oWords.value("ulIndex"), strId), checkItemText(oWords)};
+        return {std::string(oWords.value("ulIndex")) + ". " + strId, checkItemText(oWords)};
     return {strId, plainText(strRecord, oWords)};
 }

@@ -27,6 +27,13 @@ function markOf(change, row, column) {
   return change.what === "lost" && !offered ? "loss" : "change";
 }
 
+// The isolation view reads the menu of the device view as well, so a change of the one
+// is told once for both.
+function columnsOf({ column }) {
+  const twin = column?.startsWith("menu:") ? page.columnOf.get(`isolation-${column}`) : undefined;
+  return [page.columnOf.get(column), twin].filter(Boolean);
+}
+
 export function markChanges() {
   if (!page.comparison) return;
   for (const row of page.rows) {
@@ -34,10 +41,9 @@ export function markChanges() {
     rowsOfType.set(key, [...(rowsOfType.get(key) ?? []), row]);
   }
   for (const change of page.comparison.changes) {
-    const column = page.columnOf.get(change.column);
     for (const row of change.sites.flatMap(siteRows)) {
       row.changes ??= new Map();
-      if (column) row.changes.set(column.at, markOf(change, row, column));
+      for (const column of columnsOf(change)) row.changes.set(column.at, markOf(change, row, column));
       if (change.rule === "type-gained") row.isNew = true;
     }
   }

@@ -60,6 +60,7 @@ export const foldCase = (text) => text.toLocaleLowerCase("en");
 
 function readRow(written, at, devicesOfKey) {
   const row = { ...written, at, ...readCells(written.cells ?? "") };
+  row.problem = row.problem?.replace(/^failed: /, ""); // it stands where that is said
   row.serves ??= [];
   row.modules ??= [];
   row.versions ??= [];

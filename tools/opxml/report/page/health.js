@@ -32,7 +32,7 @@ function card(number, words, tone) {
 function cards() {
   const severities = { error: 0, warning: 0, note: 0 };
   for (const [, , severity, number] of page.lint?.rules ?? []) severities[severity] += number;
-  const types = page.rows.filter((row) => !row.further);
+  const types = page.rows.filter((row) => !row.further && !row.gone);
   const failed = failedRows().length;
   return make(
     "ul",
