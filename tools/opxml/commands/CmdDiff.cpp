@@ -62,9 +62,11 @@ int runDiff(const StGlobalOptions& stGlobal, const StDiffOptions& stOptions)
     openLog(stGlobal);
     const StDiff stDiff = compare(stOptions);
     if (stOptions.strFormat == "json")
-        print(diffJson(stDiff));
+        printDiffJson(stDiff, print);
+    else if (stOptions.strFormat == "markdown")
+        printDiffMarkdown(stDiff, print);
     else
-        print(stOptions.strFormat == "markdown" ? diffMarkdown(stDiff) : diffText(stDiff));
+        printDiffText(stDiff, print);
     if (!stDiff.isEmpty())
         remark(diffSummary(stDiff));
     const bool bBreaking = !stDiff.isEmpty() && stDiff.lstChange.front().pRule->enImpact == EnImpact::Breaking;

@@ -5,15 +5,19 @@
 
 #include "tools/opxml/diff/TypeDiff.h"
 
-#include <map>
+#include <cstddef>
 #include <string>
-#include <tuple>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 class CDiffCollector
 {
 public:
+    CDiffCollector()                                 = default;
+    CDiffCollector(const CDiffCollector&)            = delete;
+    CDiffCollector& operator=(const CDiffCollector&) = delete;
+
     // The next type that has changes; the files of its catalogs are those of the places.
     void add(const StRegisteredType& stType, const std::vector<StTypeChange>& lstChange,
              const std::vector<std::string>& lstOldFile, const std::vector<std::string>& lstNewFile);
@@ -22,16 +26,26 @@ public:
     StDiff take();
 
 private:
-    using Key = std::tuple<const StDiffRule*, EnChange, const StEntryKind*, std::string, std::string, std::string,
-                           std::string, std::string>;
+    // A change by its place in the list, so that its texts are kept once.
+    struct StHash
+    {
+        const std::vector<StChange>* pChanges;
+        std::size_t                  operator()(std::size_t nAt) const;
+    };
+    struct StEqual
+    {
+        const std::vector<StChange>* pChanges;
+        bool                         operator()(std::size_t nLeft, std::size_t nRight) const;
+    };
 
+    StChange&     changeLike(const StChange& stChange);
     std::uint32_t numberOf(const std::vector<std::string>& lstSoftware);
     StDiffPlace   placeOf(const catalog::StPlace& stPlace, const std::vector<std::string>& lstFile);
 
-    StDiff                                         m_stDiff;
-    std::map<Key, std::size_t>                     m_mapChange;
-    std::unordered_map<std::string, std::uint32_t> m_mapFile;
-    std::unordered_map<std::string, std::uint32_t> m_mapSoftware;
+    StDiff                                           m_stDiff;
+    std::unordered_set<std::size_t, StHash, StEqual> m_setChange{16, {&m_stDiff.lstChange}, {&m_stDiff.lstChange}};
+    std::unordered_map<std::string, std::uint32_t>   m_mapFile;
+    std::unordered_map<std::string, std::uint32_t>   m_mapSoftware;
 };
 
 #endif

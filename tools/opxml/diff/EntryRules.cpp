@@ -126,15 +126,18 @@ const StDiffRule& ruleOfField(const StEntryKind& stKind, std::string_view strSec
 
 const StDiffRule* ruleOfOrder(const StEntryKind& stKind, bool bBackupContent)
 {
+    static const StDiffRule& s_stSteps      = diffRule("steps-moved");
+    static const StDiffRule& s_stCheckItems = diffRule("check-items-moved");
+    static const StDiffRule& s_stOptions    = diffRule("options-moved");
     switch (stKind.enKind)
     {
     case EnEntryKind::TaskStep:
     case EnEntryKind::UpgradeStep:
-        return &diffRule("steps-moved");
+        return &s_stSteps;
     case EnEntryKind::CheckItem:
-        return &diffRule("check-items-moved");
+        return &s_stCheckItems;
     case EnEntryKind::Option:
-        return bBackupContent ? &diffRule("options-moved") : nullptr;
+        return bBackupContent ? &s_stOptions : nullptr;
     default:
         return nullptr;
     }

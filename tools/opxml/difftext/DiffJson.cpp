@@ -47,25 +47,31 @@ Json deviceJson(const StHurtDevice& stDevice)
     return {{"id", stDevice.ulDeviceID},   {"name", stDevice.strName},          {"address", stDevice.strAddress},
             {"type", stDevice.strDevType}, {"version", stDevice.strDevTypeVer}, {"changes", stDevice.lstChange}};
 }
+// A list as a whole would be many times its text in memory.
+template <typename Values, typename ToJson>
+void printList(const char* pszName, const Values& lstValue, const TextSink& fnPrint, ToJson fnToJson)
+{
+    fnPrint(std::string("  \"") + pszName + "\": [");
+    for (const auto& value : lstValue)
+        fnPrint((&value == &lstValue.front() ? "\n    " : ",\n    ") + jsonText(fnToJson(value), 4));
+    fnPrint(lstValue.empty() ? "],\n" : "\n  ],\n");
+}
 } // namespace
 
-std::string diffJson(const StDiff& stDiff)
+void printDiffJson(const StDiff& stDiff, const TextSink& fnPrint)
 {
-    Json oChanges = Json::array();
-    for (const StChange& stChange : stDiff.lstChange)
-        oChanges.push_back(changeJson(stDiff, stChange));
-    Json oDevices = Json::array();
-    for (const StHurtDevice& stDevice : stDiff.lstDevice)
-        oDevices.push_back(deviceJson(stDevice));
     const ImpactCounts arCount = countImpacts(stDiff);
-    return jsonText({{"changes", oChanges},
-                     {"devices", oDevices},
-                     {"summary",
-                      {{"types", stDiff.nTypes},
-                       {"changedTypes", stDiff.lstType.size()},
-                       {"breaking", arCount[0]},
-                       {"compatible", arCount[1]},
-                       {"cosmetic", arCount[2]},
-                       {"devices", stDiff.lstDevice.size()}}}}) +
-           "\n";
+    fnPrint("{\n");
+    printList("changes", stDiff.lstChange, fnPrint,
+              [&stDiff](const StChange& stChange) { return changeJson(stDiff, stChange); });
+    printList("devices", stDiff.lstDevice, fnPrint, deviceJson);
+    fnPrint("  \"summary\": " +
+            jsonText({{"types", stDiff.nTypes},
+                      {"changedTypes", stDiff.lstType.size()},
+                      {"breaking", arCount[0]},
+                      {"compatible", arCount[1]},
+                      {"cosmetic", arCount[2]},
+                      {"devices", stDiff.lstDevice.size()}},
+                     2) +
+            "\n}\n");
 }

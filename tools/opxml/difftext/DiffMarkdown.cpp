@@ -43,37 +43,36 @@ std::string changeLine(const StDiff& stDiff, const StChange& stChange)
     return strText;
 }
 
-std::string devicesTable(const StDiff& stDiff)
+void printDevices(const StDiff& stDiff, const TextSink& fnPrint)
 {
     if (stDiff.lstDevice.empty())
-        return {};
-    std::string strText = "\n### Devices that lose something: " + std::to_string(stDiff.lstDevice.size()) +
-                          "\n\n| id | name | address | type | version | losses |\n|---|---|---|---|---|---|\n";
+        return;
+    fnPrint("\n### Devices that lose something: " + std::to_string(stDiff.lstDevice.size()) +
+            "\n\n| id | name | address | type | version | losses |\n|---|---|---|---|---|---|\n");
     for (const StHurtDevice& stDevice : stDiff.lstDevice)
-        strText += fmt::format("| {} | {} | {} | {} | {} | {} |\n", stDevice.ulDeviceID, escaped(stDevice.strName),
-                               escaped(stDevice.strAddress), escaped(stDevice.strDevType),
-                               escaped(stDevice.strDevTypeVer), stDevice.lstChange.size());
-    return strText;
+        fnPrint(fmt::format("| {} | {} | {} | {} | {} | {} |\n", stDevice.ulDeviceID, escaped(stDevice.strName),
+                            escaped(stDevice.strAddress), escaped(stDevice.strDevType), escaped(stDevice.strDevTypeVer),
+                            stDevice.lstChange.size()));
 }
 } // namespace
 
-std::string diffMarkdown(const StDiff& stDiff)
+void printDiffMarkdown(const StDiff& stDiff, const TextSink& fnPrint)
 {
     if (stDiff.isEmpty())
-        return {};
+        return;
     constexpr const char* HEADINGS[] = {"Breaking", "Compatible", "Cosmetic"};
-    std::string           strText    = "## Changes: " + diffSummary(stDiff) + "\n";
     const ImpactCounts    arCount    = countImpacts(stDiff);
+    fnPrint("## Changes: " + diffSummary(stDiff) + "\n");
     for (std::size_t nAt = 0; nAt < arCount.size(); ++nAt)
     {
         if (arCount.at(nAt) == 0)
             continue;
-        strText += fmt::format("\n### {}: {}\n\n", HEADINGS[nAt], arCount.at(nAt));
+        fnPrint(fmt::format("\n### {}: {}\n\n", HEADINGS[nAt], arCount.at(nAt)));
         for (const StChange& stChange : stDiff.lstChange)
         {
             if (static_cast<std::size_t>(stChange.pRule->enImpact) == nAt)
-                strText += changeLine(stDiff, stChange);
+                fnPrint(changeLine(stDiff, stChange));
         }
     }
-    return strText + devicesTable(stDiff);
+    printDevices(stDiff, fnPrint);
 }

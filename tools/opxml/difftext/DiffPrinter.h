@@ -4,15 +4,19 @@
 
 #include "tools/opxml/diff/Diff.h"
 
+#include <functional>
 #include <string>
 
+// Takes the text piece by piece: there may be very many changes.
+using TextSink = std::function<void(const std::string&)>;
+
 // For stdout: lines of its width. Nothing for no changes.
-std::string diffText(const StDiff& stDiff);
+void printDiffText(const StDiff& stDiff, const TextSink& fnPrint);
 
 // For a review; nothing for no changes.
-std::string diffMarkdown(const StDiff& stDiff);
+void printDiffMarkdown(const StDiff& stDiff, const TextSink& fnPrint);
 
-std::string diffJson(const StDiff& stDiff);
+void printDiffJson(const StDiff& stDiff, const TextSink& fnPrint);
 
 // "3 device types compared: 2 breaking, 1 cosmetic; 4 devices lose something".
 std::string diffSummary(const StDiff& stDiff);

@@ -7,13 +7,13 @@
 #include <fmt/format.h>
 
 #include <map>
-#include <set>
 #include <tuple>
 
 namespace
 {
 constexpr std::size_t FEW_PLACES   = 3;  // each told with its types
 constexpr std::size_t DEVICES_TOLD = 50; // by name; all of them stand in the JSON
+constexpr std::size_t LOSSES_TOLD  = 5;  // of each
 
 std::string wrapped(const std::string& strText, std::size_t nIndent)
 {
@@ -72,31 +72,40 @@ std::string sitesText(const StDiff& stDiff, const StChange& stChange)
     return strText;
 }
 
-std::string devicesText(const StDiff& stDiff)
+// What a device loses, the first of it by name.
+std::string lossesText(const StDiff& stDiff, const StHurtDevice& stDevice)
 {
-    std::string strText;
-    for (std::size_t nAt = 0; nAt < stDiff.lstDevice.size() && nAt < DEVICES_TOLD; ++nAt)
+    std::vector<std::string> lstLoss;
+    for (const std::uint32_t ulChange : stDevice.lstChange)
     {
-        const StHurtDevice&   stDevice = stDiff.lstDevice[nAt];
-        std::set<std::string> setLoss;
-        for (const std::uint32_t ulChange : stDevice.lstChange)
-            setLoss.insert(subjectText(stDiff.lstChange[ulChange]));
-        strText += wrapped(fmt::format("  {}: {}", deviceText(stDevice), fmt::join(setLoss, ", ")), 6);
+        if (lstLoss.size() == LOSSES_TOLD)
+        {
+            lstLoss.push_back(fmt::format("and {} more", stDevice.lstChange.size() - LOSSES_TOLD));
+            break;
+        }
+        lstLoss.push_back(subjectText(stDiff.lstChange[ulChange]));
     }
-    if (stDiff.lstDevice.size() > DEVICES_TOLD)
-        strText += fmt::format("  and {} more\n", stDiff.lstDevice.size() - DEVICES_TOLD);
-    return strText.empty()
-               ? strText
-               : wrapped("Devices that lose something: " + std::to_string(stDiff.lstDevice.size()), 4) + strText;
+    return fmt::format("{}", fmt::join(lstLoss, ", "));
+}
+
+void printDevices(const StDiff& stDiff, const TextSink& fnPrint)
+{
+    const std::vector<StHurtDevice>& lstDevice = stDiff.lstDevice;
+    if (lstDevice.empty())
+        return;
+    fnPrint("Devices that lose something: " + std::to_string(lstDevice.size()) + "\n");
+    for (std::size_t nAt = 0; nAt < lstDevice.size() && nAt < DEVICES_TOLD; ++nAt)
+        fnPrint(wrapped("  " + deviceText(lstDevice[nAt]) + ": " + lossesText(stDiff, lstDevice[nAt]), 6));
+    if (lstDevice.size() > DEVICES_TOLD)
+        fnPrint(fmt::format("  and {} more\n", lstDevice.size() - DEVICES_TOLD));
 }
 } // namespace
 
-std::string diffText(const StDiff& stDiff)
+void printDiffText(const StDiff& stDiff, const TextSink& fnPrint)
 {
-    std::string strText;
     for (const StChange& stChange : stDiff.lstChange)
-        strText += headText(stChange) + sitesText(stDiff, stChange);
-    return strText + devicesText(stDiff);
+        fnPrint(headText(stChange) + sitesText(stDiff, stChange));
+    printDevices(stDiff, fnPrint);
 }
 
 std::string diffSummary(const StDiff& stDiff)
