@@ -103,6 +103,7 @@ const StEntryKind* findKind(const std::string& strWord)
 std::vector<std::string> kindWords()
 {
     std::vector<std::string> lstWord;
+    lstWord.reserve(ENTRY_KINDS.size());
     for (const StEntryKind& stKind : ENTRY_KINDS)
         lstWord.emplace_back(stKind.pszWord);
     return lstWord;

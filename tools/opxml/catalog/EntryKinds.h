@@ -41,6 +41,7 @@ enum class EnEntryKind : std::int32_t
     TaskStep,
     TaskFeature,
 };
+inline constexpr std::size_t ENTRY_KIND_COUNT = static_cast<std::size_t>(EnEntryKind::TaskFeature) + 1;
 
 // What an entry is to a question for its id.
 enum class EnEntryRole : std::int32_t

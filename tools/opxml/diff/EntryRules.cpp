@@ -1,7 +1,7 @@
 // See EntryRules.h.
 #include "tools/opxml/diff/EntryRules.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <iterator>
 
 namespace
@@ -9,6 +9,7 @@ namespace
 // The flag of a parameter that says whether it is supported; of all others, that it is required.
 constexpr std::string_view FLAG_IS_SUPPORT = "lstOtherOperation";
 
+// In the order of the kinds.
 struct StKindRules
 {
     EnEntryKind enKind;
@@ -40,6 +41,17 @@ constexpr StKindRules KIND_RULES[] = {
     {EnEntryKind::TaskStep,         "step-lost", "step-gained"},
     {EnEntryKind::TaskFeature,      "feature-lost", "feature-gained"},
 };
+
+constexpr bool inOrder()
+{
+    for (std::size_t nAt = 0; nAt < std::size(KIND_RULES); ++nAt)
+    {
+        if (static_cast<std::size_t>(KIND_RULES[nAt].enKind) != nAt)
+            return false;
+    }
+    return std::size(KIND_RULES) == ENTRY_KIND_COUNT;
+}
+static_assert(inOrder(), "a row for each kind of entry");
 
 // A field, and the rule of its change. A flag, or a level, has one for each direction.
 struct StFieldRule
@@ -102,10 +114,8 @@ const StDiffRule& ruleOfEntry(const StEntryKind& stKind, std::string_view strSec
     if (bGained && stKind.enKind == EnEntryKind::Parameter && strSection != FLAG_IS_SUPPORT &&
         isFlagSet(stEntry, "bIsRequired"))
         return diffRule("required-parameter-gained");
-    const auto itRules =
-        std::find_if(std::begin(KIND_RULES), std::end(KIND_RULES),
-                     [&stKind](const StKindRules& stRules) { return stRules.enKind == stKind.enKind; });
-    return diffRule(bGained ? itRules->pszGained : itRules->pszLost);
+    const StKindRules& stRules = KIND_RULES[static_cast<std::size_t>(stKind.enKind)];
+    return diffRule(bGained ? stRules.pszGained : stRules.pszLost);
 }
 
 const StDiffRule& ruleOfField(const StEntryKind& stKind, std::string_view strSection, const catalog::StField& stOld,

@@ -3,6 +3,7 @@
 
 #include "catalog/FileCatalog.h"
 #include "common/ReadProblem.h"
+#include "lint/Nearness.h"
 #include "tools/opxml/diff/DiffCollector.h"
 #include "tools/opxml/diff/HurtDevices.h"
 #include "tools/opxml/diff/SameFiles.h"
@@ -16,12 +17,21 @@
 
 namespace
 {
+// Registry entries of one side that the other does not have.
+std::vector<StRegisteredType> missingIn(const CServerSide& oOther, const CServerSide& oSide)
+{
+    std::vector<StRegisteredType> lstType;
+    std::copy_if(oSide.types().begin(), oSide.types().end(), std::back_inserter(lstType),
+                 [&oOther](const StRegisteredType& stName) { return oOther.find(stName) == nullptr; });
+    return lstType;
+}
+
 // Of both registries: those of the old one, then those that the new one has beside them.
 std::vector<StRegisteredType> allTypes(const CServerSide& oOld, const CServerSide& oNew)
 {
-    std::vector<StRegisteredType> lstType = oOld.types();
-    std::copy_if(oNew.types().begin(), oNew.types().end(), std::back_inserter(lstType),
-                 [&oOld](const StRegisteredType& stName) { return oOld.find(stName) == nullptr; });
+    std::vector<StRegisteredType>       lstType = oOld.types();
+    const std::vector<StRegisteredType> lstNew  = missingIn(oOld, oNew);
+    lstType.insert(lstType.end(), lstNew.begin(), lstNew.end());
     return lstType;
 }
 
@@ -41,6 +51,33 @@ std::vector<StRegisteredType> wantedTypes(const std::vector<StRegisteredType>& l
     return lstNamed;
 }
 
+std::string nameOf(const StRegisteredType& stType)
+{
+    return stType.strDevType + " " + stType.strDevTypeVer;
+}
+
+// What an entry that went may be called now, and the other way round: another version of
+// the type, or a type spelt nearly alike. Each is taken once.
+std::map<std::string, std::string> typeRenames(const std::vector<StRegisteredType>& lstLost,
+                                               std::vector<StRegisteredType>        lstGained)
+{
+    std::map<std::string, std::string> mapRename;
+    for (const StRegisteredType& stLost : lstLost)
+    {
+        std::string strName = stLost.strDevType;
+        const auto  fnIsIt  = [&strName](const StRegisteredType& stGained) { return stGained.strDevType == strName; };
+        if (std::none_of(lstGained.begin(), lstGained.end(), fnIsIt))
+            strName = lint::nearestName(strName, namesOf(lstGained));
+        const auto itGained = std::find_if(lstGained.begin(), lstGained.end(), fnIsIt);
+        if (itGained == lstGained.end())
+            continue;
+        mapRename[nameOf(stLost)]    = nameOf(*itGained);
+        mapRename[nameOf(*itGained)] = nameOf(stLost);
+        lstGained.erase(itGained);
+    }
+    return mapRename;
+}
+
 class CRootDiff
 {
 public:
@@ -48,6 +85,7 @@ public:
     {
         m_mapNewlyBroken = unreadModules(m_oOld, m_oNew, m_stPassedOver.setOldModule);
         m_mapMended      = unreadModules(m_oNew, m_oOld, m_stPassedOver.setNewModule);
+        m_mapRename      = typeRenames(missingIn(m_oNew, m_oOld), missingIn(m_oOld, m_oNew));
     }
 
     StDiff run(const std::vector<std::string>& lstWanted)
@@ -121,6 +159,9 @@ private:
         StTypeChange stChange;
         stChange.stEntryChange.stChange.pRule  = &diffRule(bGained ? "type-gained" : "type-lost");
         stChange.stEntryChange.stChange.enWhat = bGained ? EnChange::Gained : EnChange::Lost;
+        const auto itRename                    = m_mapRename.find(nameOf(stType));
+        if (itRename != m_mapRename.end())
+            stChange.stEntryChange.stChange.strRename = itRename->second;
         m_oCollector.add(stType, {stChange}, {}, {});
     }
 
@@ -150,6 +191,8 @@ private:
     StPassedOver   m_stPassedOver;
     UnreadModules  m_mapNewlyBroken; // the new side cannot read them
     UnreadModules  m_mapMended;      // the old side could not
+
+    std::map<std::string, std::string> m_mapRename; // of registry entries
 };
 
 void requireConfiguration(const catalog::StTypeCatalog& stFile, const std::string& strFile)

@@ -23,8 +23,8 @@ std::string wrapped(const std::string& strText, std::size_t nIndent)
 std::string headText(const StChange& stChange)
 {
     const std::string strImpact = impactWord(stChange.pRule->enImpact);
-    const std::string strLines  = wrapped(
-         fmt::format("{}: {}: {} [{}]", strImpact, subjectText(stChange), whatText(stChange), stChange.pRule->pszId), 4);
+    std::string       strLines  = wrapped(
+               fmt::format("{}: {}: {} [{}]", strImpact, subjectText(stChange), whatText(stChange), stChange.pRule->pszId), 4);
     if (stChange.pRule->enImpact != EnImpact::Breaking)
         return strLines;
     return inRed(strImpact) + strLines.substr(strImpact.size());
