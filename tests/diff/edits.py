@@ -100,7 +100,8 @@ def round_of(opxml, dice):
         old, new = (os.path.join(scratch, name) for name in ("old", "new"))
         roots.write_root(old, [type_.body() for type_ in types])
         for number, type_ in enumerate(types):
-            expected += [(f"T{number}", "", *edit) for edit in type_.edit(dice.randint(0, 8))]
+            edits = type_.edit(dice.randint(0, 8))
+            expected += [(f"T{number} {version}", "", *edit) for edit in edits for version in ("VW" if number == 0 else "V")]
         roots.write_root(new, [type_.body() for type_ in types])
         there, back = roots.said(roots.diff(opxml, old, new)), roots.said(roots.diff(opxml, new, old))
     return there == sorted(expected) and back == roots.mirrored(there), expected, there, back

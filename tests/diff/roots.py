@@ -11,10 +11,10 @@ def own_file(number):
     return f"{CONFIG}T{number}.xml"
 
 
-# One registered type for each body, served by a file of its own with a device; more
-# files and statements as the caller likes.
+# One registered type for each body, served by a file of its own, with a device; the first
+# in two versions. More files and statements as the caller likes.
 def write_root(folder, bodies, files=(), sql=""):
-    statements = [sql]
+    statements = [sql, "INSERT INTO device_type (name, version) VALUES ('T0', 'W');" if bodies else ""]
     for number, body in enumerate(bodies):
         statements.append(f"INSERT INTO device_type (name, version, type_id, version_id) VALUES ('T{number}', 'V', {number}, 1);"
                           f"INSERT INTO config_file VALUES ('T{number}', '{own_file(number)}');"
@@ -36,7 +36,7 @@ def diff(opxml, old, new, *options):
 
 # What a change says, one for each type that has it; without rule and places.
 def said(answer):
-    return sorted((site["type"], site["software"], change["change"], change["kind"], change["path"], change["field"],
+    return sorted((site["type"] + " " + site["version"], site["software"], change["change"], change["kind"], change["path"], change["field"],
                    change["old"], change["new"]) for change in answer["changes"] for site in change["sites"])
 
 

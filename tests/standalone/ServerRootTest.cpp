@@ -37,6 +37,25 @@ TEST(ServerRoot, FailureKeepsTheOpenRoot)
     EXPECT_EQ("good", strValue);
 }
 
+TEST(ServerRoot, IsTakenUpAgainAsItWasOpened)
+{
+    CTempServerRoot oFirst;
+    oFirst.open("INSERT INTO setting VALUES('a','first');");
+    const standalone::OpenRoot pFirst = standalone::openedServerRoot();
+    oFirst.write("server.sql", "nonsense;"); // is not read again
+    CTempServerRoot oSecond;
+    oSecond.open("INSERT INTO setting VALUES('a','second');");
+    std::string strValue;
+    for (const char* pszExpected : {"second", "first"})
+    {
+        EXPECT_EQ(0u, CDCSettingInfoTab::Instance()->getValueByParam("a", strValue));
+        EXPECT_EQ(pszExpected, strValue);
+        standalone::resumeServerRoot(pFirst);
+    }
+    standalone::closeServerRoot();
+    EXPECT_EQ(nullptr, standalone::openedServerRoot());
+}
+
 TEST(ServerRoot, PathsStartWithTheFolderAsGiven)
 {
     CTempServerRoot oRoot;

@@ -13,6 +13,7 @@
 #include "tools/opxml/output/Progress.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace
@@ -77,6 +78,8 @@ std::map<std::string, std::string> typeRenames(const std::vector<StRegisteredTyp
     }
     return mapRename;
 }
+
+constexpr std::size_t SHARED_KEPT = 16;
 
 class CRootDiff
 {
@@ -143,15 +146,65 @@ private:
         const StConfigPlan stNewPlan = m_oNew.plan(*pNew);
         if (m_oOld.settings() == m_oNew.settings() && m_oSameFiles.isSame(*pOld, stOldPlan, *pNew, stNewPlan))
             return;
-        const catalog::StTypeCatalog stNewMade = m_oNew.make(*pNew);
+        const std::string strShared = sharedKey(*pOld, stOldPlan, *pNew, stNewPlan);
+        const auto        itShared  = m_mapShared.find(strShared);
+        if (itShared != m_mapShared.end())
+            return tell(stType, itShared->second);
+        StCompared stCompared = compareCatalogs(*pOld, *pNew);
+        tell(stType, stCompared);
+        if (strShared.empty())
+            return;
+        // The versions of a type come together, the types of the common file all along.
+        if (m_mapShared.size() == SHARED_KEPT)
+            m_mapShared.clear();
+        m_mapShared.emplace(strShared, std::move(stCompared));
+    }
+
+    // What came of one type, with the files of the places.
+    struct StCompared
+    {
+        std::vector<StTypeChange> lstChange;
+        std::vector<std::string>  lstOldFile;
+        std::vector<std::string>  lstNewFile;
+    };
+
+    void tell(const StRegisteredType& stType, const StCompared& stCompared)
+    {
+        m_oCollector.add(stType, stCompared.lstChange, stCompared.lstOldFile, stCompared.lstNewFile);
+    }
+
+    // What types of one file with the same modules have together: they differ alike. Empty
+    // for a type that has more of its own.
+    static std::string sharedKey(const StSideType& stOld, const StConfigPlan& stOldPlan, const StSideType& stNew,
+                                 const StConfigPlan& stNewPlan)
+    {
+        std::string strKey;
+        for (const auto& [pType, pPlan] : {std::pair(&stOld, &stOldPlan), std::pair(&stNew, &stNewPlan)})
+        {
+            if (pType->bCapacity || !pPlan->stConfig.isFound() || pPlan->stCheck.isFound() ||
+                pPlan->stFixedCheck.isFound())
+                return {};
+            strKey += pPlan->stConfig.strFile + '\n';
+            for (const catalog::StModuleCatalog* pModule : pType->lstModule)
+                strKey += pModule->strFile + '\n';
+        }
+        return strKey;
+    }
+
+    // The new root is open; the old one is afterwards.
+    StCompared compareCatalogs(const StSideType& stOld, const StSideType& stNew)
+    {
+        catalog::StTypeCatalog stNewMade = m_oNew.make(stNew);
         m_oOld.resume();
-        const catalog::StTypeCatalog stOldMade = m_oOld.make(*pOld);
-        std::vector<StTypeChange>    lstChange = unreadModuleChanges(*pOld, m_mapNewlyBroken, false);
-        for (StTypeChange& stChange : unreadModuleChanges(*pNew, m_mapMended, true))
-            lstChange.push_back(std::move(stChange));
-        for (StTypeChange& stChange : diffTypes(stOldMade, stNewMade, m_stPassedOver))
-            lstChange.push_back(std::move(stChange));
-        m_oCollector.add(stType, lstChange, stOldMade.lstFile, stNewMade.lstFile);
+        catalog::StTypeCatalog stOldMade = m_oOld.make(stOld);
+        StCompared             stCompared;
+        for (auto lstChange :
+             {unreadModuleChanges(stOld, m_mapNewlyBroken, false), unreadModuleChanges(stNew, m_mapMended, true),
+              diffTypes(stOldMade, stNewMade, m_stPassedOver)})
+            std::move(lstChange.begin(), lstChange.end(), std::back_inserter(stCompared.lstChange));
+        stCompared.lstOldFile = std::move(stOldMade.lstFile);
+        stCompared.lstNewFile = std::move(stNewMade.lstFile);
+        return stCompared;
     }
 
     void tellRegistry(const StRegisteredType& stType, bool bGained)
@@ -193,6 +246,7 @@ private:
     UnreadModules  m_mapMended;      // the old side could not
 
     std::map<std::string, std::string> m_mapRename; // of registry entries
+    std::map<std::string, StCompared>  m_mapShared; // by sharedKey()
 };
 
 void requireConfiguration(const catalog::StTypeCatalog& stFile, const std::string& strFile)
