@@ -412,13 +412,15 @@ ElementList& CXmlParser::elementsNamed(const XMLCh* pszName)
 void CXmlParser::docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData)
 {
     checkContent(nLength);
-    XercesDOMParser::docCharacters(pszText, nLength, bIsCData);
+    if (keepsTexts())
+        XercesDOMParser::docCharacters(pszText, nLength, bIsCData);
 }
 
 void CXmlParser::docComment(const XMLCh* pszText)
 {
     checkContent(XMLString::stringLen(pszText));
-    XercesDOMParser::docComment(pszText);
+    if (keepsTexts())
+        XercesDOMParser::docComment(pszText);
 }
 
 void CXmlParser::docPI(const XMLCh* pszTarget, const XMLCh* pszData)

@@ -53,6 +53,13 @@ public:
 
     // For a parser that is used for file after file.
     using CParserMemory::bytesHeld;
+
+    // From now on documents get no nodes for texts between elements and for comments:
+    // for those who read elements and attributes alone. Limits and problems stay the
+    // same. Every other node of a configuration file is a text, and making one costs
+    // as much as making an element.
+    void leaveOutTexts() { m_bKeepsTexts = false; }
+
     using CParserMemory::keepBlocks;
 
     // Why there is no document, and where in which file; not set after a good parse.
@@ -120,6 +127,7 @@ private:
     [[noreturn]] void refuse(const std::string& strText);
     void              openElement();
     ElementList&      elementsNamed(const XMLCh* pszName);
+    bool              keepsTexts() const { return m_bKeepsTexts || !m_bIsReading; }
     void              checkContent(std::size_t nCharacters);
     void              checkProgress();
 
@@ -132,6 +140,7 @@ private:
 
     // While parseText reads.
     CNestingCheck m_oNesting;
+    bool          m_bKeepsTexts     = true;
     bool          m_bIsReading      = false;
     bool          m_bInEmptyElement = false;
     bool          m_bInDocType      = false;

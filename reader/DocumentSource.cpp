@@ -6,8 +6,10 @@ void CDocumentSource::parse(const std::string&           strFile, EnConfigSource
 {
     if (pParser == nullptr || pParser.use_count() > 1)
         pParser = CXmlParser::create();
-    if (pParser != nullptr)
-        pParser->parseFile(strFile);
+    if (pParser == nullptr)
+        return;
+    pParser->leaveOutTexts(); // no section reads any
+    pParser->parseFile(strFile);
 }
 
 CDocumentSource& CDocumentSource::plain()

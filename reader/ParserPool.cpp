@@ -20,8 +20,10 @@ std::shared_ptr<CXmlParser> CParserPool::take()
         }
     }
     std::shared_ptr<CXmlParser> pParser = CXmlParser::create();
-    if (pParser != nullptr)
-        pParser->keepBlocks();
+    if (pParser == nullptr)
+        return nullptr;
+    pParser->keepBlocks();
+    pParser->leaveOutTexts();
     return pParser;
 }
 

@@ -214,17 +214,34 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
         {"ReadOnce", "<SubItem>" + strMost + strMost + "</SubItem>", ""},
     };
     // clang-format on
-    const auto pParser = CXmlParser::create();
+    const auto pParser   = CXmlParser::create();
+    const auto pTextless = CXmlParser::create();
+    pTextless->leaveOutTexts();
     for (const auto& stCase : CASES)
     {
         SCOPED_TRACE(stCase.pszName);
         pParser->parseText(stCase.strXml);
+        pTextless->parseText(stCase.strXml);
+        EXPECT_EQ(problemText(pParser->problem()), problemText(pTextless->problem()));
         EXPECT_EQ(stCase.strProblem, pParser->problem().strText);
         EXPECT_EQ(stCase.strProblem.empty(), pParser->problem().ulLine == 0);
         EXPECT_EQ(stCase.strProblem.empty(), pParser->getDocument() != nullptr);
     }
     pParser->parseText(fnExpansions(MAX_ENTITY_EXPANSION + 1));
     EXPECT_EQ(nullptr, pParser->getDocument());
+}
+
+TEST(XmlParserTest, LeavesOutTextsAndNothingElse)
+{
+    const auto pParser = CXmlParser::create();
+    pParser->leaveOutTexts();
+    pParser->parseText("<a>\n <b c='x'> t <!-- d --><![CDATA[e]]><f/></b>\n</a>");
+    const xercesc::DOMNode* pB = pParser->getDocument()->getDocumentElement()->getFirstChild();
+    EXPECT_EQ(pParser->elements(u"b").front(), pB);
+    EXPECT_EQ(nullptr, pB->getNextSibling());
+    EXPECT_EQ(pParser->elements(u"f").front(), pB->getFirstChild());
+    EXPECT_EQ(nullptr, pB->getFirstChild()->getNextSibling());
+    EXPECT_EQ("x", attrText(CAttributes(*pParser->elements(u"b").front()), u"c"));
 }
 
 // Blocks of one document become the next one's, whichever of them is the larger.
