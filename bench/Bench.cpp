@@ -26,6 +26,7 @@ int run(int nArguments, char** ppszArguments)
     const CWorkFolder oFolder;
     xercesc::XMLPlatformUtils::Initialize();
     addLoadBenchmarks();
+    addThreadBenchmarks();
     addGrowthBenchmarks();
     addAlarmBenchmarks();
     addToolBenchmarks();

@@ -11,6 +11,7 @@
 #include <malloc.h>
 #include <sstream>
 #include <stdexcept>
+#include <stdlib.h>
 
 namespace
 {
@@ -27,12 +28,15 @@ double statusMegabytes(const std::string& strName)
 }
 } // namespace
 
-StLoadProbe probeLoad(const std::filesystem::path& oRoot)
+StLoadProbe probeLoad(const std::filesystem::path& oRoot, unsigned uThreads)
 {
+    ::setenv("OPERATIONXML_LOAD_THREADS", std::to_string(uThreads).c_str(),
+             1); // one thread. NOLINT(concurrency-mt-unsafe)
     const StChild      stChild = runChild({"/proc/self/exe", "--probe", oRoot.string()});
     std::istringstream oFigures(stChild.strOutput);
     StLoadProbe        stProbe;
-    if (stChild.nExit != 0 || !(oFigures >> stProbe.dCpu >> stProbe.dWall >> stProbe.dHeld >> stProbe.dPeak))
+    if (stChild.nExit != 0 ||
+        !(oFigures >> stProbe.dCpu >> stProbe.dUser >> stProbe.dWall >> stProbe.dHeld >> stProbe.dPeak))
         throw std::runtime_error("the load of " + oRoot.string() + " failed");
     return stProbe;
 }
@@ -43,16 +47,18 @@ int runLoadProbe(const std::filesystem::path& oRoot)
     std::ofstream("/proc/self/clear_refs") << "5"; // the peak starts anew: opening the root is no part of the load
     const double        dBefore = statusMegabytes("VmRSS");
     const double        dCpu    = cpuSeconds();
+    const double        dUser   = userSeconds();
     const auto          oStart  = std::chrono::steady_clock::now();
     CXMLConfigDatabase* pLoaded = CXMLConfigDatabase::getInstance();
 
-    const std::chrono::duration<double> oWall  = std::chrono::steady_clock::now() - oStart;
-    const double                        dTook  = cpuSeconds() - dCpu;
-    const double                        dAfter = statusMegabytes("VmRSS");
-    const double                        dPeak  = statusMegabytes("VmHWM");
+    const std::chrono::duration<double> oWall     = std::chrono::steady_clock::now() - oStart;
+    const double                        dTook     = cpuSeconds() - dCpu;
+    const double                        dTookUser = userSeconds() - dUser;
+    const double                        dAfter    = statusMegabytes("VmRSS");
+    const double                        dPeak     = statusMegabytes("VmHWM");
     ::malloc_trim(0); // what is free but not given back is part of the peak, not of what is held
     const double dInUse = statusMegabytes("VmRSS");
-    std::printf("%.6f %.6f %.3f %.3f\n", dTook, oWall.count(), dAfter - dBefore, dPeak - dInUse);
+    std::printf("%.6f %.6f %.6f %.3f %.3f\n", dTook, dTookUser, oWall.count(), dAfter - dBefore, dPeak - dInUse);
     for (const StDevTypeLoad& stLoad : pLoaded->getLoadReport().lstDevType)
     {
         if (stLoad.ulResult != 0)

@@ -6,6 +6,7 @@
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
 #include <algorithm>
+#include <chrono>
 #include <ctime>
 #include <fcntl.h>
 #include <fstream>
@@ -29,6 +30,13 @@ double cpuSeconds()
     timespec stNow = {};
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &stNow);
     return static_cast<double>(stNow.tv_sec) + static_cast<double>(stNow.tv_nsec) / 1e9;
+}
+
+double userSeconds()
+{
+    rusage stUsage = {};
+    ::getrusage(RUSAGE_SELF, &stUsage);
+    return seconds(stUsage.ru_utime);
 }
 
 double median(std::vector<double> lstValue)
@@ -89,14 +97,16 @@ StChild runChild(const std::vector<std::string>& lstArgument)
     for (const std::string& strArgument : lstArgument)
         lstPointer.push_back(const_cast<char*>(strArgument.c_str()));
     lstPointer.push_back(nullptr);
-    pid_t     nChild = 0;
-    const int nError = ::posix_spawn(&nChild, lstPointer[0], &stActions, nullptr, lstPointer.data(), environ);
+    const auto oStart = std::chrono::steady_clock::now();
+    pid_t      nChild = 0;
+    const int  nError = ::posix_spawn(&nChild, lstPointer[0], &stActions, nullptr, lstPointer.data(), environ);
     ::posix_spawn_file_actions_destroy(&stActions);
     int    nStatus = 0;
     rusage stUsage = {};
     if (nError != 0 || ::wait4(nChild, &nStatus, 0, &stUsage) != nChild || !WIFEXITED(nStatus))
         throw std::runtime_error("cannot run " + lstArgument[0]);
-    std::ifstream oOutput(strOutput, std::ios::binary);
-    return {WEXITSTATUS(nStatus), seconds(stUsage.ru_utime) + seconds(stUsage.ru_stime),
+    const std::chrono::duration<double> oWall = std::chrono::steady_clock::now() - oStart;
+    std::ifstream                       oOutput(strOutput, std::ios::binary);
+    return {WEXITSTATUS(nStatus), seconds(stUsage.ru_utime) + seconds(stUsage.ru_stime), oWall.count(),
             std::string(std::istreambuf_iterator<char>(oOutput), {})};
 }

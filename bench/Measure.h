@@ -1,6 +1,6 @@
 // How the benchmarks measure: CPU seconds of this process or of a child, the
 // alternating comparison of two ways, and the bare parse that the load is
-// compared with. One thread only.
+// compared with. One thread only; a load with more is a child.
 #ifndef OPERATIONXML_BENCH_MEASURE_H
 #define OPERATIONXML_BENCH_MEASURE_H
 
@@ -12,8 +12,9 @@
 
 constexpr int ROUNDS = 7;
 
-// What this process has used so far, user and system.
+// What this process has used so far, user and system, and user alone.
 double cpuSeconds();
+double userSeconds();
 
 double median(std::vector<double> lstValue);
 
@@ -40,6 +41,7 @@ struct StChild
 {
     int         nExit = -1;
     double      dCpu  = 0; // user and system
+    double      dWall = 0;
     std::string strOutput;
 };
 

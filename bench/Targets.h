@@ -29,6 +29,7 @@ benchmark::internal::Benchmark* measureOnce(const char* pszName, void (*fnMeasur
 
 // One group of benchmarks each; they register what they measure.
 void addLoadBenchmarks();
+void addThreadBenchmarks();
 void addGrowthBenchmarks();
 void addAlarmBenchmarks();
 void addToolBenchmarks();

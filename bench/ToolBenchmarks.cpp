@@ -3,6 +3,9 @@
 #include "Roots.h"
 #include "Targets.h"
 
+#include "ConfigText.h"
+#include "ServerRootText.h"
+
 #include <fmt/format.h>
 
 #include <fstream>
@@ -12,11 +15,14 @@ namespace
 {
 constexpr std::size_t QUESTIONS = 1000000;
 
-constexpr StTarget BATCH_TARGET = {"batch", "questions a second of `opxml query --batch`, example server, one core",
-                                   "≥ 200,000", 200000, true};
-constexpr StTarget START_TARGET = {"start of the tool", "`opxml query` ÷ `opxml load`, example server", "≤ 2", 2};
-constexpr StTarget ROOT_TARGET  = {"start without a load",
-                                   "which of `opxml --help` and `opxml filecheck` want a server root", "none", 0};
+constexpr StTarget BATCH_TARGET    = {"batch", "questions a second of `opxml query --batch`, example server, one core",
+                                      "≥ 200,000", 200000, true};
+constexpr StTarget START_TARGET    = {"start of the tool", "`opxml query` ÷ `opxml load`, example server", "≤ 2", 2};
+constexpr StTarget QUESTION_TARGET = {
+    "one question in a large root", "elapsed of `opxml query isDeviceOpSupported …` on 10,000 types", "≤ 0.25 s", 0.25};
+constexpr StTarget SHARE_TARGET = {"the same against a load", "÷ elapsed of `opxml load`, two threads", "≤ 2 %", 0.02};
+constexpr StTarget ROOT_TARGET = {"start without a load",
+                                  "which of `opxml --help` and `opxml filecheck` want a server root", "none", 0};
 
 const std::string EXAMPLE_SERVER = EXAMPLE_FOLDER "/server";
 
@@ -75,6 +81,22 @@ void measureStart(benchmark::State& oState)
                        stComparison.dOther * 1e3));
 }
 
+void measureQuestion(benchmark::State& oState)
+{
+    constexpr std::size_t TYPES   = 10000;
+    const std::string     strRoot = rootOf(TYPES).string();
+    std::vector<double>   lstWall;
+    for (std::size_t nType = 0; nType < ROUNDS; ++nType) // one anywhere among them
+        lstWall.push_back(runChild({OPXML_PROGRAM, "--root", strRoot, "query", "isDeviceOpSupported",
+                                    deviceTypeName(nType * TYPES / ROUNDS), TYPE_VERSION, "Backup"})
+                              .dWall);
+    const double dWall = median(lstWall);
+    const double dLoad = runChild({OPXML_PROGRAM, "--root", strRoot, "--jobs", "2", "load"}).dWall;
+    oState.SetIterationTime(dWall);
+    answer(oState, QUESTION_TARGET, dWall, fmt::format("{:.3f} s", dWall));
+    answer(oState, SHARE_TARGET, dWall / dLoad, fmt::format("{:.1f} % ({:.1f} s)", dWall / dLoad * 100, dLoad));
+}
+
 // A command that loads nothing does not miss the root either.
 void measureNoRoot(benchmark::State& oState)
 {
@@ -101,5 +123,6 @@ void addToolBenchmarks()
 {
     measureOnce("tool/batch", measureBatch, {BATCH_TARGET});
     measureOnce("tool/start", measureStart, {START_TARGET});
+    measureOnce("tool/question", measureQuestion, {QUESTION_TARGET, SHARE_TARGET});
     measureOnce("tool/no-load", measureNoRoot, {ROOT_TARGET});
 }
