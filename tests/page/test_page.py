@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # The page of opxml report in a browser: what it shows against what opxml answers, and
 # what people do with it. scripts/test-page runs it.
-#   test_page.py OPXML EXAMPLE-SERVER [--screenshots DIR]
+#   test_page.py OPXML EXAMPLE-SERVER [--screenshots DIR | --figures PAGE]
 import argparse
 import json
 import os
@@ -15,6 +15,7 @@ sys.path[:0] = [HERE, os.path.join(HERE, "../cli")]
 
 from agreement import offered, said, show_lines
 from browser import Browser
+from figures import print_figures
 from roots import HOSTILE_DEVICE, HOSTILE_OPERATION, HOSTILE_TYPE, Tool, earlier_root, hostile_root
 from screenshots import take_screenshots
 from selenium.webdriver.common.keys import Keys
@@ -388,6 +389,7 @@ def main():
     parser.add_argument("opxml", type=os.path.abspath)
     parser.add_argument("server", type=os.path.abspath)
     parser.add_argument("--screenshots", type=os.path.abspath)
+    parser.add_argument("--figures", type=os.path.abspath)
     arguments = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
         PageTest.tool = Tool(arguments.opxml, folder)
@@ -396,6 +398,9 @@ def main():
         try:
             if arguments.screenshots:
                 take_screenshots(PageTest.browser, PageTest.tool, PageTest.server, arguments.screenshots)
+                return 0
+            if arguments.figures:
+                print_figures(PageTest.browser, arguments.figures)
                 return 0
             result = unittest.main(argv=sys.argv[:1], exit=False, verbosity=1).result
             return 0 if result.wasSuccessful() else 1

@@ -33,22 +33,25 @@ export function sign(code) {
 
 export const CHANGE_MARKS = { gain: "+", loss: "−", change: "≠" };
 
-export function fillCell(cell, row, column) {
-  const code = cellAt(row, column.at);
-  const change = row.changes?.get(column.at);
+function newCell(code, change) {
+  const cell = make("td");
   if (code !== NOTHING) cell.append(sign(code));
   if (change) {
     cell.classList.add(change);
     cell.append(make("span", { class: "mark", text: CHANGE_MARKS[change] }));
   }
   cell.setAttribute("aria-label", change ? `${cellWords(code)}, ${change}` : cellWords(code));
+  return cell;
 }
 
-export function bodyCell(row, rowAt, column, columnAt) {
-  const cell = make("td", { "aria-colindex": columnAt + 2, tabindex: "-1" });
-  cell.dataset.at = `${rowAt} ${columnAt}`;
-  fillCell(cell, row, column);
-  return cell;
+const newCells = new Map(); // there are few that differ, and very many of them
+
+export function makeCell(row, column) {
+  const code = cellAt(row, column.at);
+  const change = row.changes?.get(column.at);
+  const key = change ? `${code} ${change}` : code;
+  if (!newCells.has(key)) newCells.set(key, newCell(code, change));
+  return newCells.get(key).cloneNode(true);
 }
 
 export function rowHeading(row, rowAt) {

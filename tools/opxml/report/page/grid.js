@@ -3,13 +3,13 @@
 import { sortColumn } from "./choose.js";
 import { go, view } from "./view.js";
 import { byId, make } from "./dom.js";
-import { bodyCell, columnHeading, kindTitles, rowHeading } from "./cells.js";
+import { columnHeading, kindTitles, makeCell, rowHeading } from "./cells.js";
 
 const ROW_HEIGHT = 40; // as in matrix.css
 const COLUMN_WIDTH = 34;
 const SHOWN_WHOLE = 6000; // cells: a small matrix is all there
 const ROOM_FOR_TITLE = 5; // columns: where a kind has less, its word stands at each column
-const MARGIN = 8; // rows and columns beyond what is in sight
+const MARGIN = 8; // rows and columns beyond what is in sight; drawn anew when so many have passed
 
 let rows = [];
 let columns = [];
@@ -19,8 +19,9 @@ let focused = { row: 0, column: -1 }; // column -1: the heading of the row; row 
 // ---- The part of the grid that is in sight ----
 
 function inSight(first, length, total) {
-  const begin = Math.max(0, Math.floor(first) - MARGIN);
-  return [begin, Math.min(total, Math.ceil(first + length) + MARGIN)];
+  const begin = (Math.floor(first / MARGIN) - 1) * MARGIN;
+  const end = (Math.ceil((first + length) / MARGIN) + 1) * MARGIN;
+  return [Math.max(0, begin), Math.min(total, end)];
 }
 
 // [first row, end, first column, end]
@@ -93,13 +94,16 @@ function bodyRow(row, at, first, end) {
   const cells = [rowHeading(row, at)];
   if (first > 0) cells.push(gapCell());
   for (let column = first; column < end; column++) {
-    const cell = bodyCell(row, at, columns[column], column);
+    const cell = makeCell(row, columns[column]);
+    cell.tabIndex = -1;
+    cell.dataset.at = `${at} ${column}`;
+    cell.setAttribute("aria-colindex", column + 2);
     if (beginsKind(column)) cell.classList.add("first");
     cells.push(cell);
   }
   if (end < columns.length) cells.push(gapCell());
   const line = make("tr", { "aria-rowindex": at + 3 }, ...cells);
-  if (row.name === view.row) line.setAttribute("aria-selected", "true");
+  line.setAttribute("aria-selected", row.name === view.row);
   if (row.problem && row.columns.length === 0) line.classList.add("empty");
   return line;
 }
@@ -228,6 +232,15 @@ export function fillGrid(shownRows, shownColumns) {
   byId("grid").setAttribute("aria-rowcount", rows.length + 2);
   byId("grid").setAttribute("aria-colcount", columns.length + 1);
   draw(false);
+}
+
+// The same rows and columns; another type may be chosen, or another part be in sight.
+export function refreshGrid() {
+  draw(true);
+  for (const line of byId("grid").tBodies[0].querySelectorAll("tr:not(.gap)")) {
+    const [at] = line.cells[0].dataset.at.split(" ");
+    line.setAttribute("aria-selected", rows[at].name === view.row);
+  }
 }
 
 export function startGrid() {

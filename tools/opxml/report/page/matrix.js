@@ -4,13 +4,22 @@ import { page } from "./data.js";
 import { view } from "./view.js";
 import { byId, make } from "./dom.js";
 import { CHANGE_MARKS, sign } from "./cells.js";
-import { fillGrid, startGrid } from "./grid.js";
+import { fillGrid, refreshGrid, startGrid } from "./grid.js";
 import { showFilters, startFilters, tellCount } from "./filters.js";
 import { fillPaper } from "./paper.js";
 
 let chosen = { rows: [], columns: [] };
+let chosenBy = "";
+
+const FILTERS = ["types", "operations", "lacks", "sort", "differences", "failed", "changed"];
 
 export function showMatrix() {
+  const wanted = JSON.stringify([...FILTERS.map((name) => view[name]), ...view.kinds]);
+  if (wanted === chosenBy) {
+    refreshGrid();
+    return;
+  }
+  chosenBy = wanted;
   showFilters();
   const rows = chooseRows(view);
   const columns = chooseColumns(view, rows);
