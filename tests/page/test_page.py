@@ -376,6 +376,17 @@ class ForEverybodyTest(PageTest):
         self.browser.run("dispatchEvent(new Event('afterprint'))")
         self.assertGreater(len(self.browser.print()), 10000)
 
+    # A root with nothing in it, alone and beside one that has something.
+    def test_shows_nothing_as_nothing(self):
+        bare = os.path.join(self.tool.folder, "bare")
+        os.makedirs(bare)
+        with open(os.path.join(bare, "server.sql"), "w", encoding="utf-8") as file:
+            file.write("\n")
+        for page in (self.tool.page(bare), self.tool.page(bare, "--compare", self.server), self.tool.page(self.server, "--compare", bare)):
+            for view in ("", "#view=health", "#view=comparison", "#changed=1&differences=1"):
+                self.open(view, page)
+                self.assertEqual([], self.browser.violations(), view)
+
     def test_says_what_was_left_out(self):
         page = self.tool.page(self.server, "--no-details", "--no-lint")
         self.open("#row=SW-100+S4", page)

@@ -7,7 +7,7 @@ import { kindTitles } from "./cells.js";
 
 function readFilters() {
   const form = byId("filters");
-  const kinds = [...form.elements.kind].filter((box) => box.checked).map((box) => box.value);
+  const kinds = [...form.querySelectorAll("[name=kind]")].filter((box) => box.checked).map((box) => box.value);
   go({
     types: form.elements.types.value,
     operations: form.elements.operations.value,
@@ -29,7 +29,7 @@ export function showFilters() {
   const option = elements.sort.querySelector("[value=column]");
   option.hidden = !sortColumn(view.sort);
   option.textContent = sortColumn(view.sort)?.column.name ?? "a column";
-  for (const box of elements.kind) box.checked = view.kinds.has(box.value);
+  for (const box of byId("kinds").querySelectorAll("input")) box.checked = view.kinds.has(box.value);
   const isUnknown = view.lacks !== "" && !findColumn(view.lacks);
   elements.lacks.setAttribute("aria-invalid", isUnknown);
 }
