@@ -6,6 +6,7 @@
 #include "tools/opxml/catalog/EntryWalk.h"
 #include "tools/opxml/diff/EntryPairs.h"
 #include "tools/opxml/diff/EntryRules.h"
+#include "tools/opxml/diff/OptionNumbers.h"
 #include "tools/opxml/diff/Renames.h"
 #include "tools/opxml/output/Sections.h"
 
@@ -197,50 +198,22 @@ private:
     // there with that number.
     void compareFirstOfNumber(const catalog::StEntry& stOld, const catalog::StEntry& stNew)
     {
-        const auto mapOld = firstOfNumber(stOld);
-        const auto mapNew = firstOfNumber(stNew);
-        for (const auto& [strNumber, pOld] : mapOld)
+        const COptionNumbers oOld(stOld);
+        const COptionNumbers oNew(stNew);
+        for (const auto& [strNumber, pOld] : oOld.first())
         {
-            const auto itNew = mapNew.find(strNumber);
-            if (itNew == mapNew.end() || itNew->second->strId == pOld->strId ||
-                !hasOption(stNew, pOld->strId, strNumber) || !hasOption(stOld, itNew->second->strId, strNumber))
+            const auto itNew = oNew.first().find(strNumber);
+            if (itNew == oNew.first().end() || itNew->second->strId == pOld->strId ||
+                !oNew.has(pOld->strId, strNumber) || !oOld.has(itNew->second->strId, strNumber))
                 continue;
             StEntryChange& stChange    = add(stOld, EnChange::Changed, "number-reread");
             stChange.stChange.strPath  = pathText(m_lstPath);
-            stChange.stChange.strField = "name of " + strNumber;
+            stChange.stChange.strField = "name of " + std::string(strNumber);
             stChange.stChange.strOld   = pOld->strId;
             stChange.stChange.strNew   = itNew->second->strId;
             stChange.stOld             = pOld->stPlace;
             stChange.stNew             = itNew->second->stPlace;
         }
-    }
-
-    static std::string numberOf(const catalog::StEntry& stOption)
-    {
-        const catalog::StField* pNumber = stOption.field("ulValue");
-        return pNumber == nullptr ? std::string() : pNumber->strValue;
-    }
-
-    std::map<std::string, const catalog::StEntry*> firstOfNumber(const catalog::StEntry& stParameter) const
-    {
-        std::map<std::string, const catalog::StEntry*> mapFirst;
-        for (const catalog::StEntry* pOption : entriesOf(stParameter.lstChild, catalog::EnEntryFate::Counts))
-        {
-            if (kindOf(m_nRow, *pOption).enKind == EnEntryKind::Option)
-                mapFirst.emplace(numberOf(*pOption), pOption);
-        }
-        return mapFirst;
-    }
-
-    static bool hasOption(const catalog::StEntry& stParameter, const std::string& strId, const std::string& strNumber)
-    {
-        const auto& lstOption = stParameter.lstChild;
-        return std::any_of(lstOption.begin(), lstOption.end(),
-                           [&](const catalog::StEntry& stOption)
-                           {
-                               return stOption.enFate == catalog::EnEntryFate::Counts && stOption.strId == strId &&
-                                      numberOf(stOption) == strNumber;
-                           });
     }
 
     // Whether the lists at hand are what the list of content types is made of.

@@ -2,6 +2,7 @@
 #include "tools/opxml/diff/Renames.h"
 
 #include "lint/Nearness.h"
+#include "tools/opxml/diff/OptionNumbers.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,10 +15,8 @@ constexpr std::size_t COMPARED = 200; // of each list: where more went or came, 
 // An option of the same number, or the same but for the id with something in it.
 bool isTwin(const catalog::StEntry& stLost, const catalog::StEntry& stGained)
 {
-    const catalog::StField* pWas = stLost.field("ulValue");
-    const catalog::StField* pIs  = stGained.field("ulValue");
-    if (pWas != nullptr && pIs != nullptr)
-        return pWas->strValue == pIs->strValue;
+    if (!numberOf(stLost).empty())
+        return numberOf(stLost) == numberOf(stGained);
     return !stLost.lstChild.empty() && isSameButForId(stLost, stGained);
 }
 

@@ -1,15 +1,12 @@
 // See RootDiff.h.
 #include "tools/opxml/diff/RootDiff.h"
 
-#include "catalog/FileCatalog.h"
 #include "common/ReadProblem.h"
-#include "lint/Nearness.h"
+#include "tools/opxml/diff/ComparedTypes.h"
 #include "tools/opxml/diff/DiffCollector.h"
 #include "tools/opxml/diff/HurtDevices.h"
 #include "tools/opxml/diff/SameFiles.h"
 #include "tools/opxml/diff/ServerSide.h"
-#include "tools/opxml/output/Exit.h"
-#include "tools/opxml/output/Names.h"
 #include "tools/opxml/output/Progress.h"
 
 #include <algorithm>
@@ -18,67 +15,6 @@
 
 namespace
 {
-// Registry entries of one side that the other does not have.
-std::vector<StRegisteredType> missingIn(const CServerSide& oOther, const CServerSide& oSide)
-{
-    std::vector<StRegisteredType> lstType;
-    std::copy_if(oSide.types().begin(), oSide.types().end(), std::back_inserter(lstType),
-                 [&oOther](const StRegisteredType& stName) { return oOther.find(stName) == nullptr; });
-    return lstType;
-}
-
-// Of both registries: those of the old one, then those that the new one has beside them.
-std::vector<StRegisteredType> allTypes(const CServerSide& oOld, const CServerSide& oNew)
-{
-    std::vector<StRegisteredType>       lstType = oOld.types();
-    const std::vector<StRegisteredType> lstNew  = missingIn(oOld, oNew);
-    lstType.insert(lstType.end(), lstNew.begin(), lstNew.end());
-    return lstType;
-}
-
-std::vector<StRegisteredType> wantedTypes(const std::vector<StRegisteredType>& lstType,
-                                          const std::vector<std::string>&      lstWanted)
-{
-    if (lstWanted.empty())
-        return lstType;
-    std::vector<StRegisteredType> lstNamed;
-    for (const std::string& strWanted : lstWanted)
-    {
-        const std::vector<StRegisteredType> lstOf = typesNamed(lstType, strWanted);
-        if (lstOf.empty())
-            throw CTrouble("no device type \"" + strWanted + "\"" + nearestNames(strWanted, namesOf(lstType)));
-        lstNamed.insert(lstNamed.end(), lstOf.begin(), lstOf.end());
-    }
-    return lstNamed;
-}
-
-std::string nameOf(const StRegisteredType& stType)
-{
-    return stType.strDevType + " " + stType.strDevTypeVer;
-}
-
-// What an entry that went may be called now, and the other way round: another version of
-// the type, or a type spelt nearly alike. Each is taken once.
-std::map<std::string, std::string> typeRenames(const std::vector<StRegisteredType>& lstLost,
-                                               std::vector<StRegisteredType>        lstGained)
-{
-    std::map<std::string, std::string> mapRename;
-    for (const StRegisteredType& stLost : lstLost)
-    {
-        std::string strName = stLost.strDevType;
-        const auto  fnIsIt  = [&strName](const StRegisteredType& stGained) { return stGained.strDevType == strName; };
-        if (std::none_of(lstGained.begin(), lstGained.end(), fnIsIt))
-            strName = lint::nearestName(strName, namesOf(lstGained));
-        const auto itGained = std::find_if(lstGained.begin(), lstGained.end(), fnIsIt);
-        if (itGained == lstGained.end())
-            continue;
-        mapRename[nameOf(stLost)]    = nameOf(*itGained);
-        mapRename[nameOf(*itGained)] = nameOf(stLost);
-        lstGained.erase(itGained);
-    }
-    return mapRename;
-}
-
 constexpr std::size_t SHARED_KEPT = 16;
 
 class CRootDiff
@@ -88,12 +24,12 @@ public:
     {
         m_mapNewlyBroken = unreadModules(m_oOld, m_oNew, m_stPassedOver.setOldModule);
         m_mapMended      = unreadModules(m_oNew, m_oOld, m_stPassedOver.setNewModule);
-        m_mapRename      = typeRenames(missingIn(m_oNew, m_oOld), missingIn(m_oOld, m_oNew));
+        m_mapRename      = typeRenames(m_oOld, m_oNew);
     }
 
     StDiff run(const std::vector<std::string>& lstWanted)
     {
-        const std::vector<StRegisteredType> lstType = wantedTypes(allTypes(m_oOld, m_oNew), lstWanted);
+        const std::vector<StRegisteredType> lstType = comparedTypes(m_oOld, m_oNew, lstWanted);
         {
             CProgress oProgress(lstType.size(), CProgress::EnSteps::Told);
             for (const StRegisteredType& stName : lstType)
@@ -212,7 +148,7 @@ private:
         StTypeChange stChange;
         stChange.stEntryChange.stChange.pRule  = &diffRule(bGained ? "type-gained" : "type-lost");
         stChange.stEntryChange.stChange.enWhat = bGained ? EnChange::Gained : EnChange::Lost;
-        const auto itRename                    = m_mapRename.find(nameOf(stType));
+        const auto itRename                    = m_mapRename.find(fullName(stType));
         if (itRename != m_mapRename.end())
             stChange.stEntryChange.stChange.strRename = itRename->second;
         m_oCollector.add(stType, {stChange}, {}, {});
@@ -249,32 +185,10 @@ private:
     std::map<std::string, StCompared>  m_mapShared; // by sharedKey()
 };
 
-void requireConfiguration(const catalog::StTypeCatalog& stFile, const std::string& strFile)
-{
-    const auto fnFilled = [](const catalog::StSection& stSection) { return !stSection.lstEntry.empty(); };
-    if (!stFile.lstConfiguration.empty() && std::none_of(stFile.lstConfiguration[0].lstSection.begin(),
-                                                         stFile.lstConfiguration[0].lstSection.end(), fnFilled))
-        throw CTrouble(strFile + ": nothing of a configuration stands in it");
-}
 } // namespace
 
 StDiff diffRoots(const std::string& strOldRoot, const std::string& strNewRoot,
                  const std::vector<std::string>& lstWanted)
 {
     return CRootDiff(strOldRoot, strNewRoot).run(lstWanted);
-}
-
-StDiff diffFiles(const std::string& strOldFile, const std::string& strNewFile)
-{
-    const catalog::StTypeCatalog stOld = catalog::makeFileCatalog(strOldFile);
-    const catalog::StTypeCatalog stNew = catalog::makeFileCatalog(strNewFile);
-    requireConfiguration(stOld, strOldFile);
-    requireConfiguration(stNew, strNewFile);
-    if (stOld.lstConfiguration.empty() && stNew.lstConfiguration.empty())
-        throw CTrouble("neither file can be read: " + whyNotRead(stOld) + "; " + whyNotRead(stNew));
-    CDiffCollector oCollector;
-    oCollector.add({}, diffTypes(stOld, stNew, {}), stOld.lstFile, stNew.lstFile);
-    StDiff stDiff = oCollector.take();
-    stDiff.nTypes = 1;
-    return stDiff;
 }

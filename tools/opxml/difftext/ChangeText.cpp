@@ -7,6 +7,7 @@
 
 #include <set>
 #include <string_view>
+#include <utility>
 
 namespace
 {
@@ -85,20 +86,18 @@ std::string siteText(const StDiff& stDiff, const StDiffSite& stSite)
 
 std::string typesText(const StDiff& stDiff, const std::vector<StDiffSite>& lstSite)
 {
-    std::string        strText;
-    const StDiffSite*  pBefore = nullptr;
-    const std::string* pType   = nullptr; // of the one before
+    std::string                                       strText;
+    std::set<std::pair<std::uint32_t, std::uint32_t>> setTold;
+    const std::string*                                pType = nullptr; // of the one before
     for (const StDiffSite& stSite : lstSite)
     {
         const StRegisteredType& stType = stDiff.lstType[stSite.ulType];
-        if (stType.strDevType.empty() ||
-            (pBefore != nullptr && pBefore->ulType == stSite.ulType && pBefore->ulSoftware == stSite.ulSoftware))
+        if (stType.strDevType.empty() || !setTold.insert({stSite.ulType, stSite.ulSoftware}).second)
             continue;
         if (pType != nullptr && *pType == stType.strDevType)
             strText += ", " + stType.strDevTypeVer;
         else
             strText += (pType == nullptr ? "" : "; ") + stType.strDevType + " " + stType.strDevTypeVer;
-        pBefore                        = &stSite;
         pType                          = &stType.strDevType;
         const std::string& strSoftware = stDiff.lstSoftware[stSite.ulSoftware];
         if (!strSoftware.empty())
@@ -138,7 +137,7 @@ std::string impactsText(const StDiff& stDiff)
 
 std::string deviceText(const StHurtDevice& stDevice)
 {
-    return fmt::format("{} {}{}, {} {}", stDevice.ulDeviceID, stDevice.strName,
+    return fmt::format("{}{}{}{}, {} {}", stDevice.ulDeviceID, stDevice.strName.empty() ? "" : " ", stDevice.strName,
                        stDevice.strAddress.empty() ? "" : " (" + stDevice.strAddress + ")", stDevice.strDevType,
                        stDevice.strDevTypeVer);
 }

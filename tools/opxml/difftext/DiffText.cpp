@@ -68,7 +68,7 @@ std::string sitesText(const StDiff& stDiff, const StChange& stChange)
         lstOther.insert(lstOther.end(), lstPlace[nAt].begin(), lstPlace[nAt].end());
     const std::string strOther = typesText(stDiff, lstOther);
     if (!strOther.empty())
-        strText += wrapped(fmt::format("  and {} more: {}", countTypes(lstOther), strOther), 6);
+        strText += wrapped("  and " + countText(lstPlace.size() - nPlaced, "more place") + ": " + strOther, 6);
     return strText;
 }
 
