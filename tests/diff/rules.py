@@ -39,9 +39,13 @@ def side(*bodies, sql="", **files):
                                                     for name, text in files.items()}}
 
 
-def capacity(*versions):
-    return side(sql=CAPACITY + "".join(SERVICE.format(version) for version in versions), Common_ServerConfiguration=f"<C>{SAVE}</C>",
-                **{f"Q_{version}_ServerConfiguration": '<C><upgradecapacity sysoid="1.2"/></C>' for version in versions})
+# A capacity type with these versions in service, some of which deny the operation.
+def capacity(*versions, denied=()):
+    deny = '<Operation id="Save" isSupported="0"/>'
+    documents = {f"Q_{version}_ServerConfiguration": f'<C><upgradecapacity sysoid="1.2">{deny * (version in denied)}</upgradecapacity></C>'
+                 for version in versions}
+    return side(sql=CAPACITY + "".join(SERVICE.format(version) for version in versions),
+                Common_ServerConfiguration=f"<C>{SAVE}</C>", **documents)
 
 
 # Rule, old, new, and the mirror's rule where it is another one.
@@ -51,6 +55,8 @@ ROWS = (
     ("cannot-be-read", side(SAVE, module=MODULE + "</C>"), side(SAVE, module=MODULE), "can-be-read"),
     ("version-lost", capacity("1", "2"), capacity("2"), "version-gained"),
     ("operation-lost", SAVE, "", "operation-gained"),
+    ("operation-lost", capacity("1", "2"), capacity("1", "2", denied="2"), "operation-gained"),
+    ("operation-lost", capacity("2", "1", denied="1"), capacity("1", "2", denied="1"), "operation-gained"), # the first version answers
     ("operation-lost", CUSTOM.format("", ""), "", "operation-gained"),
     ("parameter-lost", PARAMETER.format("", ""), SAVE, "parameter-gained"),
     ("required-parameter-gained", SAVE, PARAMETER.format('isRequired="1"', ""), "parameter-lost"),
