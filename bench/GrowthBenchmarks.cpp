@@ -46,7 +46,7 @@ double secondsOf(std::size_t nTypes, double StLoadProbe::*pSeconds)
     return median(lstSeconds);
 }
 
-// The largest load with all threads that this machine has for it; made once.
+// The largest load with two threads; made once.
 const StLoadProbe& probeOfTwo()
 {
     static const StLoadProbe s_stProbe = probeLoad(rootOf(LARGEST), 2);

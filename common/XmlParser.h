@@ -68,6 +68,7 @@ public:
     // Whether the same bytes would end in the same way again: the parse did not end
     // because memory ran out, or because the file could not be read.
     bool isSettled() const { return !m_bMemoryRanOut && m_stProblem.enKind != EnReadProblem::File; }
+    bool memoryRanOut() const { return m_bMemoryRanOut; }
 
     // All elements of the document with this tag name, in document order.
     const ElementList& elements(const char16_t* pszName) const;

@@ -19,6 +19,8 @@ CLoadDocuments::CLoadDocuments(const std::vector<StLoadType>& lstType, std::size
 {
     try
     {
+        // Xerces ends the process when it cannot start: before threads take memory.
+        m_oPool.giveBack(m_oPool.take());
         m_oPlan                    = CLoadPlan(lstType);
         const std::size_t nWorkers = std::min(nThreads, m_oPlan.files().size());
         if (nWorkers > 1)
@@ -46,7 +48,7 @@ void CLoadDocuments::parse(const std::string& strFile, EnConfigSource enSource, 
     {
         m_lstDocument.push_back({strFile, {}, m_oPlan.lastUser(strFile, enSource, m_nType)});
         makeRoom();
-        m_lstDocument.back().stParsed = parseNow(strFile);
+        m_lstDocument.back().stParsed = parseOrTake(strFile);
     }
     pParser = m_lstDocument.back().stParsed.pParser;
 }
@@ -73,20 +75,44 @@ CLoadDocuments::DocumentList::iterator CLoadDocuments::find(const std::string& s
     return m_lstDocument.end();
 }
 
-StParsedFile CLoadDocuments::parseNow(const std::string& strFile)
+StParsedFile CLoadDocuments::parseOrTake(const std::string& strFile)
 {
     StParsedFile stParsed = m_pAhead == nullptr ? StParsedFile() : m_pAhead->take(strFile);
-    if (stParsed.isAsNow(strFile))
+    if (!stParsed.isAsNow(strFile))
     {
-        tellReadListener(stParsed.pParser->problem());
-        return stParsed;
+        m_oPool.giveBack(std::move(stParsed.pParser));
+        stParsed = parseNow(strFile);
+        if (stParsed.pParser != nullptr && stParsed.pParser->memoryRanOut())
+        {
+            stParsed = {};
+            freeMemory(); // all that a load with nothing but this file would have
+            stParsed = parseNow(strFile);
+        }
     }
-    m_oPool.giveBack(std::move(stParsed.pParser));
-    stParsed.oState  = fileState(strFile);
-    stParsed.pParser = m_oPool.take();
     if (stParsed.pParser != nullptr)
-        stParsed.pParser->parseFile(strFile);
+        tellReadListener(stParsed.pParser->problem());
     return stParsed;
+}
+
+StParsedFile CLoadDocuments::parseNow(const std::string& strFile)
+{
+    StParsedFile stParsed = {m_oPool.take(), fileState(strFile)};
+    if (stParsed.pParser != nullptr)
+        stParsed.pParser->parseUntold(strFile);
+    return stParsed;
+}
+
+// Gives up whatever is kept for later.
+void CLoadDocuments::freeMemory() noexcept
+{
+    if (m_pAhead != nullptr)
+        m_pAhead->stop();
+    for (StDocument& stDocument : m_lstDocument)
+    {
+        if (stDocument.stParsed.pParser.use_count() == 1)
+            stDocument.stParsed = {};
+    }
+    m_oPool.clear();
 }
 
 // Drops what was not used for the longest time, until what waits is within its bound.

@@ -39,7 +39,9 @@ private:
     using DocumentList = std::list<StDocument>;
 
     DocumentList::iterator find(const std::string& strFile);
+    StParsedFile           parseOrTake(const std::string& strFile);
     StParsedFile           parseNow(const std::string& strFile);
+    void                   freeMemory() noexcept;
     void                   makeRoom() noexcept;
     void                   drop(DocumentList::iterator itDocument) noexcept;
 

@@ -107,6 +107,18 @@ StParsedFile CParseAhead::take(const std::string& strFile)
     return stParsed;
 }
 
+void CParseAhead::stop() noexcept
+{
+    const Lock oLock(m_oMutex);
+    m_bEnd = true;
+    for (std::size_t nPlace = m_nWanted; nPlace < m_nNext; ++nPlace)
+    {
+        if (m_lstAhead[nPlace].enState == EnState::Ready)
+            pass(m_lstAhead[nPlace]);
+    }
+    m_oChanged.notify_all();
+}
+
 // The file at this place is wanted: those before it no longer, and with it nobody else
 // is to begin.
 void CParseAhead::passUntil(std::size_t nPlace)
@@ -155,6 +167,7 @@ void CParseAhead::parseNext(Lock& oLock)
         stParsed = {};
     }
     oLock.lock();
+    m_bEnd = m_bEnd || (stParsed.pParser != nullptr && stParsed.pParser->memoryRanOut());
     if (stParsed.pParser != nullptr) // what it takes is known now
         m_nBytes += stParsed.pParser->bytesHeld() - std::exchange(stAhead.nBytes, stParsed.pParser->bytesHeld());
     stAhead.stParsed = std::move(stParsed);

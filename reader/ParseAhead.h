@@ -31,6 +31,10 @@ public:
     // it, this one parses others ahead, or waits.
     StParsedFile take(const std::string& strFile);
 
+    // Nothing more is parsed ahead, and what was is given up: memory has run out. That a
+    // thread meets this too ends its work.
+    void stop() noexcept;
+
 private:
     enum class EnState
     {

@@ -27,6 +27,13 @@ std::shared_ptr<CXmlParser> CParserPool::take()
     return pParser;
 }
 
+void CParserPool::clear() noexcept
+{
+    std::vector<std::shared_ptr<CXmlParser>> lstFreed;
+    const std::lock_guard<std::mutex>        oGuard(m_oMutex);
+    lstFreed.swap(m_lstIdle);
+}
+
 void CParserPool::giveBack(std::shared_ptr<CXmlParser> pParser) noexcept
 {
     if (pParser == nullptr || pParser.use_count() != 1)

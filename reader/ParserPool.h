@@ -33,6 +33,9 @@ public:
     // Takes a parser back, unless somebody else holds it: its document dies.
     void giveBack(std::shared_ptr<CXmlParser> pParser) noexcept;
 
+    // Frees the parsers that are here.
+    void clear() noexcept;
+
 private:
     std::mutex                               m_oMutex;
     std::vector<std::shared_ptr<CXmlParser>> m_lstIdle;
