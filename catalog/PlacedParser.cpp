@@ -8,6 +8,7 @@
 
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/TransService.hpp>
 
 #include <algorithm>
@@ -43,14 +44,40 @@ std::string lowerCase(std::string_view strText)
     return strLower;
 }
 
-// The bytes of a text as UTF-8, or nothing when they do not fit the encoding.
+// The bytes of a text as the parser holds them, or nothing when they do not fit the
+// encoding. In blocks, as the parser does it: what TranscodeFromStr takes of a longer
+// text the transcoder of ICU notes behind the end of its memory.
+std::u16string wideText(const std::string& strBytes, const char* pszEncoding)
+{
+    constexpr std::size_t                BLOCK = 2048;
+    XMLTransService::Codes               enCode{};
+    const std::unique_ptr<XMLTranscoder> pTranscoder(
+        XMLPlatformUtils::fgTransService->makeNewTranscoderFor(pszEncoding, enCode, BLOCK));
+    std::u16string strWide;
+    XMLCh          arWide[BLOCK];
+    unsigned char  arSize[BLOCK]; // bytes of each character; asked for, and not used
+    for (std::size_t nAt = 0; pTranscoder != nullptr && nAt < strBytes.size();)
+    {
+        XMLSize_t       nEaten = 0;
+        const auto*     pBytes = reinterpret_cast<const XMLByte*>(strBytes.data()) + nAt;
+        const XMLSize_t nWide =
+            pTranscoder->transcodeFrom(pBytes, strBytes.size() - nAt, arWide, BLOCK, nEaten, arSize);
+        if (nEaten == 0)
+            return {};
+        strWide.append(arWide, nWide);
+        nAt += nEaten;
+    }
+    return strWide;
+}
+
+// The same as UTF-8.
 std::string decoded(const std::string& strBytes, const char* pszEncoding)
 {
     try
     {
-        const TranscodeFromStr oWide(reinterpret_cast<const XMLByte*>(strBytes.data()), strBytes.size(), pszEncoding);
-        const TranscodeToStr   oUtf8(oWide.str(), oWide.length(), "UTF-8");
-        const std::string      strUtf8(reinterpret_cast<const char*>(oUtf8.str()), oUtf8.length());
+        const std::u16string strWide = wideText(strBytes, pszEncoding);
+        const TranscodeToStr oUtf8(strWide.c_str(), strWide.size(), "UTF-8");
+        const std::string    strUtf8(reinterpret_cast<const char*>(oUtf8.str()), oUtf8.length());
         return strUtf8.compare(0, 3, "\xEF\xBB\xBF") == 0 ? strUtf8.substr(3) : strUtf8;
     }
     catch (const XMLException&)

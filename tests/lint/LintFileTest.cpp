@@ -78,6 +78,21 @@ TEST_F(LintFileTest, LongTextsAreShortened)
     }
 }
 
+// Longer than what the transcoder takes at once.
+TEST_F(LintFileTest, LinesOfALongFileInAnotherEncodingAreThere)
+{
+    const std::string strFile = m_oRoot.write(
+        "a.xml", "<?xml version='1.0' encoding='ISO-8859-1'?>\n<ServerConfiguration><!--" + repeated("\xE9", 5'000) +
+                     "-->\n<DeviceOperation><Operation id='\xE9'/><Nothing/></DeviceOperation></ServerConfiguration>");
+    std::vector<StFinding> lstFinding;
+    lint::lintFile(strFile, lint::EnFileKind::Configuration,
+                   [&](const StFinding& stFinding) { lstFinding.push_back(stFinding); });
+    ASSERT_EQ(1u, lstFinding.size());
+    EXPECT_EQ(3u, lstFinding[0].ulLine);
+    EXPECT_EQ(38u, lstFinding[0].ulColumn);
+    EXPECT_THAT(lstFinding[0].strSource, HasSubstr("<Operation id='\xC3\xA9'/><Nothing/>"));
+}
+
 // The innermost of several allowances is the one that is needed.
 TEST_F(LintFileTest, OneAllowanceIsEnough)
 {
