@@ -156,7 +156,8 @@ private:
         {
             const StKnownNames* pOption = find(stKnown, stOption, "option", strOf);
             const std::string   strHas  = numberOf(stOption);
-            if (pOption == nullptr || pOption->setNumber.empty() || pOption->setNumber.count(strHas) != 0)
+            if (pOption == nullptr || isLost(stOption.strId) || pOption->setNumber.empty() ||
+                pOption->setNumber.count(strHas) != 0)
                 continue;
             const StField* pValue = stOption.field("ulValue");
             add("capacity-unknown-id", pValue->stPlace.ulLine == 0 ? stOption.stPlace : pValue->stPlace,
@@ -186,7 +187,7 @@ private:
              const std::string& strSubject, std::vector<std::string> lstHelp)
     {
         m_oFindings.add(m_stType,
-                        {pszRule, stPlace, std::move(strWhat), std::move(strSo), strSubject, std::move(lstHelp)});
+                        {pszRule, stPlace, std::move(strWhat), std::move(strSo), strSubject, std::move(lstHelp), {}});
     }
 
     const StTypeCatalog&         m_stType;

@@ -348,9 +348,11 @@ private:
         std::vector<std::string> lstHelp = m_oHints.didYouMean(strStep, setStep);
         if (lstHelp.empty() && setStep.size() <= LISTED_STEPS)
             lstHelp.push_back("its steps: " + listText({setStep.begin(), setStep.end()}));
-        add("depends-on-nothing", valueSpot(stEntry, "dependsOn"), stEntry,
-            "the task has no step " + inQuotes(strStep) + " that " + inQuotes(idOf(stEntry)) + " could wait for",
-            std::move(lstHelp));
+        // A step that is called otherwise by mistake is told as that.
+        m_oReport.addUnlessMeant(strStep, "depends-on-nothing", valueSpot(stEntry, "dependsOn"),
+                                 "the task has no step " + inQuotes(strStep) + " that " + inQuotes(idOf(stEntry)) +
+                                     " could wait for",
+                                 stEntry.subject(), std::move(lstHelp));
     }
 
     const StReadDocument&                                                m_stRead;

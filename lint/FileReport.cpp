@@ -76,6 +76,25 @@ void CFileReport::add(const char* pszRule, EnSeverity enSeverity, const StSpot& 
     m_lstFinding.push_back(std::move(stFinding));
 }
 
+void CFileReport::addUnlessMeant(const std::string& strName, const char* pszRule, const StSpot& stSpot,
+                                 std::string strMessage, std::string strSubject, std::vector<std::string> lstHelp)
+{
+    if (isFull())
+        return;
+    add(pszRule, stSpot, std::move(strMessage), std::move(strSubject), std::move(lstHelp));
+    m_lstDoubtful.push_back({strName, std::move(m_lstFinding.back())});
+    m_lstFinding.pop_back();
+}
+
+void CFileReport::addCertain()
+{
+    for (StDoubtful& stDoubtful : std::exchange(m_lstDoubtful, {}))
+    {
+        if (m_setMeant.count(stDoubtful.strName) == 0 && !isFull())
+            m_lstFinding.push_back(std::move(stDoubtful.stFinding));
+    }
+}
+
 void CFileReport::takeComment(const std::string& strComment, const StSpot& stSpot, const StSpot& stEnd)
 {
     std::string_view strText = trimmed(strComment);
@@ -116,6 +135,7 @@ void CFileReport::dropAllowed(std::vector<StFinding>& lstFinding)
 
 void CFileReport::flush(const FindingSink& fnFinding)
 {
+    addCertain();
     const bool             bFull      = isFull();
     std::vector<StFinding> lstFinding = std::exchange(m_lstFinding, {});
     sort(lstFinding);

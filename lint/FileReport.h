@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,6 +49,12 @@ public:
     void add(const char* pszRule, EnSeverity enSeverity, const StSpot& stSpot, std::string strMessage,
              std::string strSubject, std::vector<std::string> lstHelp = {});
 
+    // The same for what is no mistake when another one is told, that of misspelling
+    // this name.
+    void addUnlessMeant(const std::string& strName, const char* pszRule, const StSpot& stSpot, std::string strMessage,
+                        std::string strSubject, std::vector<std::string> lstHelp);
+    void setMeant(const std::string& strName) { m_setMeant.insert(strName); }
+
     // Nothing more is told of the file: whoever looks for more may stop.
     bool isFull() const { return m_lstFinding.size() >= MAX_FINDINGS; }
 
@@ -60,11 +67,20 @@ public:
     void flush(const FindingSink& fnFinding);
 
 private:
+    struct StDoubtful
+    {
+        std::string strName;
+        StFinding   stFinding;
+    };
+
+    void addCertain();
     void dropAllowed(std::vector<StFinding>& lstFinding);
 
     std::string                        m_strFile;
     std::shared_ptr<const CSourceText> m_pText;
     std::vector<StFinding>             m_lstFinding;
+    std::vector<StDoubtful>            m_lstDoubtful;
+    std::set<std::string>              m_setMeant;
     std::vector<StAllowance>           m_lstAllowance;
 };
 } // namespace lint

@@ -202,14 +202,19 @@ private:
                            ": clients will not find it", stReference.strSubject,
                            {"write type=" + inQuotes(wordOf(stKind)) + ", or define a " + strMeant + " of this id"});
         }
-        std::vector<std::string> lstHelp;
+        std::string strNear;
         for (const StKindOfOperation* pKind : lstMeant)
         {
-            if (lstHelp.empty())
-                lstHelp = m_oHints.didYouMean(stReference.strId, m_mapOperation[wordOf(*pKind)]);
+            if (strNear.empty())
+                strNear = m_oHints.nearest(stReference.strId, m_mapOperation[wordOf(*pKind)]);
         }
-        add("dangling-reference", stReference.stPlace, "there is no " + strMeant + " " + inQuotes(stReference.strId),
-            ": what clients offer here leads nowhere", stReference.strSubject, std::move(lstHelp));
+        std::vector<std::string> lstHelp;
+        if (!strNear.empty())
+            lstHelp.push_back("did you mean " + inQuotes(strNear) + "?");
+        m_oFindings.add(m_stType,
+                        {"dangling-reference", stReference.stPlace,
+                         "there is no " + strMeant + " " + inQuotes(stReference.strId),
+                         ": what clients offer here leads nowhere", stReference.strSubject, lstHelp, strNear});
     }
 
     static std::string article(const char* pszText)
@@ -248,7 +253,7 @@ private:
              const std::string& strSubject, std::vector<std::string> lstHelp = {})
     {
         m_oFindings.add(m_stType,
-                        {pszRule, stPlace, std::move(strWhat), std::move(strSo), strSubject, std::move(lstHelp)});
+                        {pszRule, stPlace, std::move(strWhat), std::move(strSo), strSubject, std::move(lstHelp), {}});
     }
 
     using Place = std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>; // file, line, column

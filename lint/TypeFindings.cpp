@@ -74,6 +74,7 @@ void CTypeFindings::tell(const std::string& strFile, CFileReport& oReport)
         StTypeFinding&    stFinding = stShared.stFinding;
         const bool        bAll      = stShared.setKey.size() == m_mapUser[strFile].size();
         const std::string strTypes  = bAll ? "" : forTypes(stShared.setKey);
+        oReport.setMeant(stFinding.strMeant);
         oReport.add(stFinding.pszRule,
                     {stFinding.stPlace.ulLine, stFinding.stPlace.ulColumn, stFinding.stPlace.ulLength},
                     stFinding.strWhat + strTypes + stFinding.strSo, stFinding.strSubject, std::move(stFinding.lstHelp));

@@ -26,6 +26,7 @@ struct StTypeFinding
     std::string              strSo; // begins with ": "; may be empty
     std::string              strSubject;
     std::vector<std::string> lstHelp;
+    std::string              strMeant; // the name that is surely meant; may be empty
 };
 
 class CTypeFindings

@@ -199,33 +199,47 @@ private:
 
     void checkConfigFiles()
     {
-        std::set<std::string>    setMisspelt; // keys that a row surely meant
+        checkConfigKeys();
+        for (const InventoryRow& stRow : rows("config_file"))
+        {
+            const std::string strKey = valueOf(stRow, "device_type");
+            if (isConfigKey(strKey))
+                checkConfigPath(stRow, strKey);
+        }
+        std::set<std::string> setTold = m_setMisspelt;
+        for (const InventoryRow& stRow : rows("device_type"))
+        {
+            const std::string strKey = keyOf(stRow);
+            if (valueOf(stRow, "config_file_type") != "1" && m_mapConfigFile.count(strKey) == 0 &&
+                setTold.insert(strKey).second)
+                add("points-nowhere", "device_type", stRow, "name",
+                    fmt::format("no row of config_file says where the file of \"{}\" is", strKey));
+        }
+    }
+
+    void checkConfigKeys()
+    {
         std::vector<std::string> lstMissing;
         for (const std::string& strKey : m_lstKey)
         {
+            const bool bTwin = m_mapConfigFile.count(telnetKey(strKey)) != 0;
             if (m_mapConfigFile.count(strKey) == 0)
                 lstMissing.push_back(strKey);
+            if (!bTwin && !hasConfigFile(strKey) && !isKey(telnetKey(strKey)))
+                lstMissing.push_back(telnetKey(strKey));
         }
         for (const InventoryRow& stRow : rows("config_file"))
         {
             const std::string strKey = valueOf(stRow, "device_type");
             if (isConfigKey(strKey))
-            {
-                checkConfigPath(stRow, strKey);
                 continue;
-            }
-            const std::string strNear = m_oHints.nearest(strKey, lstMissing);
-            setMisspelt.insert(strNear);
+            const std::string              strNear = m_oHints.nearest(strKey, lstMissing);
             const std::vector<std::string> lstNear = {strNear};
             addUnknownKey("config_file", stRow, strNear.empty() ? std::as_const(m_lstKey) : lstNear);
-        }
-        for (const InventoryRow& stRow : rows("device_type"))
-        {
-            const std::string strKey = keyOf(stRow);
-            if (valueOf(stRow, "config_file_type") != "1" && m_mapConfigFile.count(strKey) == 0 &&
-                setMisspelt.insert(strKey).second)
-                add("points-nowhere", "device_type", stRow, "name",
-                    fmt::format("no row of config_file says where the file of \"{}\" is", strKey));
+            if (strNear.empty())
+                continue;
+            m_setMisspelt.insert(strNear);
+            m_stFound.setToldFile.insert(wholePath(m_mapConfigFile[telnetKey(strNear)])); // unused without it
         }
     }
 
@@ -245,14 +259,19 @@ private:
         const std::string strPath = valueOf(stRow, "path");
         if (isKey(strKey))
         {
-            if (!hasConfigFile(telnetKey(strKey)))
+            if (m_setMisspelt.count(telnetKey(strKey)) != 0)
+                m_stFound.setToldFile.insert(wholePath(strPath));
+            else if (!hasConfigFile(telnetKey(strKey)))
+            {
+                m_stFound.setToldFile.insert(wholePath(m_mapConfigFile[telnetKey(strKey)]));
                 add("points-nowhere", "config_file", stRow, "path",
                     fmt::format("\"{}\" is not there, and no telnet twin serves \"{}\" instead", strPath, strKey));
+            }
             return;
         }
         // Of a twin alone, unless it is told with the type that it should serve.
         const std::string strServed = strKey.substr(0, strKey.size() - Vocabulary::TELNET_SUFFIX.size());
-        if (m_mapConfigFile.count(strServed) == 0 || hasConfigFile(strServed))
+        if (m_setMisspelt.count(strServed) == 0 && (m_mapConfigFile.count(strServed) == 0 || hasConfigFile(strServed)))
             add("points-nowhere", "config_file", stRow, "path",
                 fmt::format("\"{}\" is not there: it would serve \"{}\"", strPath, strServed));
     }
@@ -268,6 +287,9 @@ private:
             else if (!strPath.empty() && !isThere(wholePath(strPath)))
                 add("points-nowhere", "check_file", stRow, "path",
                     fmt::format("\"{}\", the check file of \"{}\", is not there", strPath, strKey));
+            else
+                continue;
+            m_stFound.setUnchecked.insert(wholePath(m_mapConfigFile[meantKey(stRow)]));
         }
     }
 
@@ -353,8 +375,7 @@ private:
             else
             {
                 setLost.insert(versionOf(stRow));
-                m_stFound.setToldFile.insert(CXMLConfigDatabase::getDevTypeXMLFileName(
-                    meantKey(stRow), valueOf(stRow, "soft_version"), valueOf(stRow, "patch_version"), true, ""));
+                tellVersionFile(stRow);
             }
         }
         std::set<std::string> setRecorded;
@@ -363,7 +384,10 @@ private:
             setRecorded.insert(inventoryVersion(stRow));
             const bool bInstalled = checkTypeVersion("capacity", stRow);
             if (!bInstalled)
+            {
                 tellVersion(stRow, versionText(versionOf(stRow)));
+                tellVersionFile(stRow);
+            }
             else if (setLost.count(versionOf(stRow)) == 0 &&
                      mapInService[typeVersionOf(stRow)].count(versionOf(stRow)) == 0)
                 addOutOfService(stRow, mapInService[typeVersionOf(stRow)]);
@@ -402,6 +426,13 @@ private:
         m_stFound.setToldVersion.insert(meantKey(stRow) + "/" + strVersion);
     }
 
+    // Its document is not used because of that.
+    void tellVersionFile(const InventoryRow& stRow)
+    {
+        m_stFound.setToldFile.insert(CXMLConfigDatabase::getDevTypeXMLFileName(
+            meantKey(stRow), valueOf(stRow, "soft_version"), valueOf(stRow, "patch_version"), true, ""));
+    }
+
     std::string meantKey(const InventoryRow& stRow)
     {
         const std::string strKey = valueOf(stRow, "device_type");
@@ -420,6 +451,7 @@ private:
         std::transform(setVersion.begin(), setVersion.end(), std::back_inserter(lstVersion), &versionText);
         const std::string strVersion = versionText(versionOf(stRow));
         tellVersion(stRow, m_oHints.nearest(strVersion, lstVersion));
+        tellVersionFile(stRow);
         add("points-nowhere", "capacity", stRow, "soft_version",
             fmt::format("version \"{}\" of \"{}\" is not in service", strVersion, valueOf(stRow, "device_type")),
             m_oHints.didYouMean(strVersion, lstVersion));
@@ -439,11 +471,12 @@ private:
     void addUnasked(const char* pszTable, const InventoryRow& stRow, const char* pszColumn,
                     const std::vector<std::string>& lstName)
     {
-        const std::string        strName = valueOf(stRow, pszColumn);
-        std::vector<std::string> lstHelp = m_oHints.didYouMean(strName, lstName);
+        const std::string strName = valueOf(stRow, pszColumn);
+        const std::string strNear = m_oHints.nearest(strName, lstName);
+        m_stFound.setMeantName.insert(strNear);
         add("unasked-name", pszTable, stRow, pszColumn, fmt::format("no question asks for \"{}\"", strName),
-            std::move(lstHelp));
-        if (m_stFound.lstFinding.back().lstHelp.empty())
+            m_oHints.didYouMean(strName, lstName));
+        if (strNear.empty())
             m_stFound.lstFinding.back().lstHelp = {"names asked for: " + lint::listText(lstName)};
     }
 
@@ -452,6 +485,7 @@ private:
         const std::string strValue = valueOf(stRow, "value");
         if (strValue.size() == 1 && stName.strWords.find(strValue.front()) != std::string_view::npos)
             return;
+        m_stFound.setMeantName.insert(stName.pszName);
         std::vector<std::string> lstWord;
         for (const char cWord : stName.strWords)
             lstWord.emplace_back(1, cWord);
@@ -564,6 +598,7 @@ private:
     std::vector<std::string>                        m_lstKey;     // storage keys, in the order of the registry
     std::map<std::string, std::vector<std::string>> m_mapVersion; // of each storage key
     std::map<std::string, std::string>              m_mapConfigFile;
+    std::set<std::string>                           m_setMisspelt; // keys that rows of config_file surely mean
     std::set<std::string>                           m_setTypeId;
     std::set<std::pair<std::string, std::string>>   m_setId; // type id and version id
 };

@@ -26,6 +26,8 @@ struct StInventoryFindings
     std::vector<lint::StFinding> lstFinding;
     std::set<std::string>        setToldFile;    // named by rows that are told: missing or unused because of that
     std::set<std::string>        setToldVersion; // "KEY/VERSION": without a capacity record because of that
+    std::set<std::string>        setUnchecked;   // configuration files whose types have no check file because of that
+    std::set<std::string>        setMeantName;   // that questions ask for in vain because of that
 
     // Where the versions in service stand that have no capacity record, by "KEY/VERSION".
     std::map<std::string, StInventoryPlace> mapUnrecorded;

@@ -1,6 +1,9 @@
 // See LintRoot.h.
 #include "tools/opxml/lint/LintRoot.h"
 
+#include "lint/Nearness.h"
+#include "records/ServerNames.h"
+#include "records/Vocabulary.h"
 #include "tools/opxml/lint/InventoryRules.h"
 
 #include <algorithm>
@@ -14,11 +17,41 @@ namespace
 // What only a stand-alone root has: rules that a server's caller would name.
 constexpr const char* FILE_CHECK_RULES = "file_check.xml";
 
+std::string nameOfFile(const std::string& strPath)
+{
+    return strPath.substr(strPath.rfind('/') + 1);
+}
+
+// Whether a row that is told may mean this file: under this name or nearly, wherever.
+bool isNearTold(const StInventoryFindings& stInventory, const std::string& strFile)
+{
+    const std::string strName = nameOfFile(strFile);
+    return std::any_of(stInventory.setToldFile.begin(), stInventory.setToldFile.end(),
+                       [&strName](const std::string& strTold)
+                       {
+                           const std::string strToldName = nameOfFile(strTold);
+                           return strToldName == strName || !lint::nearestName(strToldName, {strName}).empty();
+                       });
+}
+
+// What the check file of a telnet type would bring.
+bool isCheckOfTelnet(const std::string& strSubject)
+{
+    const std::string strId = strSubject.substr(strSubject.rfind('/') + 1);
+    return strId == Vocabulary::OP_PRE_CHECK || strId == Vocabulary::OP_POST_CHECK;
+}
+
 // What follows from a row that is told is not told again where it shows.
 bool followsFrom(const StInventoryFindings& stInventory, const lint::StFinding& stFinding)
 {
-    if (stFinding.strRule == "file-missing" || stFinding.strRule == "file-unused")
+    if (stFinding.strRule == "file-missing")
         return stInventory.setToldFile.count(stFinding.strFile) != 0;
+    if (stFinding.strRule == "file-unused")
+        return isNearTold(stInventory, stFinding.strFile);
+    if (stFinding.strRule == "hidden-program-file")
+        return stInventory.setMeantName.count(ServerNames::BACKUP_PROGRAM_SUPPORT) != 0;
+    if (stFinding.strRule == "dangling-reference")
+        return stInventory.setUnchecked.count(stFinding.strFile) != 0 && isCheckOfTelnet(stFinding.strSubject);
     return stFinding.strRule == "capacity-no-record" && stInventory.setToldVersion.count(stFinding.strSubject) != 0;
 }
 
