@@ -103,7 +103,7 @@ struct StReport
     std::string                     strTitle;
     std::string                     strRoot;
     std::string                     strMade; // "2031-05-09T07:30:00Z"
-    std::string                     strTool; // "opxml 0.1.0"
+    std::string                     strTool; // "opxml 0.2.0"
     CColumns                        oColumns;
     std::vector<StReportRow>        lstRow; // in the order of a load
     std::vector<StReportDevice>     lstDevice;
