@@ -31,6 +31,8 @@ SECTIONS = (
     ("DeviceViewPopupMenu", (*ITEM[:1], "menu", *ITEM[2:])),
     ("DeviceViewTab", (*ITEM[:1], "tab", *ITEM[2:])),
 )
+# One type has a module, which adds nothing: it is read in another way than those without.
+MODULE = {roots.MODULE: '<C><DeviceType name="m"/><support><dev name="T1"/></support></C>'}
 FIELDS = {"AvailableIn": "availableIn"} # elsewhere the field bears the attribute's name
 
 
@@ -98,11 +100,11 @@ def round_of(opxml, dice):
     expected = []
     with tempfile.TemporaryDirectory() as scratch:
         old, new = (os.path.join(scratch, name) for name in ("old", "new"))
-        roots.write_root(old, [type_.body() for type_ in types])
+        roots.write_root(old, [type_.body() for type_ in types], MODULE)
         for number, type_ in enumerate(types):
             edits = type_.edit(dice.randint(0, 8))
             expected += [(f"T{number} {version}", "", *edit) for edit in edits for version in ("VW" if number == 0 else "V")]
-        roots.write_root(new, [type_.body() for type_ in types])
+        roots.write_root(new, [type_.body() for type_ in types], MODULE)
         there, back = roots.said(roots.diff(opxml, old, new)), roots.said(roots.diff(opxml, new, old))
     return there == sorted(expected) and back == roots.mirrored(there), expected, there, back
 

@@ -25,6 +25,7 @@ FEATURE = '<TaskFeatureConfiguration><Configuration id="Timed" isSupported="{}"/
 STEP = '<TaskConfigOper id="Load" {}/>'
 TWO_STEPS = '<TaskConfigOper id="Load"/>', '<TaskConfigOper id="Check"/>'
 SAVE = OPERATION.format("", "")
+ENTITY = '<!DOCTYPE C [<!ENTITY e "{}">]><C>' + PARAMETER.format('value="&e;"', "") + '</C>'
 BROKEN = "<!-- never closed"
 TELNET_CHECK = '<C><DeviceType name="T0"><TaskType id="{}"><PreCheck><Parameter id="Cpu"/></PreCheck></TaskType></DeviceType></C>'
 CAPACITY = ("INSERT INTO device_type (name, version, type_id, version_id, config_file_type, sys_oid, support_upgrade,"
@@ -78,6 +79,7 @@ ROWS = (
     ("support-lost", OTHER.format(1, '<Parameter id="p" isRequired="1"/>'), OTHER.format(1, '<Parameter id="p"/>'), "support-gained"),
     ("parameter-required", PARAMETER.format('isRequired="0"', ""), PARAMETER.format('isRequired="1"', ""), "parameter-optional"),
     ("value-changed", PARAMETER.format('value="1"', ""), PARAMETER.format('value="2"', ""), None),
+    ("value-changed", ENTITY.format(1), ENTITY.format(2), None), # the section is written alike
     ("number-changed", OPTION.format('value="1"'), OPTION.format('value="2"'), None),
     ("number-reread", PARAMETER.format("", '<Option id="a" value="1"/><Option id="b" value="1"/>'),
      PARAMETER.format("", '<Option id="b" value="1"/><Option id="a" value="1"/>'), None),

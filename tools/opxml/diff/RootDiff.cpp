@@ -1,6 +1,7 @@
 // See RootDiff.h.
 #include "tools/opxml/diff/RootDiff.h"
 
+#include "catalog/FileCatalog.h"
 #include "common/ReadProblem.h"
 #include "tools/opxml/diff/ComparedTypes.h"
 #include "tools/opxml/diff/DiffCollector.h"
@@ -86,7 +87,9 @@ private:
         const auto        itShared  = m_mapShared.find(strShared);
         if (itShared != m_mapShared.end())
             return tell(stType, itShared->second);
-        StCompared stCompared = compareCatalogs(*pOld, *pNew);
+        StCompared stCompared;
+        if (strShared.empty() || !compareFiles(*pOld, stOldPlan, *pNew, stNewPlan, stCompared))
+            stCompared = compareCatalogs(*pOld, *pNew);
         tell(stType, stCompared);
         if (strShared.empty())
             return;
@@ -125,6 +128,21 @@ private:
                 strKey += pModule->strFile + '\n';
         }
         return strKey;
+    }
+
+    // Types of one file and nothing else: only what is written differently is read of them.
+    bool compareFiles(const StSideType& stOld, const StConfigPlan& stOldPlan, const StSideType& stNew,
+                      const StConfigPlan& stNewPlan, StCompared& stCompared)
+    {
+        if (!stOld.lstModule.empty() || !stNew.lstModule.empty() || m_oOld.settings() != m_oNew.settings())
+            return false;
+        catalog::StTypeCatalog stOldMade;
+        catalog::StTypeCatalog stNewMade;
+        if (!m_oFiles.make(stOldPlan.stConfig.strFile, stNewPlan.stConfig.strFile, stOldMade, stNewMade))
+            return false;
+        stCompared = {diffTypes(stOldMade, stNewMade, m_stPassedOver), std::move(stOldMade.lstFile),
+                      std::move(stNewMade.lstFile)};
+        return true;
     }
 
     // The new root is open; the old one is afterwards.
@@ -173,13 +191,14 @@ private:
         return lstChange;
     }
 
-    CServerSide    m_oOld;
-    CServerSide    m_oNew;
-    CSameFiles     m_oSameFiles;
-    CDiffCollector m_oCollector;
-    StPassedOver   m_stPassedOver;
-    UnreadModules  m_mapNewlyBroken; // the new side cannot read them
-    UnreadModules  m_mapMended;      // the old side could not
+    CServerSide              m_oOld;
+    CServerSide              m_oNew;
+    CSameFiles               m_oSameFiles;
+    catalog::CFilePairReader m_oFiles;
+    CDiffCollector           m_oCollector;
+    StPassedOver             m_stPassedOver;
+    UnreadModules            m_mapNewlyBroken; // the new side cannot read them
+    UnreadModules            m_mapMended;      // the old side could not
 
     std::map<std::string, std::string> m_mapRename; // of registry entries
     std::map<std::string, StCompared>  m_mapShared; // by sharedKey()
