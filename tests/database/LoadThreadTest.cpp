@@ -158,6 +158,8 @@ TEST_F(LoadThreadTest, ABrokenRootIsTheSameWithAnyNumber)
         SCOPED_TRACE(pszCommon);
         const Lines lstOne = everything("1");
         EXPECT_LT(80u, lstOne.size());
+        EXPECT_THAT(g_lstTold,
+                    testing::Contains(testing::HasSubstr("/torn.xml: line 2")).Times(3)); // each of its types
         for (const char* pszThreads : {"2", "8"})
             EXPECT_EQ(lstOne, everything(pszThreads)) << pszThreads;
         m_oRoot.writeConfig("Common_ServerConfiguration.xml", "<C>\n<torn>");
