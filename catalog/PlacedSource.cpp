@@ -33,6 +33,15 @@ EnOrigin originOf(EnConfigSource enSource)
     }
     return EnOrigin::OwnFile;
 }
+
+// Rules on documents look for texts that stand where none should; blanks are none.
+std::shared_ptr<CPlacedParser> newParser()
+{
+    std::shared_ptr<CPlacedParser> pParser = CPlacedParser::create();
+    if (pParser != nullptr)
+        pParser->leaveOutBlanks();
+    return pParser;
+}
 } // namespace
 
 void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile,
@@ -74,14 +83,14 @@ void CPlacedSource::parse(const std::string& strFile, EnConfigSource /*enSource*
 std::shared_ptr<CPlacedParser> CPlacedSource::freeParser()
 {
     if (m_lstKept.size() <= KEPT)
-        return CPlacedParser::create();
+        return newParser();
     auto itOldest = m_lstKept.begin();
     if (itOldest->strFile == m_strCommonFile)
         ++itOldest;
     std::shared_ptr<CPlacedParser> pParser = std::move(itOldest->pParser);
     m_lstKept.erase(itOldest);
     if (pParser.use_count() > 1) // a reader has it still
-        pParser = CPlacedParser::create();
+        pParser = newParser();
     return pParser;
 }
 

@@ -15,6 +15,7 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLExceptMsgs.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
@@ -412,7 +413,11 @@ ElementList& CXmlParser::elementsNamed(const XMLCh* pszName)
 void CXmlParser::docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData)
 {
     checkContent(nLength);
-    if (keepsTexts())
+    // Behind an element, the current node is not the one that is open.
+    const bool bLeftOut = !m_bKeepsBlanks && m_bIsReading && fCurrentNode != fCurrentParent &&
+                          fCurrentNode->getNodeType() == DOMNode::ELEMENT_NODE &&
+                          XMLChar1_0::isAllSpaces(pszText, nLength);
+    if (keepsTexts() && !bLeftOut)
         XercesDOMParser::docCharacters(pszText, nLength, bIsCData);
 }
 

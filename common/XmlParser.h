@@ -60,6 +60,10 @@ public:
     // as much as making an element.
     void leaveOutTexts() { m_bKeepsTexts = false; }
 
+    // The same for blanks behind an element alone, which is what nearly all texts of a
+    // configuration file are: for those who look for texts that should not be there.
+    void leaveOutBlanks() { m_bKeepsBlanks = false; }
+
     using CParserMemory::keepBlocks;
 
     // Why there is no document, and where in which file; not set after a good parse.
@@ -142,6 +146,7 @@ private:
     // While parseText reads.
     CNestingCheck m_oNesting;
     bool          m_bKeepsTexts     = true;
+    bool          m_bKeepsBlanks    = true;
     bool          m_bIsReading      = false;
     bool          m_bInEmptyElement = false;
     bool          m_bInDocType      = false;

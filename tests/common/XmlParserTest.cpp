@@ -231,6 +231,17 @@ TEST(XmlParserTest, ReadsUpToEachLimitAndNotBeyond)
     EXPECT_EQ(nullptr, pParser->getDocument());
 }
 
+TEST(XmlParserTest, LeavesOutBlanksBehindElementsAndNothingElse)
+{
+    const auto pParser = CXmlParser::create();
+    pParser->leaveOutBlanks();
+    pParser->parseText("<a>\n <b> </b>\n <c/> t <d/> &#32;u<![CDATA[ ]]>\n</a>");
+    std::string strFound;
+    for (const xercesc::DOMNode* pNode = pParser->getDocument()->getDocumentElement()->getFirstChild();
+         pNode != nullptr; pNode       = pNode->getNextSibling())
+        strFound += '[' + toLocal(pNode->getTextContent()) + ']';
+    EXPECT_EQ("[\n ][ ][][ t ][][ u][ ][\n]", strFound);
+}
 TEST(XmlParserTest, LeavesOutTextsAndNothingElse)
 {
     const auto pParser = CXmlParser::create();
