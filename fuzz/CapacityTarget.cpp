@@ -84,7 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
     stPruned.strDevType                         = pInfo->strDevType;
     stPruned.strDevTypeVer                      = pInfo->strDevTypeVer;
     CCapacityXMLConfig().combineXMLInfo(&stPruned, lstCapacity);
-    requireSame(*pInfo, stPruned); // NOLINT(clang-analyzer-core.NonNullParamChecker): required above
+    requireSame(*pInfo, stPruned);
     const std::size_t nRecords = countRecords(stPruned);
     require(nRecords <= countRecords(*s_pCommon), "pruning adds nothing");
     CCapacityXMLConfig().combineXMLInfo(&stPruned, lstCapacity);

@@ -23,10 +23,8 @@ std::size_t countObjects(const Json& oJson)
 }
 } // namespace
 
-void require(bool bHolds, const char* pszRule)
+void broken(const char* pszRule)
 {
-    if (bHolds)
-        return;
     std::fprintf(stderr, "Rule broken: %s\n", pszRule);
     std::abort();
 }

@@ -17,7 +17,12 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize);
 
 // Prints the rule that does not hold and aborts: the fuzzer keeps the input.
-void require(bool bHolds, const char* pszRule);
+[[noreturn]] void broken(const char* pszRule);
+inline void       require(bool bHolds, const char* pszRule)
+{
+    if (!bHolds)
+        broken(pszRule);
+}
 
 // The rules that every record keeps: it equals itself, its copy, and what a
 // second read of the same input gave; the last also in the fields that equality
