@@ -18,7 +18,6 @@
 #include <list>
 #include <mutex>
 #include <string_view>
-#include <vector>
 
 enum class EnFate; // common/RecordRead.h
 struct StAsnOperation;
@@ -32,13 +31,36 @@ enum class EnReadAs : std::int32_t
     Word,   // one of a table
 };
 
+// The words of a table of which every row has one as its strWord. The table itself is
+// handed on, which is there for good: two are equal when they are of one table.
+class CWordTable
+{
+public:
+    CWordTable() = default;
+    template <typename Row, std::size_t nRows>
+    explicit CWordTable(const Row (&arRows)[nRows])
+        : m_pRows(arRows), m_nRows(nRows),
+          m_pfnWord([](const void* pRows, std::size_t nRow) { return static_cast<const Row*>(pRows)[nRow].strWord; })
+    {
+    }
+
+    std::size_t      size() const { return m_nRows; }
+    std::string_view operator[](std::size_t nRow) const { return m_pfnWord(m_pRows, nRow); }
+    bool             operator==(const CWordTable& oOther) const { return m_pRows == oOther.m_pRows; }
+
+private:
+    const void* m_pRows                                     = nullptr; // null: no table
+    std::size_t m_nRows                                     = 0;
+    std::string_view (*m_pfnWord)(const void*, std::size_t) = nullptr;
+};
+
 struct StAttributeRead
 {
-    const xercesc::DOMElement&    oElement;
-    const char16_t*               pszName;
-    const xercesc::DOMAttr*       pAttr; // null: the element has none of the name
-    EnReadAs                      enReadAs;
-    std::vector<std::string_view> lstWord; // the table, for a word
+    const xercesc::DOMElement& oElement;
+    const char16_t*            pszName;
+    const xercesc::DOMAttr*    pAttr; // null: the element has none of the name
+    EnReadAs                   enReadAs;
+    CWordTable                 oWords; // for a word
 };
 
 class OPERATIONXML_API CReadObserver

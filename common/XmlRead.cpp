@@ -122,23 +122,17 @@ const DOMAttr* CAttributes::find(const char16_t* pszName) const
     return nullptr;
 }
 
-std::u16string_view CAttributes::value(const char16_t* pszName) const
+std::u16string_view CAttributes::value(const char16_t* pszName, EnReadAs enReadAs, const CWordTable& oWords) const
 {
     const DOMAttr* pAttr = find(pszName);
-    return pAttr == nullptr ? std::u16string_view() : valueOf(*pAttr);
-}
-
-void CAttributes::tell(const char16_t* pszName, EnReadAs enReadAs, std::vector<std::string_view> lstWord) const
-{
     if (CReadObserver* pObserver = ReadObserver::get())
-        pObserver->attributeRead({m_oElement, pszName, find(pszName), enReadAs, std::move(lstWord)});
+        pObserver->attributeRead({m_oElement, pszName, pAttr, enReadAs, oWords});
+    return pAttr == nullptr ? std::u16string_view() : valueOf(*pAttr);
 }
 
 std::string attrText(const CAttributes& oAttributes, const char16_t* pszName)
 {
-    if (ReadObserver::get() != nullptr)
-        oAttributes.tell(pszName, EnReadAs::Text);
-    const std::u16string_view strValue = oAttributes.value(pszName);
+    const std::u16string_view strValue = oAttributes.value(pszName, EnReadAs::Text);
     return toLocal(strValue.data(), strValue.size());
 }
 
@@ -146,9 +140,7 @@ namespace
 {
 std::uint32_t readNumber(const CAttributes& oAttributes, const char16_t* pszName, EnReadAs enReadAs)
 {
-    if (ReadObserver::get() != nullptr)
-        oAttributes.tell(pszName, enReadAs);
-    const std::u16string_view strValue = oAttributes.value(pszName);
+    const std::u16string_view strValue = oAttributes.value(pszName, enReadAs);
     if (strValue.empty())
         return 0;
     if (strValue.size() == 1 && strValue[0] >= u'0' && strValue[0] <= u'9') // nearly every number there is

@@ -43,11 +43,9 @@ public:
 
     const xercesc::DOMElement* element() const { return &m_oElement; }
 
-    // The value of an attribute, empty when it is missing.
-    std::u16string_view value(const char16_t* pszName) const;
-
-    // Tells the observer that there is how an attribute is read.
-    void tell(const char16_t* pszName, EnReadAs enReadAs, std::vector<std::string_view> lstWord = {}) const;
+    // The value of an attribute, empty when it is missing. Whoever listens hears how it
+    // is read.
+    std::u16string_view value(const char16_t* pszName, EnReadAs enReadAs, const CWordTable& oWords = {}) const;
 
 private:
     static constexpr std::size_t REMEMBERED = 12;
@@ -79,14 +77,7 @@ bool isWord(std::u16string_view strText, std::string_view strWord);
 template <typename Row, std::size_t nRows>
 const Row* attrRow(const CAttributes& oAttributes, const char16_t* pszName, const Row (&arRows)[nRows])
 {
-    const std::u16string_view strText = oAttributes.value(pszName);
-    if (ReadObserver::get() != nullptr)
-    {
-        std::vector<std::string_view> lstWord;
-        for (const Row& stRow : arRows)
-            lstWord.push_back(stRow.strWord);
-        oAttributes.tell(pszName, EnReadAs::Word, std::move(lstWord));
-    }
+    const std::u16string_view strText = oAttributes.value(pszName, EnReadAs::Word, CWordTable(arRows));
     for (const Row& stRow : arRows)
     {
         if (isWord(strText, stRow.strWord))

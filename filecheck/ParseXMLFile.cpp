@@ -172,10 +172,7 @@ std::vector<const char16_t*> ParseXMLFile::paramNames()
 
 const XMLCh* ParseXMLFile::valueOf(const DOMElement& oElement)
 {
-    const CAttributes oAttributes(oElement);
-    if (ReadObserver::get() != nullptr)
-        oAttributes.tell(u"value", EnReadAs::Text);
-    const std::u16string_view strValue = oAttributes.value(u"value");
+    const std::u16string_view strValue = CAttributes(oElement).value(u"value", EnReadAs::Text);
     return strValue.data() == nullptr ? u"" : strValue.data();
 }
 

@@ -18,14 +18,6 @@ bool contains(const Names& lstName, const Name& name)
 {
     return std::find(lstName.begin(), lstName.end(), name) != lstName.end();
 }
-
-// Of words it is enough that they are those of one table of a reader.
-bool isSameTable(const std::vector<std::string_view>& lstLeft, const std::vector<std::string_view>& lstRight)
-{
-    return std::equal(lstLeft.begin(), lstLeft.end(), lstRight.begin(), lstRight.end(),
-                      [](std::string_view strLeft, std::string_view strRight)
-                      { return strLeft.data() == strRight.data() && strLeft.size() == strRight.size(); });
-}
 } // namespace
 
 bool StAskedAttribute::isWord(std::string_view strWord) const
@@ -87,7 +79,7 @@ std::size_t CReadMarks::take(std::size_t nAsked, const StAttributeRead& stRead)
 {
     for (const StNext& stNext : m_lstShared[nAsked].lstNextAttribute)
     {
-        if (stNext.pszName == stRead.pszName && isSameTable(stNext.lstWord, stRead.lstWord))
+        if (stNext.pszName == stRead.pszName && stNext.oWords == stRead.oWords)
             return stNext.nAsked;
     }
     StQuestions       stQuestions = m_lstShared[nAsked].stQuestions;
@@ -98,15 +90,16 @@ std::size_t CReadMarks::take(std::size_t nAsked, const StAttributeRead& stRead)
     if (itAsked == stQuestions.lstAttribute.end())
         itAsked = stQuestions.lstAttribute.insert(itAsked, {strName, stRead.enReadAs, {}});
     bool bMore = nKnown != stQuestions.lstAttribute.size();
-    for (const std::string_view strWord : stRead.lstWord)
+    for (std::size_t nRow = 0; nRow < stRead.oWords.size(); ++nRow)
     {
+        const std::string_view strWord = stRead.oWords[nRow];
         if (itAsked->isWord(strWord))
             continue;
         itAsked->lstWord.push_back(strWord);
         bMore = true;
     }
     const std::size_t nNext = bMore ? share(std::move(stQuestions)) : nAsked;
-    m_lstShared[nAsked].lstNextAttribute.push_back({stRead.pszName, stRead.lstWord, nNext});
+    m_lstShared[nAsked].lstNextAttribute.push_back({stRead.pszName, stRead.oWords, nNext});
     return nNext;
 }
 

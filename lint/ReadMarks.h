@@ -68,9 +68,9 @@ private:
     // One question more, and the number of the questions that it leads to.
     struct StNext
     {
-        const char16_t*               pszName;
-        std::vector<std::string_view> lstWord; // of an attribute that is a word
-        std::size_t                   nAsked;
+        const char16_t* pszName;
+        CWordTable      oWords; // of an attribute that is a word
+        std::size_t     nAsked;
     };
     // Elements of one kind are asked the same in the same order, and share it.
     struct StShared
