@@ -33,18 +33,6 @@ std::string transcode(const XMLCh* pszText)
         return {}; // not expressible in the local code page
     }
 }
-
-// Narrows a text; false when it is not plain ASCII.
-bool narrow(const XMLCh* pszText, std::size_t nLength, char* pOut)
-{
-    unsigned int nBits = 0;
-    for (std::size_t nAt = 0; nAt < nLength; ++nAt)
-    {
-        nBits |= pszText[nAt];
-        pOut[nAt] = static_cast<char>(pszText[nAt]);
-    }
-    return nBits < 0x80;
-}
 } // namespace
 
 std::string toLocal(const XMLCh* pszText)
@@ -52,15 +40,14 @@ std::string toLocal(const XMLCh* pszText)
     return pszText == nullptr ? std::string() : toLocal(pszText, XMLString::stringLen(pszText));
 }
 
-// ASCII is the same bytes in every local code page, and nearly all texts are ASCII
-// and short.
+// Nearly all texts are ASCII and short.
 std::string toLocal(const XMLCh* pszText, std::size_t nLength)
 {
     char arShort[64];
     if (nLength <= sizeof(arShort))
-        return narrow(pszText, nLength, arShort) ? std::string(arShort, nLength) : transcode(pszText);
+        return toAscii({pszText, nLength}, arShort) ? std::string(arShort, nLength) : transcode(pszText);
     std::string strLong(nLength, '\0');
-    if (!narrow(pszText, nLength, strLong.data()))
+    if (!toAscii({pszText, nLength}, strLong.data()))
         return transcode(pszText);
     return strLong;
 }

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "names are written as u\"...\" literals");
@@ -18,6 +19,19 @@ static_assert(std::is_same_v<XMLCh, char16_t>, "names are written as u\"...\" li
 // text ends with a null, also where its length is known.
 OPERATIONXML_API std::string toLocal(const XMLCh* pszText);
 OPERATIONXML_API std::string toLocal(const XMLCh* pszText, std::size_t nLength);
+
+// Narrows a text into as many bytes; false when it is not plain ASCII. ASCII is the same
+// bytes in every local code page.
+inline bool toAscii(std::u16string_view strText, char* pOut)
+{
+    unsigned int nBits = 0;
+    for (std::size_t nAt = 0; nAt < strText.size(); ++nAt)
+    {
+        nBits |= strText[nAt];
+        pOut[nAt] = static_cast<char>(strText[nAt]);
+    }
+    return nBits < 0x80;
+}
 
 // A text of the local code page as the parser holds it.
 std::u16string fromLocal(const std::string& strText);

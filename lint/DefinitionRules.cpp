@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <memory_resource>
 #include <set>
 #include <string>
 #include <string_view>
@@ -103,10 +104,35 @@ struct StSamenessHash
     {
         std::size_t nHash = std::hash<const void*>()(stSameness.pBelow);
         for (const std::string_view strText : stSameness.arText)
-            nHash = nHash * 31 + std::hash<std::string_view>()(strText);
+        {
+            if (!strText.empty())
+                nHash = nHash * 31 + std::hash<std::string_view>()(strText);
+        }
         return nHash;
     }
 };
+
+// What all entries have in common whose readers asked the same.
+struct StDefinitionKind
+{
+    bool bStep     = false;
+    bool bOption   = false;
+    bool bBySysOid = false;
+    bool bIdIsWord = false;
+    bool bHasLevel = false;
+};
+
+StDefinitionKind definitionKind(const StQuestions& stAsked)
+{
+    const StAskedAttribute* pId = stAsked.find("id");
+    StDefinitionKind        stKind;
+    stKind.bStep     = stAsked.find("dependsOn") != nullptr;
+    stKind.bOption   = stAsked.optionNumber() != nullptr;
+    stKind.bBySysOid = stAsked.find("sysoid") != nullptr;
+    stKind.bIdIsWord = pId != nullptr && pId->enReadAs == EnReadAs::Word;
+    stKind.bHasLevel = stAsked.find("operationLevel") != nullptr;
+    return stKind;
+}
 
 class CDefinitionCheck
 {
@@ -114,9 +140,10 @@ public:
     CDefinitionCheck(const StReadDocument& stRead, CFileReport& oReport, const StLostNames& stLost)
         : m_stRead(stRead), m_oReport(oReport), m_stLost(stLost)
     {
+        m_mapFirst.reserve(m_stRead.oTree.elements().size());
         for (const StReadElement& stEntry : m_stRead.oTree.elements())
         {
-            if (stEntry.stMark.bMet && stEntry.asked("dependsOn") != nullptr)
+            if (stEntry.stMark.bMet && kindOf(stEntry).bStep)
                 m_mapStep[taskOf(stEntry)].emplace(idOf(stEntry));
         }
     }
@@ -131,8 +158,10 @@ public:
                 reportNested(stEntry);
             if (!stEntry.stMark.bMet || stEntry.bInside)
                 continue;
-            checkStep(stEntry);
-            if (stEntry.isOption())
+            const StDefinitionKind& stKind = kindOf(stEntry);
+            if (stKind.bStep)
+                checkStep(stEntry);
+            if (stKind.bOption)
                 checkOption(stEntry);
             else if (m_stRead.enKind == EnFileKind::Capacity)
                 checkCapacityEntry(stEntry);
@@ -142,6 +171,8 @@ public:
     }
 
 private:
+    const StDefinitionKind& kindOf(const StReadElement& stEntry) { return m_oKinds.of(stEntry, definitionKind); }
+
     static std::string_view idOf(const StReadElement& stElement) { return stElement.read("id"); }
 
     // An element as messages name it: <Parameter> "ContentType".
@@ -223,7 +254,7 @@ private:
     // the last entry, all else by the first.
     void checkCapacityEntry(const StReadElement& stEntry)
     {
-        const char*            pszKey = stEntry.asked("sysoid") != nullptr ? "sysoid" : "id";
+        const char*            pszKey = kindOf(stEntry).bBySysOid ? "sysoid" : "id";
         const std::string_view strKey = stEntry.read(pszKey);
         const bool             bKept  = toNumber(std::string(stEntry.read("isSupported"))) != 0;
         const StReadElement*   pFirst =
@@ -240,7 +271,7 @@ private:
         const std::string_view strId = idOf(stEntry);
         if (strId.empty())
             return;
-        if (stEntry.asked("id")->enReadAs == EnReadAs::Word)
+        if (kindOf(stEntry).bIdIsWord)
             return checkTaskType(stEntry, strId);
         const StReadElement* pOperation = operationOf(stEntry);
         const StAskedSection stAsked =
@@ -278,7 +309,7 @@ private:
     // operations behind an upgrade may well be run twice, and a step for another one.
     void checkShown(const StReadElement& stEntry, std::string_view strId, std::string_view strNumber)
     {
-        const bool bInUpgrade = m_stRead.enKind != EnFileKind::FixedCheck && stEntry.asked("operationLevel") != nullptr;
+        const bool bInUpgrade = m_stRead.enKind != EnFileKind::FixedCheck && kindOf(stEntry).bHasLevel;
         if (stEntry.pOwner == nullptr || bInUpgrade)
             return;
         const std::string_view strKind = strNumber.empty() ? stEntry.read("type") : strNumber;
@@ -355,13 +386,17 @@ private:
                                  stEntry.subject(), std::move(lstHelp));
     }
 
-    const StReadDocument&                                                m_stRead;
-    CFileReport&                                                         m_oReport;
-    const StLostNames&                                                   m_stLost;
-    std::unordered_map<const StReadElement*, std::set<std::string>>      m_mapStep; // ids of the steps of each task
-    std::unordered_map<std::string_view, StAskedSection>                 m_mapAsked;
-    std::unordered_map<StSameness, const StReadElement*, StSamenessHash> m_mapFirst;
-    CHints                                                               m_oHints;
+    using FirstMap = std::pmr::unordered_map<StSameness, const StReadElement*, StSamenessHash>;
+
+    const StReadDocument&                                           m_stRead;
+    CFileReport&                                                    m_oReport;
+    const StLostNames&                                              m_stLost;
+    CByQuestions<StDefinitionKind>                                  m_oKinds;
+    std::unordered_map<const StReadElement*, std::set<std::string>> m_mapStep; // ids of the steps of each task
+    std::unordered_map<std::string_view, StAskedSection>            m_mapAsked;
+    std::pmr::monotonic_buffer_resource                             m_oFirstPool;
+    FirstMap                                                        m_mapFirst{&m_oFirstPool};
+    CHints                                                          m_oHints;
 };
 } // namespace
 

@@ -183,7 +183,7 @@ private:
     {
         for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
         {
-            if (!stWritten.bRead && !isForOthers(stWritten.strName) && !m_oReport.isFull())
+            if (!stWritten.isRead() && !isForOthers(stWritten.strName) && !m_oReport.isFull())
                 reportAttribute(stElement, stWritten);
         }
     }
@@ -201,7 +201,7 @@ private:
         const std::string strNear = nearestName(stWritten.strName, lstMissing);
         if (strNear.empty() && stElement.stMark.bGivenUp)
             return; // its reader may have asked for it later
-        m_stLost.setText.insert(stWritten.strValue);
+        m_stLost.setText.emplace(stWritten.strValue);
         const StSpot      stSpot   = m_stRead.oPlaces.attributeSpot(*stElement.pElement, stWritten.strName);
         const std::string strWhat  = "nothing reads " + inQuotes(stWritten.strName) + " of " + tag(stElement.strName);
         const std::string strAbout = stElement.subject() + "@" + shortened(stWritten.strName);
@@ -252,7 +252,7 @@ private:
     void lose(const StReadElement& stElement)
     {
         for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
-            m_stLost.setText.insert(stWritten.strValue);
+            m_stLost.setText.emplace(stWritten.strValue);
     }
 
     const StReadDocument& m_stRead;

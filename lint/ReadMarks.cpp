@@ -33,6 +33,12 @@ const StAskedAttribute* StQuestions::find(std::string_view strAttribute) const
     return itAsked == lstAttribute.end() ? nullptr : &*itAsked;
 }
 
+const StAskedAttribute* StQuestions::optionNumber() const
+{
+    const StAskedAttribute* pValue = find("value");
+    return pValue != nullptr && pValue->enReadAs == EnReadAs::Number ? pValue : nullptr;
+}
+
 bool StQuestions::looksFor(std::string_view strElement) const
 {
     return contains(lstElement, strElement);

@@ -35,7 +35,11 @@ struct StQuestions
     std::vector<std::string>      lstElement; // looked for below it
 
     const StAskedAttribute* find(std::string_view strAttribute) const; // null: nobody asked
-    bool                    looksFor(std::string_view strElement) const;
+
+    // The number by which an option is told, whatever its element is called; null: it is none.
+    const StAskedAttribute* optionNumber() const;
+
+    bool looksFor(std::string_view strElement) const;
 };
 
 struct StMark

@@ -13,7 +13,7 @@ namespace lint
 {
 namespace
 {
-const StWrittenAttribute* written(const StReadElement& stElement, std::string_view strAttribute)
+const StWrittenAttribute* findWritten(const StReadElement& stElement, std::string_view strAttribute)
 {
     for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
     {
@@ -44,7 +44,7 @@ bool isSpoilt(const StReadElement& stElement)
     // What was not asked for where the reader gave up may be right.
     return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
                        [&](const StWrittenAttribute& stWritten) {
-                           return !stWritten.bRead &&
+                           return !stWritten.isRead() &&
                                   (!stElement.stMark.bGivenUp || !nearestName(stWritten.strName, lstMissing).empty());
                        });
 }
@@ -52,32 +52,42 @@ bool isSpoilt(const StReadElement& stElement)
 bool hasUnread(const StReadElement& stElement)
 {
     return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
-                       [](const StWrittenAttribute& stWritten) { return !stWritten.bRead; });
+                       [](const StWrittenAttribute& stWritten) { return !stWritten.isRead(); });
+}
+
+std::size_t attributeCount(const catalog::CDocumentPlaces& oPlaces)
+{
+    std::size_t nAttributes = 0;
+    for (const catalog::StElementPlace& stPlace : oPlaces.elements())
+        nAttributes += stPlace.pElement->getAttributes()->getLength();
+    return nAttributes;
 }
 } // namespace
 
 std::string_view StReadElement::value(std::string_view strAttribute) const
 {
-    const StWrittenAttribute* pWritten = written(*this, strAttribute);
+    const StWrittenAttribute* pWritten = findWritten(*this, strAttribute);
     return pWritten == nullptr ? std::string_view() : pWritten->strValue;
 }
 
 bool StReadElement::isRead(std::string_view strAttribute) const
 {
-    const StWrittenAttribute* pWritten = written(*this, strAttribute);
-    return pWritten != nullptr && pWritten->bRead;
+    const StWrittenAttribute* pWritten = findWritten(*this, strAttribute);
+    return pWritten != nullptr && pWritten->isRead();
 }
 
 std::string_view StReadElement::read(std::string_view strAttribute) const
 {
-    const StWrittenAttribute* pWritten = written(*this, strAttribute);
-    return pWritten == nullptr || !pWritten->bRead ? std::string_view() : pWritten->strValue;
+    const StWrittenAttribute* pWritten = findWritten(*this, strAttribute);
+    return pWritten == nullptr || !pWritten->isRead() ? std::string_view() : pWritten->strValue;
 }
 
-bool StReadElement::isOption() const
+const StWrittenAttribute* StReadElement::written(const StAskedAttribute& stAsked) const
 {
-    const StAskedAttribute* pValue = asked("value");
-    return pValue != nullptr && pValue->enReadAs == EnReadAs::Number;
+    const auto* pWritten =
+        std::find_if(lstAttribute.begin(), lstAttribute.end(),
+                     [&stAsked](const StWrittenAttribute& stWritten) { return stWritten.pAsked == &stAsked; });
+    return pWritten == lstAttribute.end() ? nullptr : pWritten;
 }
 
 std::string StReadElement::subject() const
@@ -89,8 +99,10 @@ std::string StReadElement::subject() const
 }
 
 CReadTree::CReadTree(const DOMDocument& oDocument, const catalog::CDocumentPlaces& oPlaces, const CReadMarks& oMarks)
-    : m_oMarks(oMarks), m_stOfDocument(oMarks.questions(oMarks.of(oDocument))), m_lstElement(oPlaces.elements().size())
+    : m_oMarks(oMarks), m_stOfDocument(oMarks.questions(oMarks.of(oDocument))),
+      m_oTextPool(oPlaces.text()->bytes().size()), m_lstElement(oPlaces.elements().size())
 {
+    m_lstAttribute.reserve(attributeCount(oPlaces)); // elements point into it
     std::vector<StReadElement*> lstOpen;
     for (std::size_t nAt = 0; nAt < m_lstElement.size(); ++nAt)
     {
@@ -109,20 +121,33 @@ CReadTree::CReadTree(const DOMDocument& oDocument, const catalog::CDocumentPlace
 
 void CReadTree::fill(StReadElement& stElement, const DOMElement& oElement)
 {
-    stElement.pElement          = &oElement;
-    stElement.strName           = nameOf(oElement.getNodeName());
-    stElement.stMark            = m_oMarks.of(oElement);
-    stElement.pAsked            = &m_oMarks.questions(stElement.stMark);
-    const DOMNamedNodeMap& oMap = *oElement.getAttributes();
-    stElement.lstAttribute.reserve(oMap.getLength());
-    for (XMLSize_t nAt = 0; nAt < oMap.getLength(); ++nAt)
+    stElement.pElement             = &oElement;
+    stElement.strName              = nameOf(oElement.getNodeName());
+    stElement.stMark               = m_oMarks.of(oElement);
+    stElement.pAsked               = &m_oMarks.questions(stElement.stMark);
+    const DOMNamedNodeMap& oMap    = *oElement.getAttributes();
+    const XMLSize_t        nLength = oMap.getLength();
+    const std::size_t      nFirst  = m_lstAttribute.size();
+    for (XMLSize_t nAt = 0; nAt < nLength; ++nAt)
+        m_lstAttribute.push_back(attribute(stElement, static_cast<const DOMAttr&>(*oMap.item(nAt))));
+    stElement.lstAttribute = {m_lstAttribute.data() + nFirst, m_lstAttribute.data() + m_lstAttribute.size()};
+}
+
+StWrittenAttribute CReadTree::attribute(const StReadElement& stElement, const DOMAttr& oAttr)
+{
+    const XMLCh* const     pszPooled = oAttr.getName();
+    const std::string_view strValue  = textOf(valueOf(oAttr));
+    auto& lstKnown = m_oKnown.of(stElement, [](const StQuestions&) { return std::vector<StKnownName>(); });
+    for (const StKnownName& stKnown : lstKnown)
     {
-        const auto&               oAttr    = static_cast<const DOMAttr&>(*oMap.item(nAt));
-        const std::string_view    strName  = nameOf(oAttr.getName());
-        const std::u16string_view strValue = valueOf(oAttr);
-        stElement.lstAttribute.push_back(
-            {strName, toLocal(strValue.data(), strValue.size()), stElement.pAsked->find(strName) != nullptr});
+        if (stKnown.pszPooled == pszPooled)
+            return {stKnown.pAsked->strName, strValue, stKnown.pAsked};
     }
+    const std::string_view        strName = nameOf(pszPooled);
+    const StAskedAttribute* const pAsked  = stElement.pAsked->find(strName);
+    if (pAsked != nullptr) // of all others a document may have any number
+        lstKnown.push_back({pszPooled, pAsked});
+    return {strName, strValue, pAsked};
 }
 
 // Finds whose an element is that a reader came to.
@@ -151,5 +176,18 @@ std::string_view CReadTree::nameOf(const XMLCh* pszPooled)
     if (bNew)
         itName->second = toLocal(pszPooled);
     return itName->second;
+}
+
+std::string_view CReadTree::textOf(std::u16string_view strText)
+{
+    if (strText.empty())
+        return {};
+    auto* pText = static_cast<char*>(m_oTextPool.allocate(strText.size(), 1));
+    if (toAscii(strText, pText))
+        return {pText, strText.size()};
+    const std::string strLocal = toLocal(strText.data(), strText.size());
+    pText                      = static_cast<char*>(m_oTextPool.allocate(strLocal.size(), 1));
+    std::copy(strLocal.begin(), strLocal.end(), pText);
+    return {pText, strLocal.size()};
 }
 } // namespace lint

@@ -61,7 +61,7 @@ protected:
     static bool hasUnread(const StReadElement& stElement)
     {
         return std::any_of(stElement.lstAttribute.begin(), stElement.lstAttribute.end(),
-                           [](const StWrittenAttribute& stWritten) { return !stWritten.bRead; });
+                           [](const StWrittenAttribute& stWritten) { return !stWritten.isRead(); });
     }
 
     static bool holdsUnread(const StReadElement& stElement)

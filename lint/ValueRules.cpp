@@ -52,19 +52,19 @@ public:
                 return;
             for (const StWrittenAttribute& stWritten : stElement.lstAttribute)
             {
-                const StAskedAttribute* pAsked = stWritten.bRead ? stElement.asked(stWritten.strName) : nullptr;
+                const StAskedAttribute* pAsked = stWritten.pAsked;
                 if (pAsked == nullptr || pAsked->enReadAs == EnReadAs::Text)
                     continue;
                 if (pAsked->enReadAs == EnReadAs::Word)
                     checkWord(stElement, *pAsked, stWritten.strValue);
-                else
+                else if (!isPlainNumber(stWritten.strValue))
                     checkNumber(stElement, *pAsked, stWritten.strValue);
             }
         }
     }
 
 private:
-    void checkWord(const StReadElement& stElement, const StAskedAttribute& stAsked, const std::string& strValue)
+    void checkWord(const StReadElement& stElement, const StAskedAttribute& stAsked, std::string_view strValue)
     {
         const std::vector<std::string_view>& lstWord = stAsked.lstWord;
         if (stAsked.isWord(strValue))
@@ -95,7 +95,15 @@ private:
             {strNear.empty() ? "words read here: " + listText(lstKnown) : "did you mean " + inQuotes(strNear) + "?"});
     }
 
-    void checkNumber(const StReadElement& stElement, const StAskedAttribute& stAsked, const std::string& strValue)
+    // Digits alone, of which so few fit into 32 bits: as nearly all numbers are.
+    static bool isPlainNumber(std::string_view strValue)
+    {
+        return !strValue.empty() && strValue.size() < 10 &&
+               std::all_of(strValue.begin(), strValue.end(),
+                           [](char cDigit) { return cDigit >= '0' && cDigit <= '9'; });
+    }
+
+    void checkNumber(const StReadElement& stElement, const StAskedAttribute& stAsked, std::string_view strValue)
     {
         const bool             bFlag   = stAsked.enReadAs == EnReadAs::Flag;
         const std::string      strName = inQuotes(stAsked.strName);
@@ -104,7 +112,7 @@ private:
         std::size_t            nEnd    = nSign;
         while (nEnd < strText.size() && std::isdigit(static_cast<unsigned char>(strText[nEnd])) != 0)
             ++nEnd;
-        const std::string strReads = std::to_string(toNumber(strValue));
+        const std::string strReads = std::to_string(toNumber(std::string(strValue)));
         if (nEnd == nSign)
             return add("number-missing", stElement, stAsked,
                        inQuotes(strValue) +
