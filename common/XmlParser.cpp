@@ -413,9 +413,8 @@ ElementList& CXmlParser::elementsNamed(const XMLCh* pszName)
 void CXmlParser::docCharacters(const XMLCh* pszText, XMLSize_t nLength, bool bIsCData)
 {
     checkContent(nLength);
-    // Behind an element, the current node is not the one that is open.
-    const bool bLeftOut = !m_bKeepsBlanks && m_bIsReading && fCurrentNode != fCurrentParent &&
-                          fCurrentNode->getNodeType() == DOMNode::ELEMENT_NODE &&
+    // The current node is the one before the text: the open element or its last child.
+    const bool bLeftOut = !m_bKeepsBlanks && m_bIsReading && fCurrentNode->getNodeType() == DOMNode::ELEMENT_NODE &&
                           XMLChar1_0::isAllSpaces(pszText, nLength);
     if (keepsTexts() && !bLeftOut)
         XercesDOMParser::docCharacters(pszText, nLength, bIsCData);

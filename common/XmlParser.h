@@ -60,7 +60,7 @@ public:
     // as much as making an element.
     void leaveOutTexts() { m_bKeepsTexts = false; }
 
-    // The same for blanks behind an element alone, which is what nearly all texts of a
+    // The same for blanks behind a tag alone, which is what nearly all texts of a
     // configuration file are: for those who look for texts that should not be there.
     void leaveOutBlanks() { m_bKeepsBlanks = false; }
 
