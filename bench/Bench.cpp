@@ -30,6 +30,7 @@ int run(int nArguments, char** ppszArguments)
     addGrowthBenchmarks();
     addAlarmBenchmarks();
     addToolBenchmarks();
+    addCommandBenchmarks();
     addQueryBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     std::printf("\n%s", targetTable().c_str());

@@ -33,6 +33,7 @@ void addThreadBenchmarks();
 void addGrowthBenchmarks();
 void addAlarmBenchmarks();
 void addToolBenchmarks();
+void addCommandBenchmarks();
 void addQueryBenchmarks();
 
 #endif
