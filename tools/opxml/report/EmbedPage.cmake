@@ -4,7 +4,7 @@
 # script, in the order in which they import each other, without imports and exports.
 # The policy names style and script by their hashes, so nothing else runs.
 cmake_minimum_required(VERSION 3.25)
-set(SCRIPTS data view choose dom cells grid filters paper matrix tree detail health comparison main)
+set(SCRIPTS words data view choose dom cells grid filters paper matrix tree detail health comparison main)
 set(STYLES base matrix sign detail text narrow)
 
 # The SHA-256 of a text in base64, as a policy wants it; CMake knows hexadecimal.

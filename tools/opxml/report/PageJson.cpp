@@ -184,6 +184,7 @@ Json pageJson(const StReport& stReport)
         {"kinds", kindsJson(stReport.oColumns)},
         {"sections", sectionsJson()},
         {"columns", columnsJson(stReport.oColumns)},
+        {"records", stReport.lstRecord},
         {"rows", rowsJson(stReport)},
         {"devices", devicesJson(stReport)},
         {"modules", modulesJson(stReport)},

@@ -7,6 +7,7 @@
 #define OPERATIONXML_TOOLS_OPXML_REPORT_REPORTDATA_H
 
 #include "tools/opxml/report/Cells.h"
+#include "tools/opxml/report/Detail.h"
 
 #include <array>
 #include <cstddef>
@@ -105,6 +106,7 @@ struct StReport
     std::string                     strMade; // "2031-05-09T07:30:00Z"
     std::string                     strTool; // "opxml 0.2.0"
     CColumns                        oColumns;
+    DetailRecords                   lstRecord;
     std::vector<StReportRow>        lstRow; // in the order of a load
     std::vector<StReportDevice>     lstDevice;
     std::vector<StReportModule>     lstModule;

@@ -2,7 +2,6 @@
 #include "tools/opxml/report/TypeReader.h"
 
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/report/Detail.h"
 #include "tools/opxml/report/Packing.h"
 
 #include <algorithm>
@@ -108,11 +107,11 @@ std::vector<StReportRow> CTypeReader::configuredRows(const catalog::StTypeCatalo
     return lstRow;
 }
 
-std::vector<std::string> CTypeReader::details(const catalog::StTypeCatalog& stType) const
+std::vector<std::string> CTypeReader::details(const catalog::StTypeCatalog& stType)
 {
     std::vector<std::string> lstDetail;
     for (std::size_t nAt = 0; m_fnDetail && nAt < stType.lstConfiguration.size(); ++nAt)
-        lstDetail.push_back(packed(detailJson(stType, nAt)));
+        lstDetail.push_back(packed(m_oDetails.make(stType, nAt)));
     return lstDetail;
 }
 
@@ -153,6 +152,7 @@ void CTypeReader::replaceEarlier(std::vector<std::size_t>& lstEntry)
 
 void CTypeReader::finish()
 {
+    m_stReport.lstRecord = m_oDetails.records();
     for (StEntryRows& stRows : m_lstEntry)
         std::move(stRows.lstRow.begin(), stRows.lstRow.end(), std::back_inserter(m_stReport.lstRow));
 }

@@ -6,6 +6,7 @@
 #define OPERATIONXML_TOOLS_OPXML_REPORT_TYPEREADER_H
 
 #include "catalog/Catalog.h"
+#include "tools/opxml/report/Detail.h"
 #include "tools/opxml/report/ReportData.h"
 
 #include <cstddef>
@@ -43,12 +44,13 @@ private:
     };
 
     std::vector<StReportRow> configuredRows(const catalog::StTypeCatalog& stType);
-    std::vector<std::string> details(const catalog::StTypeCatalog& stType) const;
+    std::vector<std::string> details(const catalog::StTypeCatalog& stType);
     void                     handOn(StEntryRows& stRows);
     void                     replaceEarlier(std::vector<std::size_t>& lstEntry);
 
     StReport&                                                  m_stReport;
     DetailSink                                                 m_fnDetail;
+    CDetailMaker                                               m_oDetails;
     std::vector<StEntryRows>                                   m_lstEntry;   // in the order of a load
     std::map<std::pair<std::string, std::string>, std::size_t> m_mapEntry;   // by type and version
     std::map<std::string, std::vector<std::size_t>>            m_mapKey;     // entries that share a storage key

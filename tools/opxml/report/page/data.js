@@ -1,5 +1,6 @@
 // What the page knows: reads the JSON and the packed details that stand in it.
 // tools/opxml/report/PageJson.cpp and Detail.h say how they are written.
+import { wordsOfEntry } from "./words.js";
 
 const CELL_CHARACTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz!#$%()*+,-./";
 const CODE_OF = new Map([...CELL_CHARACTERS].map((character, code) => [character, code]));
@@ -114,28 +115,40 @@ async function unpack(base64) {
 
 // The files of a detail, and its sections with places as [file, line, column].
 function readDetail(written) {
+  const met = written.values.map(() => 0); // entries of each record
+  let next = 0;
   let file = 0;
   let line = 0;
-  const readNode = ([name, rest, down, column, children = [], more = {}]) => {
+  const readEntry = (record) => {
+    const at = met[record]++;
+    const [, ...fields] = page.records[record];
+    return Object.fromEntries(fields.map((field, which) => [field, written.values[record][which][at]]));
+  };
+  const readNode = (isInside) => {
+    const at = next++;
+    const record = written.record[at];
+    const more = written.more[at] ?? {};
     if (more.f !== undefined) {
       file = more.f;
       line = 0;
     }
-    line += down;
+    line += written.down[at];
     return {
-      name,
-      rest,
-      place: [file, line, column],
+      ...wordsOfEntry(page.records[record][0], readEntry(record), isInside),
+      place: [file, line, written.column[at]],
       module: more.m,
       fate: more.t,
       because: more.b,
       reason: more.r,
-      children: children.map(readNode),
+      children: Array.from({ length: written.children[at] }, () => readNode(true)),
     };
   };
   return {
     files: written.files,
-    sections: written.sections.map(([section, ...nodes]) => ({ section, nodes: nodes.map(readNode) })),
+    sections: written.sections.map(([section, length]) => ({
+      section,
+      nodes: Array.from({ length }, () => readNode(false)),
+    })),
   };
 }
 
