@@ -12,6 +12,7 @@
 #include <list>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 namespace catalog
@@ -54,8 +55,9 @@ constexpr EnFieldKind fieldKind(Kind /*stKind*/)
         return EnFieldKind::Word;
 }
 
+// Fills a fresh entry where it stays: entries are large.
 template <typename Record>
-StEntry makeEntry(const CReadRecorder& oRecorder, const Record& stRecord);
+void fillEntry(const CReadRecorder& oRecorder, const Record& stRecord, StEntry& stEntry);
 
 // The entries of a list and, among them, those that were lost from it.
 template <typename Record>
@@ -65,7 +67,7 @@ void addEntries(const CReadRecorder& oRecorder, const std::list<Record>& lstReco
     const std::size_t nFirst = lstEntry.size();
     lstEntry.reserve(nFirst + lstRecord.size());
     for (const Record& stRecord : lstRecord)
-        lstEntry.push_back(makeEntry(oRecorder, stRecord));
+        fillEntry(oRecorder, stRecord, lstEntry.emplace_back());
     for (const StLost& stLost : lstLost)
     {
         if (stLost.nList != nList)
@@ -80,18 +82,17 @@ void addEntries(const CReadRecorder& oRecorder, const std::list<Record>& lstReco
 std::string identity(const StEntry& stEntry);
 
 template <typename Record>
-StEntry makeEntry(const CReadRecorder& oRecorder, const Record& stRecord)
+void fillEntry(const CReadRecorder& oRecorder, const Record& stRecord, StEntry& stEntry)
 {
     static const StSeen s_stUnknown;
     const StSeen*       pFound = oRecorder.find(&stRecord);
     const StSeen&       stSeen = pFound == nullptr ? s_stUnknown : *pFound;
-    StEntry             stEntry;
-    stEntry.pszRecord = nameOf(&stRecord);
-    stEntry.stPlace   = stSeen.stPlace;
-    stEntry.enOrigin  = stSeen.enOrigin;
+    stEntry.pszRecord          = nameOf(&stRecord);
+    stEntry.stPlace            = stSeen.stPlace;
+    stEntry.enOrigin           = stSeen.enOrigin;
     if (stSeen.enOrigin == EnOrigin::Module)
         stEntry.strModule = oRecorder.module(stSeen.stPlace.ulFile).strName;
-    stEntry.lstField.reserve(stSeen.lstAttribute.size() + 1);
+    stEntry.lstField.reserve(std::tuple_size_v<decltype(fieldsOf(&stRecord))>);
     visitFields(stRecord,
                 [&](const char* pszName, auto stKind, const auto& value)
                 {
@@ -99,11 +100,10 @@ StEntry makeEntry(const CReadRecorder& oRecorder, const Record& stRecord)
                         addEntries(oRecorder, value, oRecorder.lost(&stRecord), listOffset(&stRecord, &value),
                                    stEntry.lstChild);
                     else
-                        stEntry.lstField.push_back(
-                            {pszName, fieldKind(stKind), fieldText(stKind, value), stSeen.fieldPlace(pszName)});
+                        stEntry.lstField.push_back({pszName, fieldKind(stKind), fieldText(stKind, value),
+                                                    oRecorder.fieldPlace(stSeen, pszName)});
                 });
     stEntry.strId = identity(stEntry);
-    return stEntry;
 }
 } // namespace catalog
 

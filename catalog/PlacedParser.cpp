@@ -1,10 +1,10 @@
 // See PlacedParser.h. The scanner knows the byte at which a start tag has ended; the
 // tag begins at the last "<" before it, which no attribute value can hold. Elements
-// are numbered as they open, and the finished document is walked in the same order.
+// are numbered as they open.
 #include "catalog/PlacedParser.h"
 
 #include "common/FileBytes.h"
-#include "common/XmlRead.h"
+#include "common/XmlText.h"
 
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
@@ -21,7 +21,19 @@ namespace catalog
 {
 namespace
 {
-constexpr std::string_view BLANKS = " \t\r\n";
+constexpr bool isBlank(char cByte)
+{
+    return cByte == ' ' || cByte == '\t' || cByte == '\r' || cByte == '\n';
+}
+
+// The first byte from a place on that is such a one, or the end of the text.
+template <typename Is>
+std::size_t findByte(std::string_view strText, std::size_t nFrom, const Is& fnIs)
+{
+    while (nFrom < strText.size() && !fnIs(strText[nFrom]))
+        ++nFrom;
+    return nFrom;
+}
 
 // Where the name of the encoding stands in the declaration of a text.
 StRange declaredEncoding(std::string_view strText)
@@ -90,61 +102,68 @@ std::string decoded(const std::string& strBytes, const char* pszEncoding)
 const StElementPlace& CDocumentPlaces::element(const DOMElement& oElement) const
 {
     static const StElementPlace s_stUnknown;
-    const auto                  itElement = m_mapElement.find(&oElement);
-    return itElement == m_mapElement.end() ? s_stUnknown : m_lstElement[itElement->second];
+    const std::size_t           nElement = m_oNumbers.find(&oElement);
+    return nElement == CAddressTable::NONE ? s_stUnknown : m_lstElement[nElement];
 }
 
-StSpot CDocumentPlaces::nameSpot(const DOMElement& oElement) const
+std::size_t CDocumentPlaces::nameEnd(const StElementPlace& stElement) const
 {
-    const StElementPlace& stPlace = element(oElement);
-    if (stPlace.stTag.nEnd == 0)
-        return {};
-    const std::size_t nBegin = stPlace.stTag.nBegin + 1;
-    const std::size_t nEnd   = m_pText->bytes().find_first_of(" \t\r\n/>", nBegin);
-    return m_pText->spot(nBegin, std::min(nEnd, stPlace.stTag.nEnd) - nBegin);
+    const std::string_view strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
+    return findByte(strText, stElement.stTag.nBegin,
+                    [](char cByte) { return isBlank(cByte) || cByte == '/' || cByte == '>'; });
 }
 
-std::vector<StAttributePlace> CDocumentPlaces::attributes(const StElementPlace& stElement) const
+StSpot CDocumentPlaces::nameSpot(const StElementPlace& stElement) const
 {
-    std::vector<StAttributePlace> lstAttribute;
-    const std::string_view        strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
-    lstAttribute.reserve(8); // nearly all have less
-    std::size_t nAt = std::min(strText.find_first_of(" \t\r\n/>", stElement.stTag.nBegin), strText.size());
-    while (stElement.bWritten)
+    const StRange& stTag = stElement.stTag;
+    return stTag.nEnd == 0 ? StSpot{} : spot({stTag.nBegin + 1, nameEnd(stElement)});
+}
+
+void CDocumentPlaces::attributes(const StElementPlace& stElement, std::vector<StAttributePlace>& lstAttribute) const
+{
+    lstAttribute.clear();
+    if (!stElement.bWritten)
+        return;
+    const std::string_view strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
+    std::size_t            nAt     = nameEnd(stElement);
+    for (;;)
     {
-        nAt                      = strText.find_first_not_of(BLANKS, nAt);
-        const std::size_t nEqual = strText.find('=', nAt);
-        if (nEqual == std::string_view::npos)
-            break;
-        const std::size_t nOpen  = strText.find_first_of("\"'", nEqual);
-        const std::size_t nClose = nOpen == std::string_view::npos ? nOpen : strText.find(strText[nOpen], nOpen + 1);
-        if (nClose == std::string_view::npos)
-            break;
-        const std::size_t nNameEnd = strText.find_last_not_of(BLANKS, nEqual - 1) + 1;
-        lstAttribute.push_back({strText.substr(nAt, nNameEnd - nAt), {nAt, nNameEnd}, {nOpen + 1, nClose}});
+        const std::size_t nName = findByte(strText, nAt, [](char cByte) { return !isBlank(cByte); });
+        const std::size_t nNameEnd =
+            findByte(strText, nName, [](char cByte) { return cByte == '=' || isBlank(cByte); });
+        const std::size_t nOpen = findByte(strText, nNameEnd, [](char cByte) { return cByte == '"' || cByte == '\''; });
+        const std::size_t nClose = nOpen == strText.size() ? nOpen : strText.find(strText[nOpen], nOpen + 1);
+        if (nClose >= strText.size())
+            return;
+        lstAttribute.push_back({strText.substr(nName, nNameEnd - nName), {nName, nNameEnd}, {nOpen + 1, nClose}});
         nAt = nClose + 1;
     }
-    return lstAttribute;
+}
+
+// That of the name, or one without a name.
+StAttributePlace CDocumentPlaces::attribute(const DOMElement& oElement, std::string_view strName) const
+{
+    const StElementPlace&         stElement = element(oElement);
+    std::vector<StAttributePlace> lstAttribute;
+    attributes(stElement, lstAttribute);
+    for (const StAttributePlace& stAttribute : lstAttribute)
+    {
+        if (stAttribute.strName == strName)
+            return stAttribute;
+    }
+    return {};
 }
 
 StSpot CDocumentPlaces::valueSpot(const DOMElement& oElement, std::string_view strName) const
 {
-    for (const StAttributePlace& stAttribute : attributes(element(oElement)))
-    {
-        if (stAttribute.strName == strName)
-            return spot(stAttribute.stValue);
-    }
-    return nameSpot(oElement);
+    const StAttributePlace stAttribute = attribute(oElement, strName);
+    return stAttribute.strName.empty() ? nameSpot(oElement) : spot(stAttribute.stValue);
 }
 
 StSpot CDocumentPlaces::attributeSpot(const DOMElement& oElement, std::string_view strName) const
 {
-    for (const StAttributePlace& stAttribute : attributes(element(oElement)))
-    {
-        if (stAttribute.strName == strName)
-            return spot(stAttribute.stName);
-    }
-    return nameSpot(oElement);
+    const StAttributePlace stAttribute = attribute(oElement, strName);
+    return stAttribute.strName.empty() ? nameSpot(oElement) : spot(stAttribute.stName);
 }
 
 std::unique_ptr<CPlacedParser> CPlacedParser::create()
@@ -238,6 +257,7 @@ void CPlacedParser::endElement(const XMLElementDecl& oDecl, unsigned int nUri, b
     if (m_pPlaces == nullptr)
         return CXmlParser::endElement(oDecl, nUri, bIsRoot, pszPrefix);
     StElementPlace& stPlace = m_pPlaces->m_lstElement[m_lstOpen.back()];
+    stPlace.pElement        = static_cast<const DOMElement*>(fCurrentParent);
     if (stPlace.bWritten)
         stPlace.stWhole.nEnd = static_cast<std::size_t>(getScanner()->getSrcOffset());
     stPlace.nEnd = m_pPlaces->m_lstElement.size();
@@ -260,23 +280,15 @@ void CPlacedParser::docComment(const XMLCh* pszText)
 void CPlacedParser::indexElements()
 {
     nameProblem(m_pPlaces->file());
-    if (problem().isSet())
-        return;
-    const DOMElement*            pRoot      = getDocument()->getDocumentElement();
     std::vector<StElementPlace>& lstElement = m_pPlaces->m_lstElement;
-    std::size_t                  nElement   = 0;
-    const auto                   fnNumber   = [&](const DOMElement* pElement)
+    if (problem().isSet()) // they have gone
     {
-        lstElement[nElement].pElement = pElement;
-        m_pPlaces->m_mapElement.emplace(pElement, nElement++);
-    };
-    m_pPlaces->m_mapElement.reserve(lstElement.size());
-    fnNumber(pRoot);
-    CSubtreeWalk oWalk(pRoot);
-    while (const DOMNode* pNode = oWalk.next())
-    {
-        if (pNode->getNodeType() == DOMNode::ELEMENT_NODE)
-            fnNumber(static_cast<const DOMElement*>(pNode));
+        for (StElementPlace& stElement : lstElement)
+            stElement.pElement = nullptr;
+        return;
     }
+    m_pPlaces->m_oNumbers.reserve(lstElement.size());
+    for (std::size_t nElement = 0; nElement < lstElement.size(); ++nElement)
+        m_pPlaces->m_oNumbers.put(lstElement[nElement].pElement, nElement);
 }
 } // namespace catalog

@@ -4,6 +4,7 @@
 #ifndef OPERATIONXML_CATALOG_PLACEDPARSER_H
 #define OPERATIONXML_CATALOG_PLACEDPARSER_H
 
+#include "catalog/AddressTable.h"
 #include "catalog/SourceText.h"
 #include "common/XmlParser.h"
 #include "platform/Export.h"
@@ -12,7 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace catalog
@@ -65,10 +66,12 @@ public:
     const StElementPlace& element(const xercesc::DOMElement& oElement) const;
 
     // The name in the element's start tag.
-    StSpot nameSpot(const xercesc::DOMElement& oElement) const;
+    StSpot nameSpot(const xercesc::DOMElement& oElement) const { return nameSpot(element(oElement)); }
+    StSpot nameSpot(const StElementPlace& stElement) const;
 
-    // The attributes in a start tag, in the order in which they are written.
-    std::vector<StAttributePlace> attributes(const StElementPlace& stElement) const;
+    // The attributes in a start tag, in the order in which they are written: fills a list
+    // that is kept from element to element.
+    void attributes(const StElementPlace& stElement, std::vector<StAttributePlace>& lstAttribute) const;
 
     // The value of an attribute, or the element's name when it has none of the name.
     StSpot valueSpot(const xercesc::DOMElement& oElement, std::string_view strName) const;
@@ -82,11 +85,14 @@ public:
 private:
     friend class CPlacedParser;
 
-    std::string                                                 m_strFile;
-    std::shared_ptr<const CSourceText>                          m_pText;
-    std::vector<StElementPlace>                                 m_lstElement; // in document order
-    std::vector<StCommentPlace>                                 m_lstComment;
-    std::unordered_map<const xercesc::DOMElement*, std::size_t> m_mapElement;
+    std::size_t      nameEnd(const StElementPlace& stElement) const;
+    StAttributePlace attribute(const xercesc::DOMElement& oElement, std::string_view strName) const;
+
+    std::string                        m_strFile;
+    std::shared_ptr<const CSourceText> m_pText;
+    std::vector<StElementPlace>        m_lstElement; // in document order
+    std::vector<StCommentPlace>        m_lstComment;
+    CAddressTable                      m_oNumbers; // of the elements
 };
 
 class OPERATIONXML_API CPlacedParser : public CXmlParser

@@ -70,7 +70,7 @@ bool isSame(std::u16string_view strRead, std::string_view strWritten)
 }
 } // namespace
 
-StPlace StSeen::fieldPlace(std::string_view strField) const
+StPlace CReadRecorder::fieldPlace(const StSeen& stSeen, std::string_view strField) const
 {
     std::string_view strName = strField; // without the prefix of its type
     strName.remove_prefix(
@@ -81,8 +81,9 @@ StPlace StSeen::fieldPlace(std::string_view strField) const
     StPlace     stWord;
     std::size_t nWords = 0;
     bool        bNamed = false;
-    for (const StSeenAttribute& stAttribute : lstAttribute)
+    for (std::size_t nAt = 0; nAt < stSeen.nAttributes; ++nAt)
     {
+        const StSeenAttribute& stAttribute = m_lstAttribute[stSeen.nAttribute + nAt];
         // Telnet check files have a word of their own, which decides where it stands.
         const bool bChecked = strField == "bSelected" && stAttribute.strName == u"checked";
         if (isNamed(stAttribute.strName, strName) || (bChecked && stAttribute.stPlace.ulLine != 0))
@@ -103,7 +104,9 @@ StPlace StSeen::fieldPlace(std::string_view strField) const
 void CReadRecorder::clear()
 {
     m_mapDocument.clear();
-    m_mapSeen.clear();
+    m_lstSeen.clear();
+    m_lstAttribute.clear();
+    m_oNumbers.clear();
     m_mapLost.clear();
     m_nOpen = 0;
     m_lstCapacity.clear();
@@ -148,8 +151,8 @@ const StModuleHead& CReadRecorder::module(std::uint32_t ulFile) const
 
 const StSeen* CReadRecorder::find(const void* pRecord) const
 {
-    const auto itSeen = m_mapSeen.find(pRecord);
-    return itSeen == m_mapSeen.end() ? nullptr : &itSeen->second;
+    const std::size_t nSeen = m_oNumbers.find(pRecord);
+    return nSeen == CAddressTable::NONE ? nullptr : &m_lstSeen[nSeen];
 }
 
 const std::vector<StLost>& CReadRecorder::lost(const void* pParent) const
@@ -169,13 +172,13 @@ const CReadRecorder::StDocument& CReadRecorder::documentOf(const DOMElement& oEl
 
 void CReadRecorder::attributeRead(const StAttributeRead& stRead)
 {
-    const std::u16string_view strName = stRead.pszName;
     if (m_nOpen != 0)
     {
-        StOpen& stOpen = m_lstOpen[m_nOpen - 1];
-        stOpen.lstRead.push_back({&stRead.oElement, strName, stRead.enReadAs, stRead.pAttr != nullptr});
+        StOpen&                   stOpen  = m_lstOpen[m_nOpen - 1];
+        const std::u16string_view strName = stRead.pszName;
         if (stRead.pAttr != nullptr && stOpen.strId.empty() && (strName == u"id" || strName == u"name"))
-            stOpen.strId = toLocal(stRead.pAttr->getValue());
+            stOpen.strId = valueOf(*stRead.pAttr);
+        stOpen.lstRead.push_back({strName, stRead.enReadAs, placeOf(stOpen, stRead)});
         return;
     }
     // What is read of no record: the task type that checks belong to, the name of a module.
@@ -192,60 +195,44 @@ void CReadRecorder::attributeRead(const StAttributeRead& stRead)
     }
 }
 
+StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRead)
+{
+    if (stRead.pAttr == nullptr)
+        return {};
+    const CDocumentPlaces& oPlaces = *stOpen.pDocument->pPlaces;
+    if (&stRead.oElement != stOpen.pElement)
+        return place(oPlaces.valueSpot(stRead.oElement, toLocal(stRead.pszName)), stOpen.pDocument->ulFile);
+    for (const StAttributePlace& stWritten : stOpen.lstWritten)
+    {
+        if (isSame(stRead.pszName, stWritten.strName))
+            return place(oPlaces.spot(stWritten.stValue), stOpen.pDocument->ulFile);
+    }
+    return stOpen.stSeen.stPlace; // brought by an entity or a declaration
+}
+
 void CReadRecorder::recordBegun(const DOMElement& oElement, const void* pRecord, const void* pList)
 {
     if (!m_mapLost.empty())
         m_mapLost.erase(pRecord); // of what the address stood for before
-    // Records of one document nest: only the outermost is asked for it.
-    const StDocument* pDocument = m_nOpen == 0 ? &documentOf(oElement) : m_lstOpen[m_nOpen - 1].pDocument;
     if (m_nOpen == m_lstOpen.size())
         m_lstOpen.emplace_back();
-    StOpen& stOpen   = m_lstOpen[m_nOpen++];
+    StOpen&       stOpen  = m_lstOpen[m_nOpen];
+    const StOpen* pAround = m_nOpen++ == 0 ? nullptr : &stOpen - 1;
+    // Records of one document nest: only the outermost is asked for it.
+    stOpen.pDocument = pAround == nullptr ? &documentOf(oElement) : pAround->pDocument;
     stOpen.pRecord   = pRecord;
-    stOpen.pList     = pList;
-    stOpen.pDocument = pDocument;
-    stOpen.strId.clear();
+    stOpen.pElement  = &oElement;
+    stOpen.strId     = {};
     stOpen.lstRead.clear();
-}
-
-StSeen CReadRecorder::seen(const DOMElement& oElement, const StOpen& stOpen) const
-{
-    const StDocument& stDocument = *stOpen.pDocument;
-    StSeen            stSeen;
-    stSeen.stPlace  = place(stDocument.pPlaces->nameSpot(oElement), stDocument.ulFile);
-    stSeen.enOrigin = stDocument.enOrigin;
-    stSeen.strId    = stOpen.strId;
-    stSeen.pParent  = m_nOpen == 0 ? nullptr : m_lstOpen[m_nOpen - 1].pRecord;
-    stSeen.pList    = stOpen.pList;
-    stSeen.lstAttribute.reserve(stOpen.lstRead.size() + 1);
-    const std::vector<StAttributePlace> lstWritten =
-        stDocument.pPlaces->attributes(stDocument.pPlaces->element(oElement));
-    for (const StRead& stRead : stOpen.lstRead)
-    {
-        StSeenAttribute& stAttribute = stSeen.lstAttribute.emplace_back();
-        stAttribute.strName          = stRead.strName;
-        stAttribute.enReadAs         = stRead.enReadAs;
-        if (!stRead.bIsThere)
-            continue;
-        const auto itWritten =
-            std::find_if(lstWritten.begin(), lstWritten.end(),
-                         [&](const StAttributePlace& stWritten) { return isSame(stRead.strName, stWritten.strName); });
-        if (stRead.pElement != &oElement)
-            stAttribute.stPlace = place(stDocument.pPlaces->valueSpot(*stRead.pElement, toLocal(stRead.strName.data())),
-                                        stDocument.ulFile);
-        else if (itWritten != lstWritten.end())
-            stAttribute.stPlace = place(stDocument.pPlaces->spot(itWritten->stValue), stDocument.ulFile);
-        else
-            stAttribute.stPlace = stSeen.stPlace; // brought by an entity or a declaration
-    }
-    if (stSeen.pParent == nullptr && m_stTaskType.stPlace.ulLine != 0)
-        stSeen.lstAttribute.push_back(m_stTaskType);
-    return stSeen;
+    const CDocumentPlaces& oPlaces = *stOpen.pDocument->pPlaces;
+    const StElementPlace&  stPlace = oPlaces.element(oElement);
+    oPlaces.attributes(stPlace, stOpen.lstWritten);
+    stOpen.stSeen = {place(oPlaces.nameSpot(stPlace), stOpen.pDocument->ulFile), stOpen.pDocument->enOrigin,
+                     pAround == nullptr ? nullptr : pAround->pRecord, pList};
 }
 
 void CReadRecorder::lose(const StSeen& stSeen, StEntry stEntry)
 {
-    stEntry.strId    = stSeen.strId;
     stEntry.stPlace  = stSeen.stPlace;
     stEntry.enOrigin = stSeen.enOrigin;
     if (stSeen.enOrigin == EnOrigin::Module)
@@ -256,20 +243,32 @@ void CReadRecorder::lose(const StSeen& stSeen, StEntry stEntry)
         m_mapLost[stSeen.pParent].push_back({listOffset(stSeen.pParent, stSeen.pList), m_nRow, std::move(stEntry)});
 }
 
-void CReadRecorder::recordEnded(const DOMElement& oElement, const void* pRecord, EnFate enFate)
+void CReadRecorder::recordEnded(const DOMElement& /*oElement*/, const void* pRecord, EnFate enFate)
 {
-    const StOpen& stOpen = m_lstOpen[--m_nOpen];
-    StSeen        stSeen = seen(oElement, stOpen);
+    StOpen& stOpen = m_lstOpen[--m_nOpen];
     if (enFate != EnFate::Kept)
     {
         StEntry stEntry;
+        stEntry.strId     = toLocal(stOpen.strId.data(), stOpen.strId.size());
         stEntry.enFate    = EnEntryFate::Dropped;
         stEntry.strReason = reason(enFate);
-        return lose(stSeen, std::move(stEntry));
+        return lose(stOpen.stSeen, std::move(stEntry));
     }
+    if (stOpen.stSeen.pParent == nullptr && m_stTaskType.stPlace.ulLine != 0)
+        stOpen.lstRead.push_back(m_stTaskType);
+    keep(pRecord, stOpen.stSeen, stOpen.lstRead.data(), stOpen.lstRead.size());
     if (m_pModule != nullptr && m_nRow == NO_ROW) // before the sections: a device type
-        m_pModule->lstSupported.push_back({stSeen.strId, stSeen.fieldPlace("strName")});
-    m_mapSeen[pRecord] = std::move(stSeen);
+        m_pModule->lstSupported.push_back(
+            {toLocal(stOpen.strId.data(), stOpen.strId.size()), fieldPlace(m_lstSeen.back(), "strName")});
+}
+
+void CReadRecorder::keep(const void* pRecord, StSeen stSeen, const StSeenAttribute* pAttribute, std::size_t nAttributes)
+{
+    stSeen.nAttribute  = m_lstAttribute.size();
+    stSeen.nAttributes = nAttributes;
+    m_lstAttribute.insert(m_lstAttribute.end(), pAttribute, pAttribute + nAttributes);
+    m_oNumbers.put(pRecord, m_lstSeen.size());
+    m_lstSeen.push_back(stSeen);
 }
 
 void CReadRecorder::sectionRead(std::size_t nRow, const void* pList)
@@ -295,7 +294,7 @@ void CReadRecorder::capacityRead(const XercesDOMParser& oDOMParser, const DOMEle
         if (!stEntry.bIsRead)
             continue;
         for (const StAsnOperation& stOperation : lstCapacity)
-            stEntry.lstOperation.push_back(makeEntry(*this, stOperation));
+            fillEntry(*this, stOperation, stEntry.lstOperation.emplace_back());
     }
     const bool bKnown =
         std::any_of(m_lstCapacity.begin(), m_lstCapacity.end(),
@@ -309,20 +308,21 @@ void CReadRecorder::recordCopied(const void* pFrom, const void* pTo)
     const StSeen* pSeen = m_pModules == nullptr ? nullptr : m_pModules->find(pFrom);
     if (pSeen == nullptr)
         return;
-    m_mapSeen[pTo] = *pSeen;
+    keep(pTo, *pSeen, m_pModules->m_lstAttribute.data() + pSeen->nAttribute, pSeen->nAttributes);
     m_mapLost.erase(pTo);
     const std::vector<StLost>& lstLost = m_pModules->lost(pFrom);
     if (!lstLost.empty())
         m_mapLost[pTo] = lstLost;
 }
 
-void CReadRecorder::recordPruned(const void* pRecord, const void* pCapacity)
+void CReadRecorder::recordPruned(const void* pRecord, const std::string& strId, const void* pCapacity)
 {
     const StSeen* pSeen   = find(pRecord);
     const StSeen* pDenial = find(pCapacity);
     if (pSeen == nullptr || pDenial == nullptr)
         return;
     StEntry stEntry;
+    stEntry.strId     = strId;
     stEntry.enFate    = EnEntryFate::Pruned;
     stEntry.stBecause = pDenial->stPlace;
     lose(*pSeen, std::move(stEntry));

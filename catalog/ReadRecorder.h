@@ -6,6 +6,7 @@
 #ifndef OPERATIONXML_CATALOG_READRECORDER_H
 #define OPERATIONXML_CATALOG_READRECORDER_H
 
+#include "catalog/AddressTable.h"
 #include "catalog/Catalog.h"
 #include "catalog/PlacedParser.h"
 #include "common/ReadObserver.h"
@@ -32,15 +33,12 @@ struct StSeenAttribute
 // What the address of a record stands for.
 struct StSeen
 {
-    StPlace                      stPlace; // of the element's name
-    EnOrigin                     enOrigin = EnOrigin::OwnFile;
-    std::string                  strId;             // as it is written
-    const void*                  pParent = nullptr; // the record it is in; null in a section
-    const void*                  pList   = nullptr;
-    std::vector<StSeenAttribute> lstAttribute;
-
-    // Where the value of a field was read from.
-    StPlace fieldPlace(std::string_view strField) const;
+    StPlace     stPlace; // of the element's name
+    EnOrigin    enOrigin    = EnOrigin::OwnFile;
+    const void* pParent     = nullptr; // the record it is in; null in a section
+    const void* pList       = nullptr;
+    std::size_t nAttribute  = 0; // the first one that was read for it
+    std::size_t nAttributes = 0;
 };
 
 // A record that is not there any more.
@@ -79,6 +77,8 @@ public:
     const StModuleHead& module(std::uint32_t ulFile) const;
 
     const StSeen* find(const void* pRecord) const;
+    // Where the value of a field of it was read from.
+    StPlace fieldPlace(const StSeen& stSeen, std::string_view strField) const;
     // What was lost from the lists of a record, or from the list of a section.
     const std::vector<StLost>& lost(const void* pParent) const;
 
@@ -94,7 +94,7 @@ public:
     void capacityRead(const xercesc::XercesDOMParser& oDOMParser, const xercesc::DOMElement* pEntry,
                       const std::list<StAsnOperation>& lstCapacity) override;
     void recordCopied(const void* pFrom, const void* pTo) override;
-    void recordPruned(const void* pRecord, const void* pCapacity) override;
+    void recordPruned(const void* pRecord, const std::string& strId, const void* pCapacity) override;
 
 private:
     struct StDocument
@@ -103,31 +103,28 @@ private:
         std::uint32_t          ulFile   = 0;
         EnOrigin               enOrigin = EnOrigin::OwnFile;
     };
-    // One attribute as it was read.
-    struct StRead
-    {
-        const xercesc::DOMElement* pElement;
-        std::u16string_view        strName;
-        EnReadAs                   enReadAs;
-        bool                       bIsThere;
-    };
     // A record that has begun and not ended.
     struct StOpen
     {
-        const void*         pRecord   = nullptr;
-        const void*         pList     = nullptr;
-        const StDocument*   pDocument = nullptr;
-        std::string         strId;
-        std::vector<StRead> lstRead;
+        StSeen                        stSeen;
+        const void*                   pRecord   = nullptr;
+        const xercesc::DOMElement*    pElement  = nullptr;
+        const StDocument*             pDocument = nullptr;
+        std::u16string_view           strId; // of the document
+        std::vector<StAttributePlace> lstWritten;
+        std::vector<StSeenAttribute>  lstRead;
     };
 
     const StDocument& documentOf(const xercesc::DOMElement& oElement) const;
-    StSeen            seen(const xercesc::DOMElement& oElement, const StOpen& stOpen) const;
-    void              lose(const StSeen& stSeen, StEntry stEntry);
+    static StPlace    placeOf(const StOpen& stOpen, const StAttributeRead& stRead);
+    void keep(const void* pRecord, StSeen stSeen, const StSeenAttribute* pAttribute, std::size_t nAttributes);
+    void lose(const StSeen& stSeen, StEntry stEntry);
 
     const CReadRecorder*                                        m_pModules;
     std::unordered_map<const xercesc::DOMDocument*, StDocument> m_mapDocument;
-    std::unordered_map<const void*, StSeen>                     m_mapSeen;
+    std::vector<StSeen>                                         m_lstSeen;
+    std::vector<StSeenAttribute>                                m_lstAttribute;   // of all that were seen
+    CAddressTable                                               m_oNumbers;       // of the records, in m_lstSeen
     std::unordered_map<const void*, std::vector<StLost>>        m_mapLost;        // by parent, or by list of a section
     std::vector<StOpen>                                         m_lstOpen;        // kept with their memory
     std::size_t                                                 m_nOpen = 0;      // of them

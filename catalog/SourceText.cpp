@@ -2,19 +2,23 @@
 #include "catalog/SourceText.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace catalog
 {
 namespace
 {
-constexpr std::size_t BLOCK         = 1024;
+constexpr std::size_t BLOCK         = 256;
 constexpr std::size_t LONGEST_SHOWN = 4096;
 
+// Of a block or less. A short number counts several bytes at once.
 std::size_t countCharacters(std::string_view strText)
 {
-    return static_cast<std::size_t>(
-        std::count_if(strText.begin(), strText.end(), [](char cByte) { return (cByte & 0xC0) != 0x80; }));
+    std::uint16_t nCharacters = 0;
+    for (const char cByte : strText)
+        nCharacters = static_cast<std::uint16_t>(nCharacters + ((cByte & 0xC0) != 0x80 ? 1 : 0));
+    return nCharacters;
 }
 } // namespace
 
@@ -51,37 +55,40 @@ std::string CSourceText::shownLine(std::uint32_t ulLine) const
 
 StSpot CSourceText::spot(std::size_t nOffset, std::size_t nBytes) const
 {
-    nOffset = std::min(nOffset, m_strBytes.size());
-    goTo(nOffset);
-    const bool        bLast    = m_stLast.nLine + 1 == m_lstLine.size();
-    const std::size_t nLineEnd = bLast ? m_strBytes.size() : m_lstLine[m_stLast.nLine + 1] - 1;
+    nOffset                    = std::min(nOffset, m_strBytes.size());
+    const std::size_t nLine    = lineOf(nOffset);
+    const bool        bLast    = nLine + 1 == m_lstLine.size();
+    const std::size_t nLineEnd = bLast ? m_strBytes.size() : m_lstLine[nLine + 1] - 1;
     const std::size_t nEnd     = std::max(nOffset, std::min(nOffset + nBytes, nLineEnd));
 
     StSpot stSpot;
-    stSpot.ulLine   = static_cast<std::uint32_t>(m_stLast.nLine + 1);
-    stSpot.ulColumn = static_cast<std::uint32_t>(m_stLast.nColumn + 1);
+    stSpot.ulLine   = static_cast<std::uint32_t>(nLine + 1);
+    stSpot.ulColumn = static_cast<std::uint32_t>(charactersBetween(m_lstLine[nLine], nOffset) + 1);
     stSpot.ulLength = static_cast<std::uint32_t>(charactersBetween(nOffset, nEnd));
     return stSpot;
 }
 
-// From the place that was asked for last when that is before it in its line, else
-// from where the line begins.
-void CSourceText::goTo(std::size_t nOffset) const
+std::size_t CSourceText::lineOf(std::size_t nOffset) const
 {
-    const std::size_t nNext = m_stLast.nLine + 1;
-    if (nOffset < m_stLast.nOffset || (nNext < m_lstLine.size() && nOffset >= m_lstLine[nNext]))
+    const auto fnIsIn = [&](std::size_t nLine)
+    {
+        return nLine < m_lstLine.size() && nOffset >= m_lstLine[nLine] &&
+               (nLine + 1 == m_lstLine.size() || nOffset < m_lstLine[nLine + 1]);
+    };
+    if (!fnIsIn(m_nLine) && !fnIsIn(++m_nLine))
     {
         const auto itAfter = std::upper_bound(m_lstLine.begin(), m_lstLine.end(), nOffset);
-        m_stLast.nLine     = static_cast<std::size_t>(itAfter - m_lstLine.begin()) - 1;
-        m_stLast.nOffset   = m_lstLine[m_stLast.nLine];
-        m_stLast.nColumn   = 0;
+        m_nLine            = static_cast<std::size_t>(itAfter - m_lstLine.begin()) - 1;
     }
-    m_stLast.nColumn += charactersBetween(m_stLast.nOffset, nOffset);
-    m_stLast.nOffset = nOffset;
+    return m_nLine;
 }
 
 std::size_t CSourceText::charactersBetween(std::size_t nBegin, std::size_t nEnd) const
 {
+    const std::size_t nFirst  = nBegin / BLOCK;
+    const std::size_t nBehind = nEnd / BLOCK + 1;
+    if (nBehind < m_lstBlock.size() && m_lstBlock[nBehind] - m_lstBlock[nFirst] == (nBehind - nFirst) * BLOCK)
+        return nEnd - nBegin; // nearly always every byte is one
     if (nEnd - nBegin > BLOCK)
         return charactersBefore(nEnd) - charactersBefore(nBegin);
     return countCharacters(std::string_view(m_strBytes).substr(nBegin, nEnd - nBegin));

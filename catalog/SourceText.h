@@ -1,6 +1,6 @@
 // The text of a file as it was read: UTF-8, by lines, for places that are known as
-// an offset, and for showing the line of a place. One thread: it remembers where it
-// was asked last, as places are asked for in their order.
+// an offset, and for showing the line of a place. One thread: it remembers the line
+// that was asked for last, as places are asked for nearly in their order.
 #ifndef OPERATIONXML_CATALOG_SOURCETEXT_H
 #define OPERATIONXML_CATALOG_SOURCETEXT_H
 
@@ -41,22 +41,14 @@ public:
     StSpot spot(std::size_t nOffset, std::size_t nBytes) const;
 
 private:
-    // A place whose line and column are known.
-    struct StKnown
-    {
-        std::size_t nOffset = 0;
-        std::size_t nLine   = 0; // from 0
-        std::size_t nColumn = 0;
-    };
-
-    void        goTo(std::size_t nOffset) const;
+    std::size_t lineOf(std::size_t nOffset) const; // from 0
     std::size_t charactersBefore(std::size_t nOffset) const;
     std::size_t charactersBetween(std::size_t nBegin, std::size_t nEnd) const;
 
     std::string              m_strBytes;
-    std::vector<std::size_t> m_lstLine;  // first byte of each line
-    std::vector<std::size_t> m_lstBlock; // characters before each block: a file may be one long line
-    mutable StKnown          m_stLast;
+    std::vector<std::size_t> m_lstLine;   // first byte of each line
+    std::vector<std::size_t> m_lstBlock;  // characters before each block: a file may be one long line
+    mutable std::size_t      m_nLine = 0; // asked for last
 };
 } // namespace catalog
 

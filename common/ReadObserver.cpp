@@ -72,10 +72,10 @@ public:
         if (isMine())
             m_pTarget->recordCopied(pFrom, pTo);
     }
-    void recordPruned(const void* pRecord, const void* pCapacity) override
+    void recordPruned(const void* pRecord, const std::string& strId, const void* pCapacity) override
     {
         if (isMine())
-            m_pTarget->recordPruned(pRecord, pCapacity);
+            m_pTarget->recordPruned(pRecord, strId, pCapacity);
     }
 
     // The target belongs to the owner's thread, and only that one gets past this.

@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <list>
 #include <mutex>
+#include <string>
 #include <string_view>
 
 enum class EnFate; // common/RecordRead.h
@@ -97,9 +98,9 @@ public:
     // A record of a module was appended to a device type as a copy.
     virtual void recordCopied(const void* pFrom, const void* pTo) = 0;
 
-    // A record is about to be taken out because of an entry of the capacity list,
-    // or a parameter or option of one.
-    virtual void recordPruned(const void* pRecord, const void* pCapacity) = 0;
+    // A record, of this id, is about to be taken out because of an entry of the capacity
+    // list, or a parameter or option of one.
+    virtual void recordPruned(const void* pRecord, const std::string& strId, const void* pCapacity) = 0;
 };
 
 namespace ReadObserver

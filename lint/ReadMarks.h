@@ -62,7 +62,7 @@ public:
     }
     void recordEnded(const xercesc::DOMElement& oElement, const void* pRecord, EnFate enFate) override;
     void recordCopied(const void* /*pFrom*/, const void* /*pTo*/) override {}
-    void recordPruned(const void* /*pRecord*/, const void* /*pCapacity*/) override {}
+    void recordPruned(const void* /*pRecord*/, const std::string& /*strId*/, const void* /*pCapacity*/) override {}
 
     // Of an element, or of the document.
     const StMark&      of(const xercesc::DOMNode& oNode) const;

@@ -92,7 +92,7 @@ void removeDenied(std::list<Record>& lstRecord, FindDenial fnDenial)
     {
         const auto* pDenial = fnDenial(*itRecord);
         if (CReadObserver* pObserver = ReadObserver::get(); pObserver != nullptr && pDenial != nullptr)
-            pObserver->recordPruned(&*itRecord, pDenial);
+            pObserver->recordPruned(&*itRecord, itRecord->strId, pDenial);
         itRecord = pDenial == nullptr ? std::next(itRecord) : lstRecord.erase(itRecord);
     }
 }
