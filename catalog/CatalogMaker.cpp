@@ -65,7 +65,7 @@ public:
         }
     }
 
-    StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer)
+    StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer, const ReadSink& fnRead)
     {
         StTypeCatalog stType;
         stType.strDevType    = strDevType;
@@ -82,7 +82,7 @@ public:
         StOwnedRoots oRoots;
         {
             const ReadObserver::CScope oScope(m_oRecorder);
-            read(stType, bCapacity, oRoots.lstInfo);
+            read(stType, bCapacity, fnRead, oRoots.lstInfo);
         }
         for (const StAsnDevTypeVerXMLInfo* pInfo : oRoots.lstInfo)
             stType.lstConfiguration.push_back(configuration(*pInfo));
@@ -100,13 +100,16 @@ public:
     CPlacedSource                m_oSource;
 
 private:
-    void read(StTypeCatalog& stType, bool bCapacity, std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+    void read(StTypeCatalog& stType, bool bCapacity, const ReadSink& fnRead,
+              std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
     {
         CDevTypeXMLResReader oReader(stType.strKey, stType.strDevTypeVer, bCapacity);
         oReader.readFrom(m_oSource);
         oReader.initializeCheck();
         stType.ulResult = oReader.readDevTypeVerXMLFile(lstInfo);
         stType.stOrigin = oReader.origin();
+        if (fnRead)
+            fnRead(stType.ulResult);
         if (stType.ulResult != DC_RESULT_OK || lstInfo.empty())
             return;
         // Modules name the type, never its telnet key, and the first record gets them.
@@ -163,10 +166,11 @@ CCatalogMaker::CCatalogMaker(const DocumentSink& fnParsed) : m_pImpl(std::make_u
 
 CCatalogMaker::~CCatalogMaker() = default;
 
-StTypeCatalog CCatalogMaker::make(const std::string& strDevType, const std::string& strDevTypeVer)
+StTypeCatalog CCatalogMaker::make(const std::string& strDevType, const std::string& strDevTypeVer,
+                                  const ReadSink& fnRead)
 try
 {
-    return m_pImpl->make(strDevType, strDevTypeVer);
+    return m_pImpl->make(strDevType, strDevTypeVer, fnRead);
 }
 catch (...)
 {

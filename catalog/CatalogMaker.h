@@ -11,6 +11,7 @@
 #include "catalog/PlacedParser.h"
 #include "platform/Export.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -22,6 +23,10 @@ namespace catalog
 // valid for the call. It may have the document read for itself.
 using DocumentSink = std::function<void(const std::string& strFile, EnOrigin enOrigin, CPlacedParser& oParser)>;
 
+// Is told the result when the files of a type have been read, while the last documents
+// are there still: for whoever heard along (common/ReadObserver.h).
+using ReadSink = std::function<void(std::uint32_t ulResult)>;
+
 class OPERATIONXML_API CCatalogMaker
 {
 public:
@@ -32,7 +37,7 @@ public:
     CCatalogMaker& operator=(const CCatalogMaker&) = delete;
 
     // Reads one type, named as in the registry, with modules merged and capacity applied.
-    StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer);
+    StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer, const ReadSink& fnRead = {});
 
     // Every module file, in the order in which they are found, and what could not be
     // looked into.

@@ -19,71 +19,58 @@ std::recursive_mutex g_oTurn; // of the one recorded read
 class CListener final : public CReadObserver
 {
 public:
-    // Whoever heard before, or null.
-    CReadObserver* exchange(CReadObserver* pTarget)
+    // Whoever heard before.
+    StHearing exchange(const StHearing& stHearing)
     {
-        m_oOwner.store(pTarget == nullptr ? std::thread::id() : std::this_thread::get_id());
-        return std::exchange(m_pTarget, pTarget);
+        m_oOwner.store(stHearing.pObserver == nullptr ? std::thread::id() : std::this_thread::get_id());
+        return std::exchange(m_stHearing, stHearing);
     }
+
+    void hearAlong(CReadObserver* pAlong) { m_stHearing.pAlong = pAlong; }
 
     void lookup(const xercesc::DOMNode& oBelow, const char16_t* pszName) override
     {
-        if (isMine())
-            m_pTarget->lookup(oBelow, pszName);
+        tell(&CReadObserver::lookup, oBelow, pszName);
     }
-    void elementMet(const xercesc::DOMElement& oElement) override
-    {
-        if (isMine())
-            m_pTarget->elementMet(oElement);
-    }
-    void attributeRead(const StAttributeRead& stRead) override
-    {
-        if (isMine())
-            m_pTarget->attributeRead(stRead);
-    }
-    void textRead(const xercesc::DOMElement& oElement) override
-    {
-        if (isMine())
-            m_pTarget->textRead(oElement);
-    }
+    void elementMet(const xercesc::DOMElement& oElement) override { tell(&CReadObserver::elementMet, oElement); }
+    void attributeRead(const StAttributeRead& stRead) override { tell(&CReadObserver::attributeRead, stRead); }
+    void textRead(const xercesc::DOMElement& oElement) override { tell(&CReadObserver::textRead, oElement); }
     void recordBegun(const xercesc::DOMElement& oElement, const void* pRecord, const void* pList) override
     {
-        if (isMine())
-            m_pTarget->recordBegun(oElement, pRecord, pList);
+        tell(&CReadObserver::recordBegun, oElement, pRecord, pList);
     }
     void recordEnded(const xercesc::DOMElement& oElement, const void* pRecord, EnFate enFate) override
     {
-        if (isMine())
-            m_pTarget->recordEnded(oElement, pRecord, enFate);
+        tell(&CReadObserver::recordEnded, oElement, pRecord, enFate);
     }
-    void sectionRead(std::size_t nRow, const void* pList) override
-    {
-        if (isMine())
-            m_pTarget->sectionRead(nRow, pList);
-    }
+    void sectionRead(std::size_t nRow, const void* pList) override { tell(&CReadObserver::sectionRead, nRow, pList); }
     void capacityRead(const xercesc::XercesDOMParser& oDOMParser, const xercesc::DOMElement* pEntry,
                       const std::list<StAsnOperation>& lstCapacity) override
     {
-        if (isMine())
-            m_pTarget->capacityRead(oDOMParser, pEntry, lstCapacity);
+        tell(&CReadObserver::capacityRead, oDOMParser, pEntry, lstCapacity);
     }
-    void recordCopied(const void* pFrom, const void* pTo) override
-    {
-        if (isMine())
-            m_pTarget->recordCopied(pFrom, pTo);
-    }
+    void recordCopied(const void* pFrom, const void* pTo) override { tell(&CReadObserver::recordCopied, pFrom, pTo); }
     void recordPruned(const void* pRecord, const std::string& strId, const void* pCapacity) override
     {
-        if (isMine())
-            m_pTarget->recordPruned(pRecord, strId, pCapacity);
+        tell(&CReadObserver::recordPruned, pRecord, strId, pCapacity);
     }
 
-    // The target belongs to the owner's thread, and only that one gets past this.
+    // Those that hear belong to the owner's thread, and only that one gets past this.
     bool isMine() const { return m_oOwner.load() == std::this_thread::get_id(); }
 
 private:
+    template <typename... Heard, typename... Told>
+    void tell(void (CReadObserver::*pfnHear)(Heard...), const Told&... told)
+    {
+        if (!isMine())
+            return;
+        (m_stHearing.pObserver->*pfnHear)(told...);
+        if (m_stHearing.pAlong != nullptr)
+            (m_stHearing.pAlong->*pfnHear)(told...);
+    }
+
     std::atomic<std::thread::id> m_oOwner{};
-    CReadObserver*               m_pTarget = nullptr;
+    StHearing                    m_stHearing;
 };
 
 CListener& listener()
@@ -98,15 +85,25 @@ bool isRecorded()
     return get() != nullptr && listener().isMine();
 }
 
-CScope::CScope(CReadObserver& oObserver) : m_oTurn(g_oTurn), m_pOuter(listener().exchange(&oObserver))
+CScope::CScope(CReadObserver& oObserver) : m_oTurn(g_oTurn), m_stOuter(listener().exchange({&oObserver, nullptr}))
 {
     g_pObserver.store(&listener());
 }
 
 CScope::~CScope()
 {
-    if (m_pOuter == nullptr)
+    if (m_stOuter.pObserver == nullptr)
         g_pObserver.store(nullptr);
-    listener().exchange(m_pOuter);
+    listener().exchange(m_stOuter);
+}
+
+CAlong::CAlong(CReadObserver& oObserver) : m_oTurn(g_oTurn)
+{
+    listener().hearAlong(&oObserver);
+}
+
+CAlong::~CAlong()
+{
+    listener().hearAlong(nullptr);
 }
 } // namespace ReadObserver

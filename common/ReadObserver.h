@@ -117,6 +117,13 @@ inline CReadObserver* get()
 // (events) when it read the same for itself.
 OPERATIONXML_API bool isRecorded();
 
+// Those that hear a read; null: nobody.
+struct StHearing
+{
+    CReadObserver* pObserver = nullptr;
+    CReadObserver* pAlong    = nullptr;
+};
+
 // Lets an observer hear what this thread reads, until the end of the scope. One at a
 // time in a process: a scope of another thread waits for the first. Within a scope of
 // the same thread it takes the place of that one's observer for its own time.
@@ -130,7 +137,21 @@ public:
 
 private:
     std::unique_lock<std::recursive_mutex> m_oTurn;
-    CReadObserver*                         m_pOuter; // that hears again behind this scope, or null
+    StHearing                              m_stOuter; // that hear again behind this scope
+};
+
+// Lets one more observer hear along what the one of this thread's scope hears, until the
+// end of either of them: whoever needs what is read anyway need not read it again.
+class OPERATIONXML_API CAlong
+{
+public:
+    explicit CAlong(CReadObserver& oObserver);
+    ~CAlong();
+    CAlong(const CAlong&)            = delete;
+    CAlong& operator=(const CAlong&) = delete;
+
+private:
+    std::unique_lock<std::recursive_mutex> m_oTurn;
 };
 } // namespace ReadObserver
 

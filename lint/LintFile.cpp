@@ -66,6 +66,12 @@ void lintDocument(catalog::CPlacedParser& oParser, EnFileKind enKind, CFileRepor
         const ReadObserver::CScope oScope(oMarks);
         readAs(enKind, oParser);
     }
+    lintHeard(oParser, oMarks, enKind, oReport, stLost);
+}
+
+void lintHeard(catalog::CPlacedParser& oParser, const CReadMarks& oMarks, EnFileKind enKind, CFileReport& oReport,
+               StLostNames& stLost)
+{
     const CReadTree      oTree(*oParser.getDocument(), oParser.places(), oMarks);
     const StReadDocument stRead = {enKind, oTree, oParser.places()};
     takeAllowances(oParser.places(), oReport);

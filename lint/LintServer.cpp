@@ -1,6 +1,8 @@
 // A whole server: its files in their order, each with the types that are made of it.
 // A type is looked at together with the first of its files, so a finding may concern a
-// file that comes later, never one that is done.
+// file that comes later, never one that is done. Where the
+// reader of a type reads all of a document, the rules of documents hear that along, and it
+// is read once.
 #include "catalog/CatalogMaker.h"
 #include "lint/LintDocument.h"
 #include "lint/SenseRules.h"
@@ -8,6 +10,7 @@
 
 #include <memory>
 #include <numeric>
+#include <optional>
 
 namespace lint
 {
@@ -120,7 +123,7 @@ private:
             return;
         m_lstIsDone[nType]                  = true;
         const StServerType&          stType = m_stFiles.lstType[nType];
-        const catalog::StTypeCatalog stMade = m_oMaker.make(stType.strDevType, stType.strDevTypeVer);
+        const catalog::StTypeCatalog stMade = make(stType);
         StLostNames                  stLost = m_stLostInModules;
         if (m_stAlong.fnType)
             m_stAlong.fnType(stMade);
@@ -137,6 +140,39 @@ private:
         checkSense(stMade, stLost, m_oTypeFindings);
         checkCapacity(stMade, m_setSysOid, stLost, m_oTypeFindings);
         checkVersions(stMade, reportOf(m_strInventory));
+    }
+
+    catalog::StTypeCatalog make(const StServerType& stType)
+    {
+        m_pReading                    = &stType;
+        catalog::StTypeCatalog stMade = m_oMaker.make(stType.strDevType, stType.strDevTypeVer,
+                                                      [this](std::uint32_t ulResult) { checkHeard(ulResult); });
+        m_oHeard.reset(); // there still after an exception
+        m_pReading = nullptr;
+        return stMade;
+    }
+
+    // Whether the reader of the type asks a file for all that the readers of its kind would:
+    // not where the checks have a file of their own, nor where each version is read by itself.
+    bool isReadWhole(const std::string& strFile) const
+    {
+        const StConfigPlan& stPlan = m_pReading->stPlan;
+        return strFile == stPlan.stConfig.strFile && stPlan.lstVersion.empty() && !stPlan.stCheck.isFound() &&
+               !stPlan.stFixedCheck.isFound();
+    }
+
+    // The rules of a document that was read for its type. A section that failed has ended
+    // that read: then it is read for them once more.
+    void checkHeard(std::uint32_t ulResult)
+    {
+        if (!m_oHeard)
+            return;
+        StHeard& stHeard = *m_oHeard;
+        if (ulResult == 0)
+            lintHeard(stHeard.oParser, stHeard.oMarks, EnFileKind::Configuration, stHeard.oReport, stHeard.stLost);
+        else
+            lintDocument(stHeard.oParser, EnFileKind::Configuration, stHeard.oReport, stHeard.stLost);
+        m_oHeard.reset();
     }
 
     // A file that is parsed for the catalog of a type, or as a module.
@@ -169,8 +205,27 @@ private:
             return;
         CFileReport& oReport = reportOf(strFile);
         oReport.showLinesOf(oParser.places().text());
-        lintDocument(oParser, enKind, oReport, itLost->second);
+        if (m_pReading != nullptr && enKind == EnFileKind::Configuration && !oParser.problem().isSet() &&
+            isReadWhole(strFile))
+            m_oHeard.emplace(oParser, oReport, itLost->second);
+        else
+            lintDocument(oParser, enKind, oReport, itLost->second);
     }
+
+    // A document whose read for its type is heard along.
+    struct StHeard
+    {
+        StHeard(catalog::CPlacedParser& oOfParser, CFileReport& oOfReport, StLostNames& stOfLost)
+            : oParser(oOfParser), oReport(oOfReport), stLost(stOfLost)
+        {
+        }
+
+        catalog::CPlacedParser& oParser;
+        CFileReport&            oReport;
+        StLostNames&            stLost;
+        CReadMarks              oMarks;
+        ReadObserver::CAlong    oAlong{oMarks};
+    };
 
     const std::string&                                  m_strInventory;
     const FindingSink&                                  m_fnFinding;
@@ -182,6 +237,8 @@ private:
     CTypeFindings                                       m_oTypeFindings;
     std::map<std::string, StLostNames>                  m_mapLost; // of the files that are checked
     StLostNames                                         m_stLostInModules;
+    const StServerType*                                 m_pReading = nullptr; // null: modules, or a file by itself
+    std::optional<StHeard>                              m_oHeard;
     catalog::CCatalogMaker                              m_oMaker; // calls back while it is made
 };
 } // namespace
