@@ -15,7 +15,7 @@ constexpr std::size_t MOST     = 64; // that may be asked for
 // The loading thread included: what the environment says, a number from 1 to MOST,
 // else as many as this process may run on, and 8 at most. Reads the environment:
 // nobody may change it meanwhile.
-std::size_t count();
+OPERATIONXML_API std::size_t count();
 
 // What the cgroups of a process leave it: processors begun, or 0 for no limit.
 // strGroups is its file of them (/proc/self/cgroup), strMount where they are mounted.

@@ -1,8 +1,8 @@
 // See TypeReader.h.
 #include "tools/opxml/report/TypeReader.h"
 
+#include "reader/LoadThreads.h"
 #include "tools/opxml/output/DevTypes.h"
-#include "tools/opxml/report/Packing.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,7 +38,7 @@ StReportRow typeRow(const StDevTypeLoad& stLoad)
 } // namespace
 
 CTypeReader::CTypeReader(StReport& stReport, DetailSink fnDetail)
-    : m_stReport(stReport), m_fnDetail(std::move(fnDetail))
+    : m_stReport(stReport), m_fnDetail(std::move(fnDetail)), m_oPacker(loadThreads::count())
 {
     for (const StRegisteredType& stType : registeredTypes())
     {
@@ -107,11 +107,11 @@ std::vector<StReportRow> CTypeReader::configuredRows(const catalog::StTypeCatalo
     return lstRow;
 }
 
-std::vector<std::string> CTypeReader::details(const catalog::StTypeCatalog& stType)
+std::vector<PackedDetail> CTypeReader::details(const catalog::StTypeCatalog& stType)
 {
-    std::vector<std::string> lstDetail;
+    std::vector<PackedDetail> lstDetail;
     for (std::size_t nAt = 0; m_fnDetail && nAt < stType.lstConfiguration.size(); ++nAt)
-        lstDetail.push_back(packed(m_oDetails.make(stType, nAt)));
+        lstDetail.push_back(m_oPacker.pack(m_oDetails.make(stType, nAt)));
     return lstDetail;
 }
 
@@ -119,10 +119,18 @@ void CTypeReader::handOn(StEntryRows& stRows)
 {
     for (std::size_t nAt = 0; nAt < stRows.lstDetail.size(); ++nAt)
     {
-        stRows.lstRow[nAt].nDetail = m_nDetails;
-        m_fnDetail(m_nDetails++, stRows.lstDetail[nAt]);
+        stRows.lstRow[nAt].nDetail = m_nDetails++;
+        m_lstHandedOn.push_back(std::move(stRows.lstDetail[nAt]));
     }
     stRows.lstDetail.clear();
+    writeAllBut(m_oPacker.most());
+}
+
+// In their order, whichever was packed first: the last ones may still be in work.
+void CTypeReader::writeAllBut(std::size_t nLast)
+{
+    for (; m_lstHandedOn.size() > nLast; m_lstHandedOn.pop_front())
+        m_fnDetail(m_nDetails - m_lstHandedOn.size(), m_lstHandedOn.front().get());
 }
 
 // Of the entries that share a key the last one that was read answers for all.
@@ -152,6 +160,7 @@ void CTypeReader::replaceEarlier(std::vector<std::size_t>& lstEntry)
 
 void CTypeReader::finish()
 {
+    writeAllBut(0);
     m_stReport.lstRecord = m_oDetails.records();
     for (StEntryRows& stRows : m_lstEntry)
         std::move(stRows.lstRow.begin(), stRows.lstRow.end(), std::back_inserter(m_stReport.lstRow));
