@@ -1,10 +1,11 @@
-// A file that is written in a stream and is there whole or not at all: it has a
-// temporary name beside the final one until finish().
+// A file that is written in a stream and is there whole or not at all: until finish() it
+// has no name, so that nothing of it stays, whatever ends the program. Where the file
+// system has no files without a name it has a temporary one beside the final one.
 #ifndef OPERATIONXML_TOOLS_OPXML_REPORT_PAGEFILE_H
 #define OPERATIONXML_TOOLS_OPXML_REPORT_PAGEFILE_H
 
 #include <cstddef>
-#include <fstream>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -23,13 +24,14 @@ public:
     std::size_t bytes() const { return m_nBytes; }
 
 private:
+    void              giveName();
     [[noreturn]] void fail(const std::string& strPath) const;
 
-    std::string   m_strPath;
-    std::string   m_strTemporary;
-    std::ofstream m_oFile;
-    std::size_t   m_nBytes = 0;
-    bool          m_bOpen  = false;
+    std::string m_strPath;
+    std::string m_strTemporary;
+    bool        m_bNamed = false; // m_strTemporary is there
+    std::FILE*  m_pFile  = nullptr;
+    std::size_t m_nBytes = 0;
 };
 
 #endif
