@@ -28,18 +28,18 @@ void insertLost(std::vector<StEntry>& lstEntry, std::size_t nFirst, StEntry stLo
 
 // How a field reads to people.
 template <typename Kind, typename Value>
-std::string fieldText(Kind stKind, const Value& value)
+void takeText(Kind stKind, const Value& value, std::string& strText)
 {
     if constexpr (std::is_same_v<Kind, StText>)
-        return value;
+        strText = value;
     else if constexpr (std::is_same_v<Kind, StNumber>)
-        return std::to_string(value);
+        strText = std::to_string(value);
     else if constexpr (std::is_same_v<Kind, StFlag>)
-        return value ? "1" : "0";
+        strText = value ? '1' : '0';
     else if constexpr (std::is_integral_v<Value>)
-        return std::string(wordText(stKind, value));
+        strText = wordText(stKind, value);
     else
-        return std::string(wordText(stKind, value.number()));
+        strText = wordText(stKind, value.number());
 }
 
 template <typename Kind>
@@ -100,8 +100,13 @@ void fillEntry(const CReadRecorder& oRecorder, const Record& stRecord, StEntry& 
                         addEntries(oRecorder, value, oRecorder.lost(&stRecord), listOffset(&stRecord, &value),
                                    stEntry.lstChild);
                     else
-                        stEntry.lstField.push_back({pszName, fieldKind(stKind), fieldText(stKind, value),
-                                                    oRecorder.fieldPlace(stSeen, pszName)});
+                    {
+                        StField& stField = stEntry.lstField.emplace_back();
+                        stField.pszName  = pszName;
+                        stField.enKind   = fieldKind(stKind);
+                        stField.stPlace  = oRecorder.fieldPlace(stSeen, pszName);
+                        takeText(stKind, value, stField.strValue);
+                    }
                 });
     stEntry.strId = identity(stEntry);
 }

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <utility>
 
 using namespace xercesc;
@@ -106,17 +107,18 @@ const StElementPlace& CDocumentPlaces::element(const DOMElement& oElement) const
     return nElement == CAddressTable::NONE ? s_stUnknown : m_lstElement[nElement];
 }
 
-std::size_t CDocumentPlaces::nameEnd(const StElementPlace& stElement) const
+StRange CDocumentPlaces::name(const StElementPlace& stElement) const
 {
     const std::string_view strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
-    return findByte(strText, stElement.stTag.nBegin,
-                    [](char cByte) { return isBlank(cByte) || cByte == '/' || cByte == '>'; });
+    const std::size_t      nBegin  = stElement.stTag.nBegin + 1;
+    return {nBegin,
+            findByte(strText, nBegin, [](char cByte) { return isBlank(cByte) || cByte == '/' || cByte == '>'; })};
 }
 
-StSpot CDocumentPlaces::nameSpot(const StElementPlace& stElement) const
+StSpot CDocumentPlaces::nameSpot(const DOMElement& oElement) const
 {
-    const StRange& stTag = stElement.stTag;
-    return stTag.nEnd == 0 ? StSpot{} : spot({stTag.nBegin + 1, nameEnd(stElement)});
+    const StElementPlace& stElement = element(oElement);
+    return stElement.stTag.nEnd == 0 ? StSpot{} : spot(name(stElement));
 }
 
 void CDocumentPlaces::attributes(const StElementPlace& stElement, std::vector<StAttributePlace>& lstAttribute) const
@@ -125,7 +127,7 @@ void CDocumentPlaces::attributes(const StElementPlace& stElement, std::vector<St
     if (!stElement.bWritten)
         return;
     const std::string_view strText = std::string_view(m_pText->bytes()).substr(0, stElement.stTag.nEnd);
-    std::size_t            nAt     = nameEnd(stElement);
+    std::size_t            nAt     = name(stElement).nEnd;
     for (;;)
     {
         const std::size_t nName = findByte(strText, nAt, [](char cByte) { return !isBlank(cByte); });
@@ -228,8 +230,9 @@ bool CPlacedParser::isInEntity() const
 
 StRange CPlacedParser::tagBefore(std::size_t nEnd) const
 {
-    const std::size_t nBegin = m_pPlaces->text()->bytes().rfind('<', nEnd - 1);
-    return {nBegin == std::string::npos ? 0 : nBegin, nEnd};
+    const std::string& strBytes = m_pPlaces->m_pText->bytes();
+    const void*        pBegin   = memrchr(strBytes.data(), '<', std::min(nEnd, strBytes.size())); // faster than rfind()
+    return {pBegin == nullptr ? 0 : static_cast<std::size_t>(static_cast<const char*>(pBegin) - strBytes.data()), nEnd};
 }
 
 void CPlacedParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,

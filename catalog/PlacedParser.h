@@ -65,13 +65,13 @@ public:
     // The place of an element of the document; all of it when it is not known.
     const StElementPlace& element(const xercesc::DOMElement& oElement) const;
 
-    // The name in the element's start tag.
-    StSpot nameSpot(const xercesc::DOMElement& oElement) const { return nameSpot(element(oElement)); }
-    StSpot nameSpot(const StElementPlace& stElement) const;
+    // In the start tag of a known element: its name; the attributes in the order in which
+    // they are written, into a list that is kept from element to element.
+    StRange name(const StElementPlace& stElement) const;
+    void    attributes(const StElementPlace& stElement, std::vector<StAttributePlace>& lstAttribute) const;
 
-    // The attributes in a start tag, in the order in which they are written: fills a list
-    // that is kept from element to element.
-    void attributes(const StElementPlace& stElement, std::vector<StAttributePlace>& lstAttribute) const;
+    // The name in the element's start tag.
+    StSpot nameSpot(const xercesc::DOMElement& oElement) const;
 
     // The value of an attribute, or the element's name when it has none of the name.
     StSpot valueSpot(const xercesc::DOMElement& oElement, std::string_view strName) const;
@@ -85,7 +85,6 @@ public:
 private:
     friend class CPlacedParser;
 
-    std::size_t      nameEnd(const StElementPlace& stElement) const;
     StAttributePlace attribute(const xercesc::DOMElement& oElement, std::string_view strName) const;
 
     std::string                        m_strFile;

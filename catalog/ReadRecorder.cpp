@@ -195,6 +195,18 @@ void CReadRecorder::attributeRead(const StAttributeRead& stRead)
     }
 }
 
+// The place of something in the start tag. Nearly every tag stands in one line, of as many
+// bytes as characters.
+StPlace CReadRecorder::placeIn(const StOpen& stOpen, const StRange& stRange)
+{
+    const StSpot& stTag = stOpen.stTagSpot;
+    if (stTag.ulLength != stOpen.stTag.nEnd - stOpen.stTag.nBegin)
+        return place(stOpen.pDocument->pPlaces->spot(stRange), stOpen.pDocument->ulFile);
+    return {stOpen.pDocument->ulFile, stTag.ulLine,
+            stTag.ulColumn + static_cast<std::uint32_t>(stRange.nBegin - stOpen.stTag.nBegin),
+            static_cast<std::uint32_t>(stRange.nEnd - stRange.nBegin)};
+}
+
 StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRead)
 {
     if (stRead.pAttr == nullptr)
@@ -205,7 +217,7 @@ StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRe
     for (const StAttributePlace& stWritten : stOpen.lstWritten)
     {
         if (isSame(stRead.pszName, stWritten.strName))
-            return place(oPlaces.spot(stWritten.stValue), stOpen.pDocument->ulFile);
+            return placeIn(stOpen, stWritten.stValue);
     }
     return stOpen.stSeen.stPlace; // brought by an entity or a declaration
 }
@@ -226,9 +238,12 @@ void CReadRecorder::recordBegun(const DOMElement& oElement, const void* pRecord,
     stOpen.lstRead.clear();
     const CDocumentPlaces& oPlaces = *stOpen.pDocument->pPlaces;
     const StElementPlace&  stPlace = oPlaces.element(oElement);
+    stOpen.stTag                   = stPlace.stTag;
+    stOpen.stTagSpot               = stPlace.stTag.nEnd == 0 ? StSpot{} : oPlaces.spot(stPlace.stTag);
     oPlaces.attributes(stPlace, stOpen.lstWritten);
-    stOpen.stSeen = {place(oPlaces.nameSpot(stPlace), stOpen.pDocument->ulFile), stOpen.pDocument->enOrigin,
-                     pAround == nullptr ? nullptr : pAround->pRecord, pList};
+    stOpen.stSeen = {stOpen.stTagSpot.ulLine == 0 ? place({}, stOpen.pDocument->ulFile)
+                                                  : placeIn(stOpen, oPlaces.name(stPlace)),
+                     stOpen.pDocument->enOrigin, pAround == nullptr ? nullptr : pAround->pRecord, pList};
 }
 
 void CReadRecorder::lose(const StSeen& stSeen, StEntry stEntry)

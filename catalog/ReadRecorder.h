@@ -110,12 +110,15 @@ private:
         const void*                   pRecord   = nullptr;
         const xercesc::DOMElement*    pElement  = nullptr;
         const StDocument*             pDocument = nullptr;
+        StRange                       stTag;
+        StSpot                        stTagSpot;
         std::u16string_view           strId; // of the document
         std::vector<StAttributePlace> lstWritten;
         std::vector<StSeenAttribute>  lstRead;
     };
 
     const StDocument& documentOf(const xercesc::DOMElement& oElement) const;
+    static StPlace    placeIn(const StOpen& stOpen, const StRange& stRange);
     static StPlace    placeOf(const StOpen& stOpen, const StAttributeRead& stRead);
     void keep(const void* pRecord, StSeen stSeen, const StSeenAttribute* pAttribute, std::size_t nAttributes);
     void lose(const StSeen& stSeen, StEntry stEntry);
