@@ -1,7 +1,7 @@
 // CAddressTable: numbers by address. What a standard map takes of the memory for every
 // single address is what most of its time goes to, and here are thousands of them for
 // every file; this is one block, which is kept from file to file.
-// Used by the catalog. One thread.
+// Used by the catalog and lint. One thread.
 #ifndef OPERATIONXML_CATALOG_ADDRESSTABLE_H
 #define OPERATIONXML_CATALOG_ADDRESSTABLE_H
 

@@ -31,7 +31,7 @@ public:
         m_nLeft -= names.size();
         std::vector<std::string> lstName;
         for (const auto& name : names)
-            lstName.push_back(textOf(name));
+            lstName.emplace_back(textOf(name));
         return nearestName(strMisspelt, lstName);
     }
 
@@ -44,9 +44,9 @@ public:
     }
 
 private:
-    static const std::string& textOf(const std::string& strName) { return strName; }
+    static std::string_view textOf(std::string_view strName) { return strName; }
     template <typename Value>
-    static const std::string& textOf(const std::pair<const std::string, Value>& oNamed) // of a map by names
+    static std::string_view textOf(const std::pair<const std::string, Value>& oNamed) // of a map by names
     {
         return oNamed.first;
     }

@@ -58,26 +58,33 @@ void CReadMarks::attributeRead(const StAttributeRead& stRead)
 
 void CReadMarks::recordEnded(const DOMElement& oElement, const void* /*pRecord*/, EnFate enFate)
 {
+    if (enFate == EnFate::Kept) // nearly all are, and the reader is back from what stands below
+        return;
     StMark& stMark = mark(oElement);
-    if (enFate != EnFate::Kept && questions(stMark).lstElement.empty())
+    if (questions(stMark).lstElement.empty())
         stMark.bGivenUp = true;
 }
 
 const StMark& CReadMarks::of(const DOMNode& oNode) const
 {
     static const StMark s_stNone;
-    const auto          itMark = m_mapMark.find(&oNode);
-    return itMark == m_mapMark.end() ? s_stNone : itMark->second;
+    const std::size_t   nMark = m_oNumbers.find(&oNode);
+    return nMark == catalog::CAddressTable::NONE ? s_stNone : m_lstMark[nMark];
 }
 
 StMark& CReadMarks::mark(const DOMNode& oNode)
 {
-    if (m_pLast != &oNode)
+    if (m_pLast == &oNode)
+        return m_lstMark[m_nLast];
+    m_pLast = &oNode;
+    m_nLast = m_oNumbers.find(&oNode);
+    if (m_nLast == catalog::CAddressTable::NONE)
     {
-        m_pLast     = &oNode;
-        m_pLastMark = &m_mapMark[&oNode];
+        m_nLast = m_lstMark.size();
+        m_lstMark.emplace_back();
+        m_oNumbers.put(&oNode, m_nLast);
     }
-    return *m_pLastMark;
+    return m_lstMark[m_nLast];
 }
 
 // Whoever asks for the same once more adds nothing, and stays where it is.

@@ -5,13 +5,13 @@
 #ifndef OPERATIONXML_LINT_READMARKS_H
 #define OPERATIONXML_LINT_READMARKS_H
 
+#include "catalog/AddressTable.h"
 #include "common/ReadObserver.h"
 
 #include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace lint
@@ -89,10 +89,11 @@ private:
     std::size_t take(std::size_t nAsked, const char16_t* pszElement);
     std::size_t share(StQuestions stQuestions);
 
-    std::deque<StShared>                                m_lstShared{1}; // the first one asks nothing
-    std::unordered_map<const xercesc::DOMNode*, StMark> m_mapMark;
-    const xercesc::DOMNode*                             m_pLast     = nullptr; // a reader stays at one for a while
-    StMark*                                             m_pLastMark = nullptr;
+    std::deque<StShared>    m_lstShared{1}; // the first one asks nothing
+    std::vector<StMark>     m_lstMark;
+    catalog::CAddressTable  m_oNumbers;        // of the nodes that have marks, among them
+    const xercesc::DOMNode* m_pLast = nullptr; // a reader stays at one for a while
+    std::size_t             m_nLast = 0;       // the number of its mark
 };
 } // namespace lint
 

@@ -8,11 +8,13 @@
 #include "records/WordTables.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <map>
 #include <string_view>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 using namespace catalog;
 
@@ -38,14 +40,36 @@ constexpr StKindOfOperation KINDS[] = {
 };
 
 // The word by which a reference names a kind.
-std::string wordOf(const StKindOfOperation& stKind)
+std::string_view wordOf(const StKindOfOperation& stKind)
 {
     for (const auto& stWord : TYPE_REF_WORDS)
     {
         if (stWord.value == stKind.enType)
-            return std::string(stWord.strWord);
+            return stWord.strWord;
     }
     return {};
+}
+
+// Some rows of the table.
+struct StKinds
+{
+    const StKindOfOperation* pBegin;
+    const StKindOfOperation* pEnd;
+
+    const StKindOfOperation* begin() const { return pBegin; }
+    const StKindOfOperation* end() const { return pEnd; }
+};
+
+// The kinds of operations that a word may mean: one, or any for a word that only the
+// isolation view has.
+StKinds kindsOf(std::string_view strWord)
+{
+    for (const StKindOfOperation& stKind : KINDS)
+    {
+        if (wordOf(stKind) == strWord)
+            return {&stKind, &stKind + 1};
+    }
+    return {std::begin(KINDS), std::end(KINDS)};
 }
 
 const char* fieldOfRow(std::size_t nRow)
@@ -73,11 +97,11 @@ struct StWay
 // An element may be read into two menus, with other words in each.
 struct StReference
 {
-    StPlace               stPlace; // of its id
-    std::string           strId;
-    std::set<std::string> setWord; // as they are known to whoever reads it
-    StPlace               stType;
-    std::string           strSubject;
+    StPlace                    stPlace; // of its id
+    std::string_view           strId;   // of the catalog, as are the words
+    std::set<std::string_view> setWord; // as they are known to whoever reads it
+    StPlace                    stType;
+    std::string                strSubject;
 };
 
 class CSenseCheck
@@ -107,13 +131,12 @@ private:
                                                                [pszField](const StKindOfOperation& stKind)
                                                                { return std::strcmp(stKind.pszField, pszField) == 0; });
         std::map<std::string, StPlace> mapTaskType;
-        std::set<std::string>*         pDefined = pKind == std::end(KINDS) ? nullptr : &m_mapOperation[wordOf(*pKind)];
         for (const StEntry& stEntry : stSection.lstEntry)
         {
             if (stEntry.enOrigin == EnOrigin::Module)
                 m_setModuleFile.insert(stEntry.stPlace.ulFile);
-            if (pDefined != nullptr && stEntry.enFate != EnEntryFate::Dropped)
-                pDefined->insert(stEntry.strId);
+            if (pKind != std::end(KINDS) && stEntry.enFate != EnEntryFate::Dropped)
+                definedAs(*pKind).insert(stEntry.strId);
             if (std::strcmp(pszField, "lstTaskConfigInfoOperation") == 0)
                 checkTaskType(stEntry, mapTaskType.emplace(stEntry.strId, stEntry.stPlace).first->second);
             takeEntry(stEntry, {nullptr, pszField});
@@ -132,10 +155,21 @@ private:
                 {"the resource BACKUP_PROGRAM_SUPPORT is 1 where they are backed up"});
         if (stEntry.enFate != EnEntryFate::Counts)
             return;
-        if (const StField* pType = stEntry.field("enType"))
-            takeReference(stEntry, *pType, stWay);
+        if (isReference(stEntry))
+            takeReference(stEntry, *stEntry.field("enType"), stWay);
         for (const StEntry& stChild : stEntry.lstChild)
             takeEntry(stChild, stWay);
+    }
+
+    // All records of a kind have the same fields, and few kinds of records refer to anything.
+    bool isReference(const StEntry& stEntry)
+    {
+        for (const auto& [pszRecord, bReference] : m_lstRecord)
+        {
+            if (pszRecord == stEntry.pszRecord)
+                return bReference;
+        }
+        return m_lstRecord.emplace_back(stEntry.pszRecord, stEntry.field("enType") != nullptr).second;
     }
 
     void takeReference(const StEntry& stEntry, const StField& stType, const StWay& stWay)
@@ -153,25 +187,15 @@ private:
             stReference.setWord.insert(stType.strValue);
     }
 
-    // The kinds of operations that a word may mean: one, or any for a word that only
-    // the isolation view has.
-    static std::vector<const StKindOfOperation*> kindsOf(const std::string& strWord)
+    // The ids of a kind that the type has.
+    std::set<std::string_view>& definedAs(const StKindOfOperation& stKind)
     {
-        std::vector<const StKindOfOperation*> lstKind;
-        std::vector<const StKindOfOperation*> lstAny;
-        for (const StKindOfOperation& stKind : KINDS)
-        {
-            lstAny.push_back(&stKind);
-            if (wordOf(stKind) == strWord)
-                lstKind.push_back(&stKind);
-        }
-        return lstKind.empty() ? lstAny : lstKind;
+        return m_arDefined[static_cast<std::size_t>(&stKind - std::begin(KINDS))];
     }
 
-    bool isDefined(const StKindOfOperation& stKind, const std::string& strId) const
+    bool isDefined(const StKindOfOperation& stKind, std::string_view strId)
     {
-        const auto itOperation = m_mapOperation.find(wordOf(stKind));
-        return itOperation != m_mapOperation.end() && itOperation->second.count(strId) != 0;
+        return definedAs(stKind).count(strId) != 0;
     }
 
     void checkReference(const StReference& stReference)
@@ -179,13 +203,13 @@ private:
         if (stReference.setWord.empty())
             return; // the kind is missing or misspelt, which is told already
         std::vector<const StKindOfOperation*> lstMeant;
-        for (const std::string& strWord : stReference.setWord)
+        for (const std::string_view strWord : stReference.setWord)
         {
-            for (const StKindOfOperation* pKind : kindsOf(strWord))
+            for (const StKindOfOperation& stKind : kindsOf(strWord))
             {
-                if (isDefined(*pKind, stReference.strId))
+                if (isDefined(stKind, stReference.strId))
                     return;
-                lstMeant.push_back(pKind);
+                lstMeant.push_back(&stKind);
             }
         }
         reportReference(stReference, lstMeant);
@@ -206,7 +230,7 @@ private:
         for (const StKindOfOperation* pKind : lstMeant)
         {
             if (strNear.empty())
-                strNear = m_oHints.nearest(stReference.strId, m_mapOperation[wordOf(*pKind)]);
+                strNear = m_oHints.nearest(stReference.strId, definedAs(*pKind));
         }
         std::vector<std::string> lstHelp;
         if (!strNear.empty())
@@ -258,13 +282,14 @@ private:
 
     using Place = std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>; // file, line, column
 
-    const StTypeCatalog&                         m_stType;
-    const StLostNames&                           m_stLost;
-    CTypeFindings&                               m_oFindings;
-    std::map<std::string, std::set<std::string>> m_mapOperation; // ids by the word of their kind
-    std::map<Place, StReference>                 m_mapReference;
-    std::set<std::uint32_t>                      m_setModuleFile;
-    CHints                                       m_oHints;
+    const StTypeCatalog&                                     m_stType;
+    const StLostNames&                                       m_stLost;
+    CTypeFindings&                                           m_oFindings;
+    std::array<std::set<std::string_view>, std::size(KINDS)> m_arDefined; // ids, by kind
+    std::vector<std::pair<const char*, bool>>                m_lstRecord; // whether it refers to an operation
+    std::map<Place, StReference>                             m_mapReference;
+    std::set<std::uint32_t>                                  m_setModuleFile;
+    CHints                                                   m_oHints;
 };
 } // namespace
 
