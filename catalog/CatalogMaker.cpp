@@ -45,7 +45,7 @@ public:
 
     void readModules()
     {
-        m_oModuleSource.begin({}, {}, "");
+        m_oModuleSource.begin({}, {});
         CModuleXMLResReader oReader;
         {
             const ReadObserver::CScope oScope(m_oModuleRecorder);
@@ -57,12 +57,28 @@ public:
         for (const StModuleLoad& stLoad : oReader.files())
             m_lstModule.push_back(moduleCatalog(stLoad));
         m_lstModuleFile = m_oModuleSource.files();
+        m_oModuleSource.end();
         // A name listed twice appends the module twice.
         for (const auto& [strName, stModule] : m_mapModule)
         {
             for (const std::string& strSupported : stModule.lstSupportDevType)
                 m_mapModulesOfType[strSupported].push_back(&stModule);
         }
+    }
+
+    void expect(const std::vector<StTypeName>& lstType)
+    {
+        std::vector<StLoadType> lstLoad;
+        lstLoad.reserve(lstType.size());
+        for (const StTypeName& stName : lstType)
+        {
+            StDeviceType stType;
+            CDeviceAdapterInterface::getInstance()->searchDeviceType(stName.strDevType, stName.strDevTypeVer, stType);
+            lstLoad.push_back({CXMLConfigDatabase::trans2TelnetDevType(stName.strDevType, stName.strDevTypeVer),
+                               stType.enConfigFileType == EnConfigFileCommon, isCapacityType(stType)});
+        }
+        m_oSource.expect(lstLoad);
+        m_bExpects = true;
     }
 
     StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer, const ReadSink& fnRead)
@@ -78,7 +94,7 @@ public:
         stType.strDevSysOid    = stDeviceType.strDevSysOid;
         stType.stPlan          = makeConfigPlan(stType.strKey, strDevTypeVer, bCapacity);
         m_oRecorder.clear();
-        m_oSource.begin(stType.stPlan, m_lstModuleFile, CXMLConfigDatabase::getCommonDevTypeXMLFileName(true));
+        m_oSource.begin(stType.stPlan, m_lstModuleFile);
         StOwnedRoots oRoots;
         {
             const ReadObserver::CScope oScope(m_oRecorder);
@@ -89,6 +105,8 @@ public:
         stType.lstFile             = m_oSource.files();
         stType.lstCapacityDocument = m_oRecorder.takeCapacity();
         m_oRecorder.clear(); // the addresses die with the records
+        if (m_bExpects)      // else anything may be wanted again
+            m_oSource.end();
         return stType;
     }
 
@@ -150,6 +168,7 @@ private:
 
     ModuleInfoMap            m_mapModule;
     std::vector<std::string> m_lstModuleFile;
+    bool                     m_bExpects = false;
 };
 
 CCatalogMaker::CCatalogMaker(const DocumentSink& fnParsed) : m_pImpl(std::make_unique<CImpl>(fnParsed))
@@ -165,6 +184,15 @@ CCatalogMaker::CCatalogMaker(const DocumentSink& fnParsed) : m_pImpl(std::make_u
 }
 
 CCatalogMaker::~CCatalogMaker() = default;
+
+void CCatalogMaker::expect(const std::vector<StTypeName>& lstType)
+try
+{
+    m_pImpl->expect(lstType);
+}
+catch (...) // all is read the same, on one thread
+{
+}
 
 StTypeCatalog CCatalogMaker::make(const std::string& strDevType, const std::string& strDevTypeVer,
                                   const ReadSink& fnRead)

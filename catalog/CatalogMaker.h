@@ -27,6 +27,13 @@ using DocumentSink = std::function<void(const std::string& strFile, EnOrigin enO
 // are there still: for whoever heard along (common/ReadObserver.h).
 using ReadSink = std::function<void(std::uint32_t ulResult)>;
 
+// A device type as the registry names it.
+struct StTypeName
+{
+    std::string strDevType;
+    std::string strDevTypeVer;
+};
+
 class OPERATIONXML_API CCatalogMaker
 {
 public:
@@ -35,6 +42,10 @@ public:
     ~CCatalogMaker();
     CCatalogMaker(const CCatalogMaker&)            = delete;
     CCatalogMaker& operator=(const CCatalogMaker&) = delete;
+
+    // make() is called for these next, in this order: their files are parsed ahead, on
+    // as many threads as a load takes. Their threads end with the maker.
+    void expect(const std::vector<StTypeName>& lstType);
 
     // Reads one type, named as in the registry, with modules merged and capacity applied.
     StTypeCatalog make(const std::string& strDevType, const std::string& strDevTypeVer, const ReadSink& fnRead = {});

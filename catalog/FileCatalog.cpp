@@ -86,7 +86,7 @@ try
     StTypeCatalog stCatalog;
     CReadRecorder oRecorder;
     CPlacedSource oSource(oRecorder, EnOrigin::OwnFile);
-    oSource.begin({}, {}, "");
+    oSource.begin({}, {});
     std::shared_ptr<CXmlParser> pParser;
     {
         const ReadObserver::CScope oScope(oRecorder);

@@ -8,12 +8,14 @@
 
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/TransService.hpp>
 
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <new>
 #include <utility>
 
 using namespace xercesc;
@@ -92,6 +94,10 @@ std::string decoded(const std::string& strBytes, const char* pszEncoding)
         const TranscodeToStr oUtf8(strWide.c_str(), strWide.size(), "UTF-8");
         const std::string    strUtf8(reinterpret_cast<const char*>(oUtf8.str()), oUtf8.length());
         return strUtf8.compare(0, 3, "\xEF\xBB\xBF") == 0 ? strUtf8.substr(3) : strUtf8;
+    }
+    catch (const OutOfMemoryException&)
+    {
+        throw std::bad_alloc();
     }
     catch (const XMLException&)
     {
@@ -182,13 +188,34 @@ CPlacedParser::CPlacedParser()
 
 void CPlacedParser::parsePlaced(const std::string& strPath)
 {
+    parsePlacedUntold(strPath);
+    tellReadListener(problem());
+}
+
+void CPlacedParser::parsePlacedUntold(const std::string& strPath)
+{
+    try
+    {
+        return readPlaced(strPath);
+    }
+    catch (const std::bad_alloc&)
+    {
+        releaseDocument();
+        noteMemoryRanOut();
+    }
+    m_pPlaces = std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(""));
+    nameProblem(strPath);
+}
+
+void CPlacedParser::readPlaced(const std::string& strPath)
+{
     m_lstOpen.clear();
     m_lstPending.clear();
     m_pPlaces.reset(); // nothing is noted before the text is known
     std::string strBytes;
     if (!readFileBytes(strPath, strBytes).empty())
     {
-        parseFile(strPath); // says why
+        parseUntold(strPath); // says why
         m_pPlaces = std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(""));
         return;
     }
@@ -207,7 +234,7 @@ void CPlacedParser::parsePlaced(const std::string& strPath)
     }
     // Whether the file can be read is decided as the server does; then it is read
     // once more as UTF-8, so that places count characters.
-    parseFile(strPath);
+    parseUntold(strPath);
     const std::string strUtf8 = problem().isSet() ? "" : decoded(strBytes, bWide ? "UTF-16" : strEncoding.c_str());
     m_pPlaces =
         std::make_unique<CDocumentPlaces>(strPath, std::make_shared<CSourceText>(strUtf8.empty() ? strBytes : strUtf8));

@@ -100,9 +100,10 @@ public:
     // A new parser, or null when Xerces cannot be initialised.
     static std::unique_ptr<CPlacedParser> create();
 
-    // Parses a file as CXmlParser does. places() is then about it, also when it gave
-    // no document.
+    // Parse a file as parseFile() and parseUntold() do. places() is then about it, also
+    // when it gave no document.
     void parsePlaced(const std::string& strPath);
+    void parsePlacedUntold(const std::string& strPath);
 
     const CDocumentPlaces& places() const { return *m_pPlaces; }
 
@@ -116,6 +117,7 @@ private:
                     const XMLCh* pszPrefix) override;
     void docComment(const XMLCh* pszText) override;
 
+    void    readPlaced(const std::string& strPath);
     bool    isInEntity() const;
     StRange tagBefore(std::size_t nEnd) const;
     void    indexElements();

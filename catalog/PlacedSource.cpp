@@ -1,9 +1,10 @@
 // See PlacedSource.h.
 #include "catalog/PlacedSource.h"
 
+#include "catalog/PlacedParser.h"
+#include "reader/LoadThreads.h"
+
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
 #include <utility>
 
 namespace catalog
@@ -35,20 +36,36 @@ EnOrigin originOf(EnConfigSource enSource)
 }
 
 // Rules on documents look for texts that stand where none should; blanks are none.
-std::shared_ptr<CPlacedParser> newParser()
+std::shared_ptr<CXmlParser> makeParser()
 {
     std::shared_ptr<CPlacedParser> pParser = CPlacedParser::create();
     if (pParser != nullptr)
         pParser->leaveOutBlanks();
     return pParser;
 }
+
+void parseUntold(CXmlParser& oParser, const std::string& strFile)
+{
+    static_cast<CPlacedParser&>(oParser).parsePlacedUntold(strFile);
+}
+
+constexpr StParserKind PLACED_PARSERS = {makeParser, parseUntold};
 } // namespace
 
-void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile,
-                          const std::string& strCommonFile)
+CPlacedSource::CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin, DocumentSink fnParsed)
+    : m_oRecorder(oRecorder), m_enOrigin(enOrigin), m_fnParsed(std::move(fnParsed)),
+      m_pDocuments(std::make_unique<CLoadDocuments>(std::vector<StLoadType>(), 1, PLACED_PARSERS))
 {
-    m_lstFile       = std::move(lstFile);
-    m_strCommonFile = strCommonFile;
+}
+
+void CPlacedSource::expect(const std::vector<StLoadType>& lstType)
+{
+    m_pDocuments = std::make_unique<CLoadDocuments>(lstType, loadThreads::count(), PLACED_PARSERS);
+}
+
+void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile)
+{
+    m_lstFile = std::move(lstFile);
     m_mapOrigin.clear();
     for (const StPlannedFile* pFile : {&stPlan.stConfig, &stPlan.stCheck, &stPlan.stFixedCheck})
         m_mapOrigin.emplace(pFile->strFile, originOf(pFile->enSource));
@@ -56,42 +73,17 @@ void CPlacedSource::begin(const StConfigPlan& stPlan, std::vector<std::string> l
         m_mapOrigin.emplace(stVersion.stFile.strFile, originOf(stVersion.stFile.enSource));
 }
 
-void CPlacedSource::parse(const std::string& strFile, EnConfigSource /*enSource*/, std::shared_ptr<CXmlParser>& pParser)
+void CPlacedSource::parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser)
 {
+    const bool bIsNew = m_pDocuments->hand(strFile, enSource, pParser);
+    if (pParser == nullptr)
+        return;
+    auto&          oPlaced  = static_cast<CPlacedParser&>(*pParser); // no others come from there
     const auto     itOrigin = m_mapOrigin.find(strFile);
     const EnOrigin enOrigin = itOrigin == m_mapOrigin.end() ? m_enOrigin : itOrigin->second;
-    auto           itKept   = std::find_if(m_lstKept.begin(), m_lstKept.end(),
-                                           [&](const StKept& stKept) { return stKept.strFile == strFile; });
-    if (itKept == m_lstKept.end())
-    {
-        std::shared_ptr<CPlacedParser> pPlaced = freeParser();
-        pParser                                = pPlaced;
-        if (pPlaced == nullptr)
-            return;
-        pPlaced->parsePlaced(strFile);
-        if (m_fnParsed)
-            m_fnParsed(strFile, enOrigin, *pPlaced);
-        m_lstKept.push_back({strFile, std::move(pPlaced)});
-        itKept = std::prev(m_lstKept.end());
-    }
-    else
-        m_lstKept.splice(m_lstKept.end(), m_lstKept, itKept);
-    pParser = itKept->pParser;
-    m_oRecorder.documentBegun(*itKept->pParser, numberOf(strFile), enOrigin);
-}
-
-std::shared_ptr<CPlacedParser> CPlacedSource::freeParser()
-{
-    if (m_lstKept.size() <= KEPT)
-        return newParser();
-    auto itOldest = m_lstKept.begin();
-    if (itOldest->strFile == m_strCommonFile)
-        ++itOldest;
-    std::shared_ptr<CPlacedParser> pParser = std::move(itOldest->pParser);
-    m_lstKept.erase(itOldest);
-    if (pParser.use_count() > 1) // a reader has it still
-        pParser = newParser();
-    return pParser;
+    if (bIsNew && m_fnParsed)
+        m_fnParsed(strFile, enOrigin, oPlaced);
+    m_oRecorder.documentBegun(oPlaced, numberOf(strFile), enOrigin);
 }
 
 std::uint32_t CPlacedSource::numberOf(const std::string& strFile)

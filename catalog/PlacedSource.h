@@ -1,20 +1,18 @@
 // CPlacedSource: hands the readers documents whose places are known, and tells the
-// recorder of each. Keeps a few of them parsed: the common file, which many types
-// use, and the last ones. One thread.
+// recorder of each. They come from where the load has its own (reader/LoadDocuments.h):
+// kept, and parsed ahead for types that are announced. One thread.
 #ifndef OPERATIONXML_CATALOG_PLACEDSOURCE_H
 #define OPERATIONXML_CATALOG_PLACEDSOURCE_H
 
 #include "catalog/CatalogMaker.h"
 #include "catalog/ReadRecorder.h"
 #include "reader/ConfigPlan.h"
-#include "reader/DocumentSource.h"
+#include "reader/LoadDocuments.h"
 
 #include <cstdint>
-#include <list>
 #include <map>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace catalog
@@ -22,13 +20,17 @@ namespace catalog
 class CPlacedSource final : public CDocumentSource
 {
 public:
-    CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin, DocumentSink fnParsed = {})
-        : m_oRecorder(oRecorder), m_enOrigin(enOrigin), m_fnParsed(std::move(fnParsed))
-    {
-    }
+    CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin, DocumentSink fnParsed = {});
+
+    // These types are read from now on, in this order.
+    void expect(const std::vector<StLoadType>& lstType);
 
     // The files of a plan are about to be read. The first ones have their numbers.
-    void begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile, const std::string& strCommonFile);
+    void begin(const StConfigPlan& stPlan, std::vector<std::string> lstFile);
+
+    // What was read is not wanted again, save by types that are announced; its readers
+    // are gone. Until then as many documents are kept as there is room for.
+    void end() noexcept { m_pDocuments->endType(); }
 
     void parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser) override;
 
@@ -37,22 +39,12 @@ public:
     const std::vector<std::string>& files() const { return m_lstFile; }
 
 private:
-    struct StKept
-    {
-        std::string                    strFile;
-        std::shared_ptr<CPlacedParser> pParser;
-    };
-
-    // A parser with nothing in it that is wanted: one that is kept too long, or a new one.
-    std::shared_ptr<CPlacedParser> freeParser();
-
     CReadRecorder&                  m_oRecorder;
     EnOrigin                        m_enOrigin; // of files that no plan names
     DocumentSink                    m_fnParsed; // may be empty
+    std::unique_ptr<CLoadDocuments> m_pDocuments;
     std::map<std::string, EnOrigin> m_mapOrigin;
     std::vector<std::string>        m_lstFile;
-    std::string                     m_strCommonFile;
-    std::list<StKept>               m_lstKept; // the one used last is the last one
 };
 } // namespace catalog
 

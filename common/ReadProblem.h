@@ -42,6 +42,6 @@ OPERATIONXML_API std::string problemWithFile(const StReadProblem& stProblem);
 // did, with what was wrong with it or with nothing. Null, as it is at first, ends it.
 using ReadListener = void (*)(const StReadProblem& stProblem);
 OPERATIONXML_API void setReadListener(ReadListener pfnListener);
-void                  tellReadListener(const StReadProblem& stProblem);
+OPERATIONXML_API void tellReadListener(const StReadProblem& stProblem);
 
 #endif

@@ -273,7 +273,7 @@ void CXmlParser::noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFi
 void CXmlParser::noteMemoryRanOut()
 {
     m_bMemoryRanOut     = true;
-    m_stProblem.strText = "out of memory"; // whatever was noted before, it may be a consequence
+    m_stProblem.strText = "out of memory";
 }
 
 void CXmlParser::refuse(const std::string& strText)

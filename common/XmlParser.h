@@ -72,6 +72,9 @@ public:
     // Whether the same bytes would end in the same way again: the parse did not end
     // because memory ran out, or because the file could not be read.
     bool isSettled() const { return !m_bMemoryRanOut && m_stProblem.enKind != EnReadProblem::File; }
+
+    // The parser is of no more use then: Xerces leaves off in the middle of the file, and
+    // would go on there with the next one.
     bool memoryRanOut() const { return m_bMemoryRanOut; }
 
     // All elements of the document with this tag name, in document order.
@@ -87,6 +90,9 @@ protected:
 
     // Says in which file a problem of parseText is.
     void nameProblem(const std::string& strFile);
+
+    // That is the problem, whatever was noted before: it may be a consequence.
+    void noteMemoryRanOut();
 
     // For a parser that notes more of elements and comments as they come, and then
     // calls these.
@@ -128,7 +134,6 @@ private:
     void              readDocument(std::string_view strXml, std::size_t nBytewiseFrom);
     void              clearReading();
     void              noteProblem(const std::string& strText, XMLFileLoc nLine, XMLFileLoc nColumn);
-    void              noteMemoryRanOut();
     [[noreturn]] void refuse(const std::string& strText);
     void              openElement();
     ElementList&      elementsNamed(const XMLCh* pszName);

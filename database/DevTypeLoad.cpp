@@ -69,7 +69,7 @@ try
     ulResult = getExistDeviceTypes(mapDeviceType);
     if (ulResult != DC_RESULT_OK)
         return logFail(DC_HERE, ulResult, "getSuppportedDeviceTypes() failed :");
-    CLoadDocuments oDocuments(loadTypes(mapDeviceType), loadThreads::count());
+    CLoadDocuments oDocuments(loadTypes(mapDeviceType), loadThreads::count(), LOAD_PARSERS);
     for (const auto& [strDevType, stDeviceType] : mapDeviceType)
     {
         const std::string&                 strDevTypeVer = stDeviceType.strDevTypeVer;

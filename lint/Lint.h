@@ -8,6 +8,8 @@
 //
 // Threads: one lint at a time in a process, on any thread; meanwhile nothing else
 // may read configuration files (a second lint waits, a server's load does not).
+// lintServer() has files parsed ahead as the load does, on as many threads, which call
+// nothing but the parser and have ended when it returns.
 // No operation throws.
 #ifndef OPERATIONXML_LINT_LINT_H
 #define OPERATIONXML_LINT_LINT_H

@@ -38,6 +38,7 @@ public:
 
     void run()
     {
+        m_oMaker.expect(typesInOrder());
         reportMissing();
         for (const std::string& strFile : m_stFiles.lstUnused)
             reportOf(strFile).add("file-unused", {}, "no device type uses the file", "file");
@@ -72,6 +73,24 @@ private:
         const auto itEnd = m_mapReport.upper_bound(strFile);
         for (auto itReport = m_mapReport.begin(); itReport != itEnd; itReport = m_mapReport.erase(itReport))
             itReport->second->flush(m_fnFinding);
+    }
+
+    // As they are checked: each with the first of its files.
+    std::vector<catalog::StTypeName> typesInOrder() const
+    {
+        std::vector<catalog::StTypeName> lstOrder;
+        std::vector<bool>                lstIsIn(m_stFiles.lstType.size());
+        for (const auto& [strFile, stFile] : m_stFiles.mapFile)
+        {
+            for (const std::size_t nType : stFile.lstType)
+            {
+                const StServerType& stType = m_stFiles.lstType[nType];
+                if (!lstIsIn[nType])
+                    lstOrder.push_back({stType.strDevType, stType.strDevTypeVer});
+                lstIsIn[nType] = true;
+            }
+        }
+        return lstOrder;
     }
 
     // There is nothing to check of a type without files, but somebody may want to know of it.

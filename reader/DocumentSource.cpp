@@ -4,7 +4,7 @@
 void CDocumentSource::parse(const std::string&           strFile, EnConfigSource /*enSource*/,
                             std::shared_ptr<CXmlParser>& pParser)
 {
-    if (pParser == nullptr || pParser.use_count() > 1)
+    if (pParser == nullptr || pParser.use_count() > 1 || pParser->memoryRanOut())
         pParser = CXmlParser::create();
     if (pParser == nullptr)
         return;

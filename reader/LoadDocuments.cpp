@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace
@@ -15,7 +16,8 @@ namespace
 constexpr std::size_t MAX_WAITING_BYTES = std::size_t{12} << 20;
 } // namespace
 
-CLoadDocuments::CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads)
+CLoadDocuments::CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads, const StParserKind& stKind)
+    : m_oPool(stKind)
 {
     try
     {
@@ -28,21 +30,28 @@ CLoadDocuments::CLoadDocuments(const std::vector<StLoadType>& lstType, std::size
     }
     catch (...)
     {
-        passOverThrown(); // without a plan, or ahead of nothing, the load reads all the same
+        passOverThrown(); // without a plan, or ahead of nothing, all is read the same
     }
 }
+
+CLoadDocuments::~CLoadDocuments() = default;
 
 void CLoadDocuments::parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser)
 {
     if (ReadObserver::isRecorded())
         return CDocumentSource::parse(strFile, enSource, pParser);
+    hand(strFile, enSource, pParser);
+}
+
+bool CLoadDocuments::hand(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser)
+{
     pParser.reset();
     const auto itDocument = find(strFile);
-    if (itDocument != m_lstDocument.end())
+    const bool bIsNew     = itDocument == m_lstDocument.end();
+    if (!bIsNew)
     {
         m_lstDocument.splice(m_lstDocument.end(), m_lstDocument, itDocument);
         makeRoom();
-        tellReadListener(itDocument->stParsed.pParser->problem());
     }
     else
     {
@@ -51,6 +60,9 @@ void CLoadDocuments::parse(const std::string& strFile, EnConfigSource enSource, 
         m_lstDocument.back().stParsed = parseOrTake(strFile);
     }
     pParser = m_lstDocument.back().stParsed.pParser;
+    if (pParser != nullptr)
+        tellReadListener(pParser->problem());
+    return bIsNew;
 }
 
 void CLoadDocuments::endType() noexcept
@@ -89,17 +101,13 @@ StParsedFile CLoadDocuments::parseOrTake(const std::string& strFile)
             stParsed = parseNow(strFile);
         }
     }
-    if (stParsed.pParser != nullptr)
-        tellReadListener(stParsed.pParser->problem());
     return stParsed;
 }
 
 StParsedFile CLoadDocuments::parseNow(const std::string& strFile)
 {
-    StParsedFile stParsed = {m_oPool.take(), fileState(strFile)};
-    if (stParsed.pParser != nullptr)
-        stParsed.pParser->parseUntold(strFile);
-    return stParsed;
+    const std::optional<StFileState> oState = fileState(strFile); // before it may change
+    return {m_oPool.parse(strFile), oState};
 }
 
 // Gives up whatever is kept for later.

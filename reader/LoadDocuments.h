@@ -1,11 +1,12 @@
-// CLoadDocuments: where the start-up load takes its documents from. Keeps what later
-// types will want again, as long as the file does not change, and takes what was
-// parsed ahead (ParseAhead.h). One for each load, made and used by the loading
-// thread; it dies with the load, and nothing is kept beyond.
-// A recorded read passes it by: a listener's documents are its own.
+// CLoadDocuments: where the start-up load takes its documents from, and a recorded read
+// those whose places are known (catalog/PlacedSource.h). Keeps what later types will
+// want again, as long as the file does not change, and takes what was parsed ahead
+// (ParseAhead.h). One for each of them, made and used by the reading thread; nothing is
+// kept beyond it.
 #ifndef OPERATIONXML_READER_LOADDOCUMENTS_H
 #define OPERATIONXML_READER_LOADDOCUMENTS_H
 
+#include "platform/Export.h"
 #include "reader/DocumentSource.h"
 #include "reader/LoadPlan.h"
 #include "reader/ParseAhead.h"
@@ -17,14 +18,21 @@
 #include <string>
 #include <vector>
 
-class CLoadDocuments final : public CDocumentSource
+class OPERATIONXML_API CLoadDocuments final : public CDocumentSource
 {
 public:
-    // The types in the order of the load, and how many threads may parse, the loading
-    // one included.
-    CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads);
+    // The types in the order in which they are read, and how many threads may parse,
+    // this one included. Without types nothing is parsed ahead.
+    CLoadDocuments(const std::vector<StLoadType>& lstType, std::size_t nThreads, const StParserKind& stKind);
+    ~CLoadDocuments() override;
 
+    // For a load. What is recorded meanwhile passes it by: a listener's documents are
+    // its own.
     void parse(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser) override;
+
+    // The same for whoever has this for itself, and whether the file was parsed for
+    // this read rather than kept from an earlier one.
+    bool hand(const std::string& strFile, EnConfigSource enSource, std::shared_ptr<CXmlParser>& pParser);
 
     // The read of a type has ended, its reader is gone: the next one follows.
     void endType() noexcept;

@@ -1,5 +1,6 @@
 // CLoadPlan: which files a start-up load is going to want and how long, known before
-// it reads the first one. Made by the load, asked by its documents (LoadDocuments.h).
+// it reads the first one; the same of a recorded read. Made and asked by its documents
+// (LoadDocuments.h).
 // Hints, not promises: only the adapter is asked, for the paths that it will be asked
 // for again; what else decides about a file is left to the read. A value.
 #ifndef OPERATIONXML_READER_LOADPLAN_H

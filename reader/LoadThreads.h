@@ -1,4 +1,5 @@
-// How many threads a start-up load may use. Asked by the database before a load.
+// How many threads a start-up load may use, or a recorded read of many types. Asked by
+// the database before a load, and by the catalog (catalog/PlacedSource.h).
 #ifndef OPERATIONXML_READER_LOADTHREADS_H
 #define OPERATIONXML_READER_LOADTHREADS_H
 
@@ -12,7 +13,7 @@ namespace loadThreads
 constexpr const char* VARIABLE = "OPERATIONXML_LOAD_THREADS";
 constexpr std::size_t MOST     = 64; // that may be asked for
 
-// The loading thread included: what the environment says, a number from 1 to MOST,
+// The reading thread included: what the environment says, a number from 1 to MOST,
 // else as many as this process may run on, and 8 at most. Reads the environment:
 // nobody may change it meanwhile.
 OPERATIONXML_API std::size_t count();

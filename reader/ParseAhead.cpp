@@ -157,9 +157,8 @@ void CParseAhead::parseNext(Lock& oLock)
     try
     {
         stParsed.oState = fileState(*stAhead.pFile);
-        if (stParsed.oState.has_value() && fits(stAhead, *stParsed.oState) &&
-            (stParsed.pParser = m_oPool.take()) != nullptr)
-            stParsed.pParser->parseUntold(*stAhead.pFile);
+        if (stParsed.oState.has_value() && fits(stAhead, *stParsed.oState))
+            stParsed.pParser = m_oPool.parse(*stAhead.pFile);
     }
     catch (...)
     {

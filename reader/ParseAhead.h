@@ -1,8 +1,8 @@
-// CParseAhead: parses the files of a load ahead on threads of its own, while the
-// loading thread makes records of the documents that are finished. Made and asked by
-// the loading thread (LoadDocuments.h); its threads have ended when it is gone.
+// CParseAhead: parses the files of a load, or of a recorded read, ahead on threads of
+// its own, while the reading thread makes records of the documents that are finished.
+// Made and asked by that thread (LoadDocuments.h); its own have ended when it is gone.
 // They call neither the platform nor the log, and what they could not do is left to
-// the loading thread. A document is handed over whole, with its parser and its memory.
+// the reading thread. A document is handed over whole, with its parser and its memory.
 #ifndef OPERATIONXML_READER_PARSEAHEAD_H
 #define OPERATIONXML_READER_PARSEAHEAD_H
 
@@ -41,7 +41,7 @@ private:
         Waiting, // nobody has begun with it
         Begun,
         Ready,
-        Passed, // it was taken, or is left to the loading thread
+        Passed, // it was taken, or is left to the reading thread
     };
 
     struct StAhead

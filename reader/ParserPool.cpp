@@ -3,6 +3,26 @@
 
 #include "common/Guarded.h"
 
+namespace
+{
+std::shared_ptr<CXmlParser> makeParser()
+{
+    std::shared_ptr<CXmlParser> pParser = CXmlParser::create();
+    if (pParser == nullptr)
+        return nullptr;
+    pParser->keepBlocks();
+    pParser->leaveOutTexts(); // no section reads any
+    return pParser;
+}
+
+void parseUntold(CXmlParser& oParser, const std::string& strFile)
+{
+    oParser.parseUntold(strFile);
+}
+} // namespace
+
+const StParserKind LOAD_PARSERS = {makeParser, parseUntold};
+
 bool StParsedFile::isAsNow(const std::string& strFile) const
 {
     return pParser != nullptr && pParser->isSettled() && oState.has_value() && oState == fileState(strFile);
@@ -19,11 +39,14 @@ std::shared_ptr<CXmlParser> CParserPool::take()
             return pParser;
         }
     }
-    std::shared_ptr<CXmlParser> pParser = CXmlParser::create();
-    if (pParser == nullptr)
-        return nullptr;
-    pParser->keepBlocks();
-    pParser->leaveOutTexts();
+    return m_stKind.pfnMake();
+}
+
+std::shared_ptr<CXmlParser> CParserPool::parse(const std::string& strFile)
+{
+    std::shared_ptr<CXmlParser> pParser = take();
+    if (pParser != nullptr)
+        m_stKind.pfnParse(*pParser, strFile);
     return pParser;
 }
 
@@ -36,7 +59,7 @@ void CParserPool::clear() noexcept
 
 void CParserPool::giveBack(std::shared_ptr<CXmlParser> pParser) noexcept
 {
-    if (pParser == nullptr || pParser.use_count() != 1)
+    if (pParser == nullptr || pParser.use_count() != 1 || pParser->memoryRanOut())
         return;
     pParser->releaseDocument();
     try

@@ -1,15 +1,26 @@
-// A load with any number of threads gives what a load with one gives; each file is
-// read once, and as it is when its type's turn comes.
+// A load with any number of threads gives what a load with one gives, and so does a
+// read of all types for catalogs, or for lint; each file is read once, and as it is when
+// its type's turn comes.
 #include "reader/ServerFixture.h"
 
 #include "common/ReadProblem.h"
+#include "lint/Lint.h"
 #include "reader/LoadThreads.h"
 #include "sections/RecordText.h"
 #include "standalone/LogSink.h"
+#include "tools/opxml/catalog/ServerCatalogs.h"
+#include "tools/opxml/report/Detail.h"
 
+#include <xercesc/framework/MemoryManager.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+
+#include <atomic>
 #include <chrono>
 #include <fstream>
+#include <malloc.h>
 #include <map>
+#include <set>
 #include <stdlib.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -20,7 +31,99 @@ namespace
 {
 Lines g_lstTold; // problems, in the order in which opxml would hear of them
 
-class LoadThreadTest : public CServerTest
+// What came of a read of all types.
+struct StOutcome
+{
+    std::set<std::string> setStored; // of each key, the ids of its device operations: "A: Save"
+    Lines                 lstText;   // all of it
+};
+
+std::string problemLine(const StReadProblem& stProblem)
+{
+    return fmt::format("{} {}", problemWithFile(stProblem), static_cast<int>(stProblem.enKind));
+}
+
+void addOrigin(const StConfigOrigin& stOrigin, StOutcome& stOutcome)
+{
+    stOutcome.lstText.push_back(fmt::format("{} {} {}", static_cast<int>(stOrigin.enSource), stOrigin.strFile,
+                                            problemLine(stOrigin.stProblem)));
+    for (const StVersionLoad& stVersion : stOrigin.lstVersion)
+        stOutcome.lstText.push_back(fmt::format("{} {} {} {}", stVersion.strSoftVersion,
+                                                static_cast<int>(stVersion.enOutcome), stVersion.strFile,
+                                                problemLine(stVersion.stProblem)));
+}
+
+StOutcome load()
+{
+    StOutcome stOutcome;
+    CXMLConfigDatabase::finalize();
+    CXMLConfigDatabase& oDatabase = *CXMLConfigDatabase::getInstance();
+    oDatabase.visitDevTypes(
+        [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
+        {
+            stOutcome.setStored.insert(strKey + ": " + ids(lstInfo.front()->stOperationConfig.lstDevOperation));
+            for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
+                stOutcome.lstText.push_back(strKey + ": " + CRecordText::list<StAsnDevTypeVerXMLInfo>({*pInfo}));
+        });
+    for (const StDevTypeLoad& stLoad : oDatabase.getLoadReport().lstDevType)
+    {
+        stOutcome.lstText.push_back(
+            fmt::format("{} {} {} {:x}", stLoad.strDevType, stLoad.strDevTypeVer, stLoad.strKey, stLoad.ulResult));
+        addOrigin(stLoad.stOrigin, stOutcome);
+    }
+    return stOutcome;
+}
+
+void addCatalog(const catalog::StTypeCatalog& stType, StOutcome& stOutcome)
+{
+    stOutcome.lstText.push_back(
+        fmt::format("{} {} {} {:x}", stType.strDevType, stType.strDevTypeVer, stType.strKey, stType.ulResult));
+    addOrigin(stType.stOrigin, stOutcome);
+    for (std::size_t nAt = 0; nAt < stType.lstConfiguration.size(); ++nAt)
+        stOutcome.lstText.push_back(CDetailMaker().make(stType, nAt));
+    if (stType.lstConfiguration.empty())
+        return;
+    Lines lstId;
+    for (const catalog::StEntry& stEntry : stType.lstConfiguration.front().lstSection.front().lstEntry)
+        lstId.push_back(stEntry.strId);
+    stOutcome.setStored.insert(fmt::format("{}: {}", stType.strKey, fmt::join(lstId, ",")));
+}
+
+StOutcome makeCatalogs()
+{
+    StOutcome              stOutcome;
+    catalog::CCatalogMaker oMaker;
+    readCatalogs(oMaker, registeredTypes(),
+                 [&](const catalog::StTypeCatalog& stType) { addCatalog(stType, stOutcome); });
+    return stOutcome;
+}
+
+StOutcome lintAll()
+{
+    StOutcome         stOutcome;
+    lint::StReadAlong stAlong;
+    stAlong.fnType = [&](const catalog::StTypeCatalog& stType) { addCatalog(stType, stOutcome); };
+    lint::lintServer(
+        "inventory",
+        [&](const lint::StFinding& st)
+        {
+            stOutcome.lstText.push_back(fmt::format("{}:{}:{}+{} {}: {} {} {}", st.strFile, st.ulLine, st.ulColumn,
+                                                    st.ulLength, st.strRule, st.strMessage, st.strSource,
+                                                    fmt::join(st.lstHelp, " ")));
+        },
+        stAlong);
+    return stOutcome;
+}
+
+struct StReadCase
+{
+    const char* pszName;
+    StOutcome (*pfnRead)();
+    const char* pszReadAgain;   // what WhatDoesNotFitIsReadAgain opens
+    const char* pszAfterChange; // what AFileThatChangesMeanwhileIsReadAnew finds for type A
+};
+
+class LoadThreadTest : public CServerTest, public testing::WithParamInterface<StReadCase>
 {
 protected:
     LoadThreadTest() { makeModuleFolder(); }
@@ -31,42 +134,21 @@ protected:
         standalone::setTraceListener({});
     }
 
-    static CXMLConfigDatabase& load(const std::string& strThreads)
+    static StOutcome read(const std::string& strThreads)
     {
         ::setenv(loadThreads::VARIABLE, strThreads.c_str(), 1); // as above. NOLINT(concurrency-mt-unsafe)
-        CXMLConfigDatabase::finalize();
         clearLog();
-        return *CXMLConfigDatabase::getInstance();
+        return GetParam().pfnRead();
     }
 
-    // Store, report, log and problems of a load.
+    // The outcome with log and problems.
     static Lines everything(const std::string& strThreads)
     {
         g_lstTold.clear();
         setReadListener([](const StReadProblem& stProblem) { g_lstTold.push_back(problemWithFile(stProblem)); });
-        CXMLConfigDatabase& oDatabase = load(strThreads);
-        Lines               lstText   = logLinesWithPlace();
-        lstText.insert(lstText.end(), g_lstTold.begin(), g_lstTold.end());
-        oDatabase.visitDevTypes(
-            [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-            {
-                for (const StAsnDevTypeVerXMLInfo* pInfo : lstInfo)
-                    lstText.push_back(strKey + ": " + CRecordText::list<StAsnDevTypeVerXMLInfo>({*pInfo}));
-            });
-        const auto fnProblem = [](const StReadProblem& stProblem)
-        { return fmt::format("{} {}", problemWithFile(stProblem), static_cast<int>(stProblem.enKind)); };
-        const StLoadReport stReport = oDatabase.getLoadReport();
-        for (const StDevTypeLoad& stLoad : stReport.lstDevType)
-        {
-            const StConfigOrigin& stOrigin = stLoad.stOrigin;
-            lstText.push_back(fmt::format("{} {} {} {} {} {} {:x}", stLoad.strDevType, stLoad.strDevTypeVer,
-                                          stLoad.strKey, static_cast<int>(stOrigin.enSource), stOrigin.strFile,
-                                          fnProblem(stOrigin.stProblem), stLoad.ulResult));
-            for (const StVersionLoad& stVersion : stOrigin.lstVersion)
-                lstText.push_back(fmt::format("{} {} {} {}", stVersion.strSoftVersion,
-                                              static_cast<int>(stVersion.enOutcome), stVersion.strFile,
-                                              fnProblem(stVersion.stProblem)));
-        }
+        Lines lstText = read(strThreads).lstText;
+        for (const Lines& lstMore : {logLinesWithPlace(), g_lstTold})
+            lstText.insert(lstText.end(), lstMore.begin(), lstMore.end());
         return lstText;
     }
 
@@ -85,19 +167,9 @@ protected:
         }
         return strSql;
     }
-
-    // What is served in all: "A: Save;B: Save;".
-    static std::string stored(CXMLConfigDatabase& oDatabase)
-    {
-        std::string strStored;
-        oDatabase.visitDevTypes(
-            [&](const std::string& strKey, const std::list<StAsnDevTypeVerXMLInfo*>& lstInfo)
-            { strStored += strKey + ": " + ids(lstInfo.front()->stOperationConfig.lstDevOperation) + ";"; });
-        return strStored;
-    }
 };
 
-TEST_F(LoadThreadTest, TheExampleServerIsTheSameWithAnyNumber)
+TEST_P(LoadThreadTest, TheExampleServerIsTheSameWithAnyNumber)
 {
     std::filesystem::copy(OPERATIONXML_SOURCE_DIR "/examples/server", m_oRoot.path(),
                           std::filesystem::copy_options::recursive);
@@ -110,13 +182,15 @@ TEST_F(LoadThreadTest, TheExampleServerIsTheSameWithAnyNumber)
         EXPECT_EQ(lstOne, everything(pszThreads)) << pszThreads;
 }
 
-TEST_F(LoadThreadTest, ABrokenRootIsTheSameWithAnyNumber)
+TEST_P(LoadThreadTest, ABrokenRootIsTheSameWithAnyNumber)
 {
     const std::string OID    = "<upgradecapacity sysoid='1.3'><Operation id='Save' isSupported='0'/></upgradecapacity>";
     const std::string CHECKS = "<C><CheckOperations><CheckOperation id='{}'/></CheckOperations></C>";
     std::string strSql = typesWithFiles({"bytes", "checked", "checked 2", "common", "common 2", "deep", "empty", "fine",
-                                         "folder", "late", "missing", "pipe", "torn", "twin"});
+                                         "folder", "late", "latin", "missing", "pipe", "torn", "twin"});
     m_oRoot.writeConfig("bytes.xml", "<C>\n\xC3(</C>");
+    m_oRoot.writeConfig("latin.xml", "<?xml version='1.0' encoding='ISO-8859-1'?>\n<C><!-- \xE4 --><DeviceOperation>"
+                                     "<!-- opxml-lint: allow \xF6 --><Operation id='\xE4'/></DeviceOperation></C>");
     m_oRoot.writeConfig("torn.xml", "<C><DeviceOperation><Operation id='half'/>\n<");
     m_oRoot.writeConfig("torn check.xml", "<C><CheckOperations>");
     m_oRoot.writeConfig("check.xml", fmt::format(fmt::runtime(CHECKS), "c"));
@@ -166,6 +240,15 @@ TEST_F(LoadThreadTest, ABrokenRootIsTheSameWithAnyNumber)
     }
 }
 
+// By itself, its document takes more than 12 MB.
+std::string longFile(int nOperations = 120000)
+{
+    std::string strLong = "<C><DeviceOperation>";
+    for (int nAt = 0; nAt < nOperations; ++nAt)
+        strLong += "<Operation/>";
+    return strLong + "</DeviceOperation></C>";
+}
+
 // How often each file of a folder is opened.
 class COpenCount
 {
@@ -202,7 +285,7 @@ private:
     int m_nFd;
 };
 
-TEST_F(LoadThreadTest, EachFileIsReadOnce)
+TEST_P(LoadThreadTest, EachFileIsReadOnce)
 {
     const std::string CAPABLE =
         "INSERT INTO device_type (name, version, support_upgrade, support_capacity, capacity_per_version) VALUES "
@@ -251,34 +334,76 @@ TEST_F(LoadThreadTest, EachFileIsReadOnce)
             SCOPED_TRACE(fmt::format("{}, {} threads", stCase.pszName, pszThreads));
             m_oRoot.open(strTypes + stCase.strSql);
             const COpenCount oCount(m_oRoot.configFolder());
-            load(pszThreads);
+            read(pszThreads);
             EXPECT_EQ(stCase.pszFiles, oCount.text());
         }
     }
 }
 
-// Two documents that cannot wait beside each other: parsed again rather than kept.
-TEST_F(LoadThreadTest, WhatDoesNotFitIsReadAgain)
+// What the XML library takes is limited.
+class CLimitedMemory final : public xercesc::MemoryManager
 {
-    std::string strLong = "<C><DeviceOperation>";
-    for (int nAt = 0; nAt < 120000; ++nAt)
-        strLong += "<Operation/>";
-    strLong += "</DeviceOperation></C>";
+public:
+    explicit CLimitedMemory(std::ptrdiff_t nMost) : m_nMost(nMost)
+    {
+        CXmlParser::create(); // starts the library, if nobody has
+        m_pBefore = std::exchange(xercesc::XMLPlatformUtils::fgMemoryManager, this);
+    }
+    ~CLimitedMemory() override { xercesc::XMLPlatformUtils::fgMemoryManager = m_pBefore; }
+
+    void* allocate(XMLSize_t nSize) override
+    {
+        if (m_nTaken + static_cast<std::ptrdiff_t>(nSize) > m_nMost)
+            throw xercesc::OutOfMemoryException();
+        void* const pBytes = m_pBefore->allocate(nSize);
+        m_nTaken += static_cast<std::ptrdiff_t>(::malloc_usable_size(pBytes));
+        return pBytes;
+    }
+    void deallocate(void* pBytes) override
+    {
+        m_nTaken -= static_cast<std::ptrdiff_t>(::malloc_usable_size(pBytes));
+        m_pBefore->deallocate(pBytes);
+    }
+    xercesc::MemoryManager* getExceptionMemoryManager() override { return m_pBefore; }
+
+private:
+    xercesc::MemoryManager*     m_pBefore = nullptr;
+    const std::ptrdiff_t        m_nMost;
+    std::atomic<std::ptrdiff_t> m_nTaken{0};
+};
+
+TEST_P(LoadThreadTest, AFileThatIsTooLongForTheMemoryCostsItselfAlone)
+{
+    m_oRoot.open(typesWithFiles({"A", "B", "C", "D", "E"}));
+    m_oRoot.writeConfig("B.xml", longFile());
+    for (const char* pszThreads : {"1", "2", "5"})
+    {
+        SCOPED_TRACE(pszThreads);
+        const CLimitedMemory oMemory(std::ptrdiff_t{12} << 20);
+        EXPECT_THAT(everything(pszThreads), testing::Contains(testing::HasSubstr("/B.xml: out of memory")));
+        EXPECT_THAT(read(pszThreads).setStored, testing::ElementsAre("A: A", "C: C", "D: D", "E: E"));
+        CXMLConfigDatabase::finalize();
+    }
+}
+
+// Two documents that cannot wait beside each other: parsed again rather than kept.
+TEST_P(LoadThreadTest, WhatDoesNotFitIsReadAgain)
+{
     const std::string strTypes = typesWithFiles({"A", "B", "C", "D", "E", "F"});
-    m_oRoot.writeConfig("A.xml", strLong);
-    m_oRoot.writeConfig("C.xml", strLong);
+    m_oRoot.writeConfig("A.xml", longFile());
+    m_oRoot.writeConfig("C.xml", longFile());
     m_oRoot.open(strTypes + "UPDATE config_file SET path = '" + configPath("A.xml") +
                  "' WHERE device_type IN ('B', 'D');"
                  "UPDATE config_file SET path = '" +
                  configPath("C.xml") + "' WHERE device_type = 'E';");
     const COpenCount oCount(m_oRoot.configFolder());
-    load("2");
-    EXPECT_EQ("A.xml 2;C.xml 2;F.xml 1;", oCount.text());
+    read("2");
+    EXPECT_EQ(GetParam().pszReadAgain, oCount.text());
 }
 
 // A file that changes is read as it is when its type's turn comes, whether its
 // document was kept or made ahead. The new one is as long as the old one.
-TEST_F(LoadThreadTest, AFileThatChangesMeanwhileIsReadAnew)
+TEST_P(LoadThreadTest, AFileThatChangesMeanwhileIsReadAnew)
 {
     m_oRoot.open(typesWithFiles({"A", "B", "C", "D"}) +
                  "UPDATE device_type SET config_file_type = 1 WHERE name IN ('A', 'C');");
@@ -298,7 +423,8 @@ TEST_F(LoadThreadTest, AFileThatChangesMeanwhileIsReadAnew)
                 m_oRoot.writeConfig(strCommon, deviceFile({"new"}));
                 m_oRoot.writeConfig("D.xml", deviceFile({"new"}));
             });
-        EXPECT_EQ("A: old;B: B;C: new;D: new;", stored(load(pszThreads)));
+        const std::string strOfA = GetParam().pszAfterChange;
+        EXPECT_THAT(read(pszThreads).setStored, testing::ElementsAre("A: " + strOfA, "B: B", "C: new", "D: new"));
     }
 }
 
@@ -307,18 +433,19 @@ std::ptrdiff_t threads()
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
 }
 
-TEST_F(LoadThreadTest, AsManyThreadsAsAskedForAndNoneAfterwards)
+TEST_P(LoadThreadTest, AsManyThreadsAsAskedForAndNoneAfterwards)
 {
     const std::pair<const char*, std::ptrdiff_t> CASES[] = {{"1", 0}, {"2", 1}, {"5", 4}, {"64", 8}}; // one a file
     m_oRoot.open(typesWithFiles({"A", "B", "C", "D", "E", "F", "G", "H", "I"}));
-    std::thread([] {}).join(); // a sanitizer's own thread comes with the first one
+    m_oRoot.writeConfig("A.xml", longFile(30000)); // somebody is at it when the first type is read
+    std::thread([] {}).join();                     // a sanitizer's own thread comes with the first one
     for (const auto& [pszThreads, nExpected] : CASES)
     {
         SCOPED_TRACE(pszThreads);
         const std::ptrdiff_t nBefore = threads();
         std::ptrdiff_t       nMost   = 0;
         standalone::setTraceListener([&](const LocationInfo&) { nMost = std::max(nMost, threads()); });
-        load(pszThreads);
+        read(pszThreads);
         standalone::setTraceListener({});
         EXPECT_GE(nExpected, nMost - nBefore); // those that found nothing to do are gone
         EXPECT_EQ(nExpected == 0, nMost == nBefore);
@@ -327,7 +454,7 @@ TEST_F(LoadThreadTest, AsManyThreadsAsAskedForAndNoneAfterwards)
     }
 }
 
-TEST_F(LoadThreadTest, TheGroupsOfTheProcessLimitIt)
+TEST(LoadThreadGroupTest, TheGroupsOfTheProcessLimitIt)
 {
     const struct
     {
@@ -353,8 +480,17 @@ TEST_F(LoadThreadTest, TheGroupsOfTheProcessLimitIt)
         CTempServerRoot oMount;
         for (const auto& [strPath, pszText] : stCase.lstFile)
             oMount.write(strPath, pszText);
-        const std::string strGroups = m_oRoot.write("cgroup", stCase.pszGroups);
+        const std::string strGroups = oMount.write("cgroup", stCase.pszGroups);
         EXPECT_EQ(stCase.nExpected, loadThreads::allowedByGroups(strGroups, oMount.path())) << stCase.pszGroups;
     }
 }
+
+// Lint goes by files: the types of one come together, and B comes before the common file.
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(, LoadThreadTest, testing::Values(
+    StReadCase{"Load", load, "A.xml 2;C.xml 2;F.xml 1;", "old"},
+    StReadCase{"Catalogs", makeCatalogs, "A.xml 2;C.xml 2;F.xml 1;", "old"},
+    StReadCase{"Lint", lintAll, "A.xml 1;C.xml 1;F.xml 1;", "new"}),
+    [](const auto& oInfo) { return std::string(oInfo.param.pszName); });
+// clang-format on
 } // namespace

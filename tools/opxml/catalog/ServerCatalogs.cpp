@@ -36,7 +36,11 @@ std::vector<std::string> namesOf(const std::vector<StRegisteredType>& lstType)
 void readCatalogs(catalog::CCatalogMaker& oMaker, const std::vector<StRegisteredType>& lstType,
                   const std::function<void(const catalog::StTypeCatalog&)>& fnType)
 {
-    const CProgress oProgress(lstType.size());
+    const CProgress                  oProgress(lstType.size());
+    std::vector<catalog::StTypeName> lstName;
+    for (const StRegisteredType& stType : lstType)
+        lstName.push_back({stType.strDevType, stType.strDevTypeVer});
+    oMaker.expect(lstName);
     for (const StRegisteredType& stType : lstType)
         fnType(oMaker.make(stType.strDevType, stType.strDevTypeVer));
 }

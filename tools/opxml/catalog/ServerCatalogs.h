@@ -16,7 +16,7 @@ std::vector<StRegisteredType> typesNamed(const std::vector<StRegisteredType>& ls
 // Their names, and keys that differ from them, for suggestions.
 std::vector<std::string> namesOf(const std::vector<StRegisteredType>& lstType);
 
-// Makes the catalog of each in turn, with a progress bar. A type that cannot be read has
+// Makes the catalog of each in turn, with a progress bar; their files are parsed ahead. A type that cannot be read has
 // one without configurations.
 void readCatalogs(catalog::CCatalogMaker& oMaker, const std::vector<StRegisteredType>& lstType,
                   const std::function<void(const catalog::StTypeCatalog&)>& fnType);
