@@ -1,7 +1,8 @@
 // The room report/: one self-contained page about a server root, for people who
 // rather look than read. ReadReport gathers what is below as plain values, type by
-// type; PageJson makes the page's data of them; PageFile writes it. page/ has the
-// page itself: markup, style and script, joined at build time (EmbedPage.cmake).
+// type, and TypeReader has the tree of each made (Detail) and packed (DetailPacker);
+// PageJson makes the page's data of them; PageFile writes it. page/ has the page
+// itself: markup, style and script, joined at build time (EmbedPage.cmake).
 // Called by opxml report. Here: what the page is about, as plain values.
 #ifndef OPERATIONXML_TOOLS_OPXML_REPORT_REPORTDATA_H
 #define OPERATIONXML_TOOLS_OPXML_REPORT_REPORTDATA_H
