@@ -70,6 +70,7 @@ bool isSame(std::u16string_view strRead, std::string_view strWritten)
 }
 } // namespace
 
+// The last attribute of the field's name counts, as it does for its reader.
 StPlace CReadRecorder::fieldPlace(const StSeen& stSeen, std::string_view strField) const
 {
     std::string_view strName = strField; // without the prefix of its type
@@ -77,28 +78,22 @@ StPlace CReadRecorder::fieldPlace(const StSeen& stSeen, std::string_view strFiel
         static_cast<std::size_t>(std::find_if_not(strName.begin(), strName.end(), isLower) - strName.begin()));
     if (strField == "strResourceClass")
         strName = "filename";
-    StPlace     stFound;
-    StPlace     stWord;
-    std::size_t nWords = 0;
-    bool        bNamed = false;
-    for (std::size_t nAt = 0; nAt < stSeen.nAttributes; ++nAt)
+    const StSeenAttribute* const pFirst = m_lstAttribute.data() + stSeen.nAttribute;
+    const StSeenAttribute* const pEnd   = pFirst + stSeen.nAttributes;
+    for (std::size_t nAt = stSeen.nAttributes; nAt-- != 0;)
     {
-        const StSeenAttribute& stAttribute = m_lstAttribute[stSeen.nAttribute + nAt];
+        const StSeenAttribute& stAttribute = pFirst[nAt];
+        if (isNamed(stAttribute.strName, strName))
+            return stAttribute.stPlace;
         // Telnet check files have a word of their own, which decides where it stands.
-        const bool bChecked = strField == "bSelected" && stAttribute.strName == u"checked";
-        if (isNamed(stAttribute.strName, strName) || (bChecked && stAttribute.stPlace.ulLine != 0))
-        {
-            stFound = stAttribute.stPlace;
-            bNamed  = true;
-        }
-        if (stAttribute.enReadAs == EnReadAs::Word)
-        {
-            stWord = stAttribute.stPlace;
-            ++nWords;
-        }
+        if (strField == "bSelected" && stAttribute.strName == u"checked" && stAttribute.stPlace.ulLine != 0)
+            return stAttribute.stPlace;
     }
+    if (strField.substr(0, 2) != "en")
+        return {};
     // The kind of a patch or task is the one word that stands there.
-    return !bNamed && nWords == 1 && strField.substr(0, 2) == "en" ? stWord : stFound;
+    const auto fnIsWord = [](const StSeenAttribute& stAttribute) { return stAttribute.enReadAs == EnReadAs::Word; };
+    return std::count_if(pFirst, pEnd, fnIsWord) == 1 ? std::find_if(pFirst, pEnd, fnIsWord)->stPlace : StPlace{};
 }
 
 void CReadRecorder::clear()
@@ -178,7 +173,7 @@ void CReadRecorder::attributeRead(const StAttributeRead& stRead)
         const std::u16string_view strName = stRead.pszName;
         if (stRead.pAttr != nullptr && stOpen.strId.empty() && (strName == u"id" || strName == u"name"))
             stOpen.strId = valueOf(*stRead.pAttr);
-        stOpen.lstRead.push_back({strName, stRead.enReadAs, placeOf(stOpen, stRead)});
+        stOpen.lstRead.push_back({strName, stRead.enReadAs, placeOf(stOpen, stRead, strName)});
         return;
     }
     // What is read of no record: the task type that checks belong to, the name of a module.
@@ -207,7 +202,7 @@ StPlace CReadRecorder::placeIn(const StOpen& stOpen, const StRange& stRange)
             static_cast<std::uint32_t>(stRange.nEnd - stRange.nBegin)};
 }
 
-StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRead)
+StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRead, std::u16string_view strName)
 {
     if (stRead.pAttr == nullptr)
         return {};
@@ -216,7 +211,7 @@ StPlace CReadRecorder::placeOf(const StOpen& stOpen, const StAttributeRead& stRe
         return place(oPlaces.valueSpot(stRead.oElement, toLocal(stRead.pszName)), stOpen.pDocument->ulFile);
     for (const StAttributePlace& stWritten : stOpen.lstWritten)
     {
-        if (isSame(stRead.pszName, stWritten.strName))
+        if (isSame(strName, stWritten.strName))
             return placeIn(stOpen, stWritten.stValue);
     }
     return stOpen.stSeen.stPlace; // brought by an entity or a declaration

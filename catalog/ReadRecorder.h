@@ -119,7 +119,7 @@ private:
 
     const StDocument& documentOf(const xercesc::DOMElement& oElement) const;
     static StPlace    placeIn(const StOpen& stOpen, const StRange& stRange);
-    static StPlace    placeOf(const StOpen& stOpen, const StAttributeRead& stRead);
+    static StPlace    placeOf(const StOpen& stOpen, const StAttributeRead& stRead, std::u16string_view strName);
     void keep(const void* pRecord, StSeen stSeen, const StSeenAttribute* pAttribute, std::size_t nAttributes);
     void lose(const StSeen& stSeen, StEntry stEntry);
 
