@@ -35,10 +35,17 @@ StReportRow typeRow(const StDevTypeLoad& stLoad)
     stRow.strFile       = shortPath(stLoad.stOrigin.strFile);
     return stRow;
 }
+
+// Another one is busy with parsing all the while: where there are two, a third would be
+// in their way.
+std::size_t packingThreads()
+{
+    return std::max<std::size_t>(loadThreads::count(), 2) - 1;
+}
 } // namespace
 
 CTypeReader::CTypeReader(StReport& stReport, DetailSink fnDetail)
-    : m_stReport(stReport), m_fnDetail(std::move(fnDetail)), m_oPacker(loadThreads::count())
+    : m_stReport(stReport), m_fnDetail(std::move(fnDetail)), m_oPacker(packingThreads())
 {
     for (const StRegisteredType& stType : registeredTypes())
     {
