@@ -354,6 +354,12 @@ INSTANTIATE_TEST_SUITE_P(, CatalogPlaceTest, testing::Values(
     StPlaceCase{"Utf8WithMark", std::string("\xEF\xBB\xBF") + WIDE_BODY, WIDE},
     StPlaceCase{"Latin1", latin1(WIDE_BODY), WIDE},
     StPlaceCase{"Utf16", utf16(WIDE_BODY), WIDE},
+    StPlaceCase{"WideInOneLine", "<C><DeviceOperation><Operation id='\xC3\xA4\xC3\xB6' isCancelable='1'/></DeviceOperation></C>",
+                "\xC3\xA4\xC3\xB6 A.xml:1:22+9 strId@1:36+2 bIsCancelable@1:54+1\n"},
+    // A line of many blocks of the text, of which two have more bytes than characters.
+    StPlaceCase{"WideAndFarOff", "<C><!--" + std::string(600, '.') + "\xC3\xA4" + std::string(600, '.') + "--><DeviceOperation><Operation id='a'/><!--\xC3\xA4--><Operation id='b'/></DeviceOperation></C>",
+                "a A.xml:1:1230+9 strId@1:1244+1\n"
+                "b A.xml:1:1257+9 strId@1:1271+1\n"},
     StPlaceCase{"Entities", "<!DOCTYPE C [<!ENTITY e '<Operation id=\"E\"/>'>]>\n<C><DeviceOperation>&e;<Operation\n id='F'/></DeviceOperation></C>",
                 "E A.xml:2:5+15 strId@2:5+15\n"
                 "F A.xml:2:25+9 strId@3:6+1\n"},
