@@ -3,6 +3,8 @@
 
 #include "catalog/PlacedSource.h"
 #include "catalog/SectionMaker.h"
+#include "reader/LoadDocuments.h"
+#include "reader/LoadThreads.h"
 #include "records/ResultCodes.h"
 
 #include <algorithm>
@@ -114,41 +116,77 @@ catch (...)
     return stFailed;
 }
 
-struct CFilePairReader::StSide
+class CFilePairReader::CImpl
 {
-    CReadRecorder                  oRecorder;
-    std::unique_ptr<CPlacedParser> pParser = CPlacedParser::create();
-
-    // Whether there is a document.
-    bool parse(const std::string& strFile)
+public:
+    void expect(const std::vector<StFilePair>& lstPair)
     {
-        if (pParser == nullptr)
-            return false;
-        pParser->parsePlaced(strFile);
-        oRecorder.clear();
-        oRecorder.documentBegun(*pParser, 0, EnOrigin::OwnFile);
-        return pParser->getDocument() != nullptr;
+        std::vector<StLoadType> lstRead;
+        lstRead.reserve(lstPair.size());
+        for (const StFilePair& stPair : lstPair)
+            lstRead.push_back({stPair.strOld + '\n' + stPair.strNew, false, false, {stPair.strOld, stPair.strNew}});
+        m_pDocuments = std::make_unique<CLoadDocuments>(lstRead, loadThreads::count(), PLACED_PARSERS);
     }
+
+    bool make(const std::string& strOld, const std::string& strNew, StTypeCatalog& stOld, StTypeCatalog& stNew)
+    {
+        const std::shared_ptr<CXmlParser> pOld = parse(strOld);
+        const std::shared_ptr<CXmlParser> pNew = parse(strNew);
+        if (pOld == nullptr || pOld->getDocument() == nullptr || pNew == nullptr || pNew->getDocument() == nullptr)
+            return false;
+        auto&      oOld  = static_cast<CPlacedParser&>(*pOld);
+        auto&      oNew  = static_cast<CPlacedParser&>(*pNew);
+        const Rows arRow = differingRows(oOld, oNew);
+        read(oOld, strOld, arRow, stOld);
+        read(oNew, strNew, arRow, stNew);
+        return stOld.ulResult == DC_RESULT_OK && stNew.ulResult == DC_RESULT_OK;
+    }
+
+    void endPair() noexcept { m_pDocuments->endType(); }
+
+private:
+    std::shared_ptr<CXmlParser> parse(const std::string& strFile)
+    {
+        std::shared_ptr<CXmlParser> pParser;
+        m_pDocuments->hand(strFile, EnConfigSource::OwnFile, pParser);
+        return pParser;
+    }
+
+    void read(CPlacedParser& oParser, const std::string& strFile, const Rows& arRow, StTypeCatalog& stCatalog)
+    {
+        m_oRecorder.clear();
+        m_oRecorder.documentBegun(oParser, 0, EnOrigin::OwnFile);
+        addConfiguration(oParser, arRow, m_oRecorder, stCatalog);
+        stCatalog.lstFile = {strFile};
+    }
+
+    CReadRecorder                   m_oRecorder;
+    std::unique_ptr<CLoadDocuments> m_pDocuments =
+        std::make_unique<CLoadDocuments>(std::vector<StLoadType>(), 1, PLACED_PARSERS);
 };
 
-CFilePairReader::CFilePairReader() : m_pOld(std::make_unique<StSide>()), m_pNew(std::make_unique<StSide>())
+CFilePairReader::CFilePairReader() : m_pImpl(std::make_unique<CImpl>())
 {
 }
 
 CFilePairReader::~CFilePairReader() = default;
 
+void CFilePairReader::expect(const std::vector<StFilePair>& lstPair)
+try
+{
+    m_pImpl->expect(lstPair);
+}
+catch (...) // all is read the same, on one thread
+{
+}
+
 bool CFilePairReader::make(const std::string& strOld, const std::string& strNew, StTypeCatalog& stOld,
                            StTypeCatalog& stNew)
 try
 {
-    if (!m_pOld->parse(strOld) || !m_pNew->parse(strNew))
-        return false;
-    const Rows arRow = differingRows(*m_pOld->pParser, *m_pNew->pParser);
-    addConfiguration(*m_pOld->pParser, arRow, m_pOld->oRecorder, stOld);
-    addConfiguration(*m_pNew->pParser, arRow, m_pNew->oRecorder, stNew);
-    stOld.lstFile = {strOld};
-    stNew.lstFile = {strNew};
-    return stOld.ulResult == DC_RESULT_OK && stNew.ulResult == DC_RESULT_OK;
+    const bool bIsMade = m_pImpl->make(strOld, strNew, stOld, stNew);
+    m_pImpl->endPair();
+    return bIsMade;
 }
 catch (...)
 {

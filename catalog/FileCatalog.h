@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace catalog
 {
@@ -16,9 +17,14 @@ namespace catalog
 // why.
 OPERATIONXML_API StTypeCatalog makeFileCatalog(const std::string& strFile);
 
+struct StFilePair
+{
+    std::string strOld;
+    std::string strNew;
+};
+
 // Reads two files of which only the differences matter: a section whose elements are
-// written alike in both is left empty in both. Keeps its parsers from one pair to the
-// next. One thread.
+// written alike in both is left empty in both. One thread.
 class OPERATIONXML_API CFilePairReader
 {
 public:
@@ -27,14 +33,16 @@ public:
     CFilePairReader(const CFilePairReader&)            = delete;
     CFilePairReader& operator=(const CFilePairReader&) = delete;
 
+    // make() is called for these next, in this order: their files are parsed ahead, on
+    // as many threads as a load takes.
+    void expect(const std::vector<StFilePair>& lstPair);
+
     // False when one of them cannot be read; the catalogs say nothing then.
     bool make(const std::string& strOld, const std::string& strNew, StTypeCatalog& stOld, StTypeCatalog& stNew);
 
 private:
-    struct StSide;
-
-    std::unique_ptr<StSide> m_pOld;
-    std::unique_ptr<StSide> m_pNew;
+    class CImpl;
+    std::unique_ptr<CImpl> m_pImpl;
 };
 } // namespace catalog
 

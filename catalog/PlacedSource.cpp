@@ -48,9 +48,9 @@ void parseUntold(CXmlParser& oParser, const std::string& strFile)
 {
     static_cast<CPlacedParser&>(oParser).parsePlacedUntold(strFile);
 }
-
-constexpr StParserKind PLACED_PARSERS = {makeParser, parseUntold};
 } // namespace
+
+const StParserKind PLACED_PARSERS = {makeParser, parseUntold};
 
 CPlacedSource::CPlacedSource(CReadRecorder& oRecorder, EnOrigin enOrigin, DocumentSink fnParsed)
     : m_oRecorder(oRecorder), m_enOrigin(enOrigin), m_fnParsed(std::move(fnParsed)),

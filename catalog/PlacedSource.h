@@ -17,6 +17,9 @@
 
 namespace catalog
 {
+// Parsers that know the places, as all documents of catalogs are parsed.
+extern const StParserKind PLACED_PARSERS;
+
 class CPlacedSource final : public CDocumentSource
 {
 public:

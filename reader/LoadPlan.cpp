@@ -41,6 +41,10 @@ std::size_t CLoadPlan::lastUser(const std::string& strFile, EnConfigSource enSou
 
 void CLoadPlan::addFiles(const StLoadType& stType, std::size_t nType)
 {
+    for (const std::string& strFile : stType.lstFile)
+        addFile(strFile, nType);
+    if (!stType.lstFile.empty())
+        return;
     EnCheckReportType enReportType = EnCheckReportNone;
     addFile(configSearch::findCheckFile(nullptr, stType.strKey, enReportType).strFile, nType);
     if (stType.bCommon || stType.bCapacity) // what the versions in service want only the platform knows

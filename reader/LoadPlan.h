@@ -13,12 +13,13 @@
 #include <unordered_map>
 #include <vector>
 
-// An entry of the registry.
+// An entry of the registry, or whatever else is read as one.
 struct StLoadType
 {
-    std::string strKey; // its storage key
-    bool        bCommon   = false;
-    bool        bCapacity = false;
+    std::string              strKey; // its storage key; with the same one, the same files are read
+    bool                     bCommon   = false;
+    bool                     bCapacity = false;
+    std::vector<std::string> lstFile   = {}; // where they are known; else the adapter is asked
 };
 
 class CLoadPlan

@@ -1,6 +1,6 @@
 // A load with any number of threads gives what a load with one gives, and so does a
-// read of all types for catalogs, or for lint; each file is read once, and as it is when
-// its type's turn comes.
+// read of all types for catalogs, for lint or for a comparison; each file is read once,
+// and as it is when its type's turn comes.
 #include "reader/ServerFixture.h"
 
 #include "common/ReadProblem.h"
@@ -9,6 +9,8 @@
 #include "sections/RecordText.h"
 #include "standalone/LogSink.h"
 #include "tools/opxml/catalog/ServerCatalogs.h"
+#include "tools/opxml/diff/RootDiff.h"
+#include "tools/opxml/difftext/DiffPrinter.h"
 #include "tools/opxml/report/Detail.h"
 
 #include <xercesc/framework/MemoryManager.hpp>
@@ -123,20 +125,33 @@ struct StReadCase
     const char* pszAfterChange; // what AFileThatChangesMeanwhileIsReadAnew finds for type A
 };
 
-class LoadThreadTest : public CServerTest, public testing::WithParamInterface<StReadCase>
+class CThreadTest : public CServerTest
 {
 protected:
-    LoadThreadTest() { makeModuleFolder(); }
-    ~LoadThreadTest() override
+    CThreadTest() { makeModuleFolder(); }
+    ~CThreadTest() override
     {
         ::unsetenv(loadThreads::VARIABLE); // no other thread is about. NOLINT(concurrency-mt-unsafe)
         setReadListener(nullptr);
         standalone::setTraceListener({});
     }
 
-    static StOutcome read(const std::string& strThreads)
+    static void setThreads(const std::string& strThreads)
     {
         ::setenv(loadThreads::VARIABLE, strThreads.c_str(), 1); // as above. NOLINT(concurrency-mt-unsafe)
+    }
+};
+
+class DiffThreadTest : public CThreadTest
+{
+};
+
+class LoadThreadTest : public CThreadTest, public testing::WithParamInterface<StReadCase>
+{
+protected:
+    static StOutcome read(const std::string& strThreads)
+    {
+        setThreads(strThreads);
         clearLog();
         return GetParam().pfnRead();
     }
@@ -451,6 +466,41 @@ TEST_P(LoadThreadTest, AsManyThreadsAsAskedForAndNoneAfterwards)
         EXPECT_EQ(nExpected == 0, nMost == nBefore);
         while (threads() != nBefore) // the system may still list what has been joined
             std::this_thread::yield();
+    }
+}
+
+// Types with a pair of files each, one with that of another, one that is the same, files
+// that break and come into being, and a type whose common file changes.
+TEST_F(DiffThreadTest, AComparisonIsTheSameWithAnyNumber)
+{
+    CTempServerRoot oNew;
+    std::string     strSql;
+    for (const std::string strName : {"A", "B", "C", "D", "E", "F", "G", "H"})
+    {
+        strSql += fmt::format("INSERT INTO device_type (name, version) VALUES ('{0}', 'V');"
+                              "INSERT INTO config_file VALUES ('{0}', '{1}');",
+                              strName, configPath((strName == "D" ? "A" : strName) + ".xml"));
+        m_oRoot.writeConfig(strName + ".xml", deviceFile({strName, "Lost"}));
+        oNew.writeConfig(strName + ".xml", deviceFile(strName == "B" ? Lines{"B", "Lost"} : Lines{strName, "New"}));
+    }
+    strSql += "UPDATE device_type SET config_file_type = 1 WHERE name = 'G';";
+    m_oRoot.writeConfig("Common_ServerConfiguration.xml", deviceFile({"Common"}));
+    oNew.writeConfig("Common_ServerConfiguration.xml", deviceFile({"New"}));
+    oNew.writeConfig("C.xml", "<C><DeviceOperation>");
+    std::filesystem::remove(m_oRoot.configFolder() + "E.xml");
+    oNew.open(strSql);
+    m_oRoot.open(strSql);
+    std::string strOne;
+    for (const char* pszThreads : {"1", "2", "8"})
+    {
+        setThreads(pszThreads);
+        std::string strText;
+        printDiffJson(diffRoots(m_oRoot.path(), oNew.path()),
+                      [&](const std::string& strPiece) { strText += strPiece; });
+        strOne = strOne.empty() ? strText : strOne;
+        EXPECT_EQ(strOne, strText) << pszThreads;
+        for (const char* pszType : {"A", "C", "D", "E", "F", "G", "H"})
+            EXPECT_THAT(strText, testing::HasSubstr(fmt::format("\"{}\"", pszType)));
     }
 }
 

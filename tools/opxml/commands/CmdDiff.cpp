@@ -59,7 +59,7 @@ int runDiff(const StGlobalOptions& stGlobal, const StDiffOptions& stOptions)
         return printRules(stOptions.strFormat);
     if (stOptions.strNew.empty())
         throw CTrouble("name two server roots, or two configuration files: OLD and NEW");
-    openLog(stGlobal);
+    applyOptions(stGlobal);
     const StDiff stDiff = compare(stOptions);
     if (stOptions.strFormat == "json")
         printDiffJson(stDiff, print);

@@ -118,7 +118,7 @@ std::string rulesJson(const std::string& strFile, const StRules& stRules)
 
 int runFileCheck(const StGlobalOptions& stGlobal, const StFileCheckOptions& stOptions)
 {
-    openLog(stGlobal);
+    applyOptions(stGlobal);
     requireFile(stOptions.strFile);
     if (stOptions.bCheck)
         return printMistakes(stOptions.strFile, stOptions.strFile, lint::EnFileKind::FileCheck, stOptions.bJson);

@@ -219,7 +219,7 @@ int runLint(const StGlobalOptions& stGlobal, const StLintOptions& stOptions)
     if (bServer)
         openRoot(stGlobal);
     else
-        openLog(stGlobal);
+        applyOptions(stGlobal);
     CFindingFilter    oFilter(stOptions, stGlobal.strRoot);
     const std::size_t nFiles =
         bServer ? lintRoot(stGlobal.strRoot, [&](const lint::StFinding& stFinding) { oFilter.take(stFinding); })

@@ -8,7 +8,7 @@
 
 #include <stdlib.h>
 
-void openLog(const StGlobalOptions& stOptions)
+void applyOptions(const StGlobalOptions& stOptions)
 {
     if (!stOptions.strLogFile.empty() || stOptions.bVerbose)
         setReadListener([](const StReadProblem& stProblem) { standalone::setLogNote(problemWithFile(stProblem)); });
@@ -17,13 +17,13 @@ void openLog(const StGlobalOptions& stOptions)
         throw CTrouble(strError);
     if (stOptions.bVerbose)
         standalone::setConsoleLog(standalone::EnConsoleLevel::All);
+    if (stOptions.uJobs != 0) // no other thread is about yet. NOLINTNEXTLINE(concurrency-mt-unsafe)
+        ::setenv(loadThreads::VARIABLE, std::to_string(stOptions.uJobs).c_str(), 1);
 }
 
 void openRoot(const StGlobalOptions& stOptions)
 {
-    openLog(stOptions);
-    if (stOptions.uJobs != 0) // no other thread is about yet. NOLINTNEXTLINE(concurrency-mt-unsafe)
-        ::setenv(loadThreads::VARIABLE, std::to_string(stOptions.uJobs).c_str(), 1);
+    applyOptions(stOptions);
     std::string strError;
     if (!standalone::openServerRoot(stOptions.strRoot, strError))
         throw CTrouble(strError);

@@ -27,10 +27,10 @@ struct StTool
     std::function<int()> fnRun;
 };
 
-// Opens the log that the options name; throws CTrouble.
-void openLog(const StGlobalOptions& stOptions);
+// Opens the log that the options name, and sets how many threads may read; throws CTrouble.
+void applyOptions(const StGlobalOptions& stOptions);
 
-// Opens the log and the server root; throws CTrouble.
+// The same, and opens the server root; throws CTrouble.
 void openRoot(const StGlobalOptions& stOptions);
 
 // Each adds one command, in a source file of its own.

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 #include <utility>
 
 namespace
@@ -32,10 +33,12 @@ public:
     {
         const std::vector<StRegisteredType> lstType = comparedTypes(m_oOld, m_oNew, lstWanted);
         {
-            CProgress oProgress(lstType.size(), CProgress::EnSteps::Told);
-            for (const StRegisteredType& stName : lstType)
+            CProgress                   oProgress(lstType.size(), CProgress::EnSteps::Told);
+            const std::vector<StToRead> lstToRead = typesToRead(lstType, oProgress);
+            m_oFiles.expect(filePairs(lstToRead));
+            for (const StToRead& stToRead : lstToRead)
             {
-                compareType(stName);
+                compareType(stToRead);
                 oProgress.step();
             }
         }
@@ -70,33 +73,80 @@ private:
         return mapUnread;
     }
 
-    void compareType(const StRegisteredType& stName)
+    // A type that differs, or may.
+    struct StToRead
     {
-        const StRegisteredType stType = {stName.strDevType, stName.strDevTypeVer, stName.strKey};
-        const StSideType*      pOld   = m_oOld.find(stName);
-        const StSideType*      pNew   = m_oNew.find(stName);
-        if (pOld == nullptr || pNew == nullptr)
-            return tellRegistry(stType, pOld == nullptr);
+        StRegisteredType    stName;
+        const StSideType*   pOld = nullptr; // null: it is not registered there
+        const StSideType*   pNew = nullptr;
+        std::string         strShared; // sharedKey()
+        catalog::StFilePair stPair;    // all that it is read from; else empty
+    };
+
+    // Whoever is read from the same bytes on both sides is done with that.
+    std::vector<StToRead> typesToRead(const std::vector<StRegisteredType>& lstType, CProgress& oProgress)
+    {
+        std::vector<StToRead> lstToRead;
+        for (const StRegisteredType& stName : lstType)
+        {
+            StToRead stToRead = {stName, m_oOld.find(stName), m_oNew.find(stName), {}, {}};
+            if (stToRead.pOld == nullptr || stToRead.pNew == nullptr || isToBeRead(stToRead))
+                lstToRead.push_back(std::move(stToRead));
+            else
+                oProgress.step();
+        }
+        return lstToRead;
+    }
+
+    bool isToBeRead(StToRead& stToRead)
+    {
+        const StSideType& stOld = *stToRead.pOld;
+        const StSideType& stNew = *stToRead.pNew;
         m_oOld.resume();
-        const StConfigPlan stOldPlan = m_oOld.plan(*pOld);
+        const StConfigPlan stOldPlan = m_oOld.plan(stOld);
         m_oNew.resume();
-        const StConfigPlan stNewPlan = m_oNew.plan(*pNew);
-        if (m_oOld.settings() == m_oNew.settings() && m_oSameFiles.isSame(*pOld, stOldPlan, *pNew, stNewPlan))
-            return;
-        const std::string strShared = sharedKey(*pOld, stOldPlan, *pNew, stNewPlan);
-        const auto        itShared  = m_mapShared.find(strShared);
+        const StConfigPlan stNewPlan     = m_oNew.plan(stNew);
+        const bool         bSameSettings = m_oOld.settings() == m_oNew.settings();
+        if (bSameSettings && m_oSameFiles.isSame(stOld, stOldPlan, stNew, stNewPlan))
+            return false;
+        stToRead.strShared = sharedKey(stOld, stOldPlan, stNew, stNewPlan);
+        if (!stToRead.strShared.empty() && bSameSettings && stOld.lstModule.empty() && stNew.lstModule.empty())
+            stToRead.stPair = {stOldPlan.stConfig.strFile, stNewPlan.stConfig.strFile};
+        return true;
+    }
+
+    // Types that differ alike are compared once.
+    static std::vector<catalog::StFilePair> filePairs(const std::vector<StToRead>& lstToRead)
+    {
+        std::vector<catalog::StFilePair> lstPair;
+        std::set<std::string>            setShared;
+        for (const StToRead& stToRead : lstToRead)
+        {
+            if (!stToRead.stPair.strOld.empty() && setShared.insert(stToRead.strShared).second)
+                lstPair.push_back(stToRead.stPair);
+        }
+        return lstPair;
+    }
+
+    void compareType(const StToRead& stToRead)
+    {
+        const StRegisteredType& stType = stToRead.stName;
+        if (stToRead.pOld == nullptr || stToRead.pNew == nullptr)
+            return tellRegistry(stType, stToRead.pOld == nullptr);
+        const auto itShared = m_mapShared.find(stToRead.strShared);
         if (itShared != m_mapShared.end())
             return tell(stType, itShared->second);
+        m_oNew.resume();
         StCompared stCompared;
-        if (strShared.empty() || !compareFiles(*pOld, stOldPlan, *pNew, stNewPlan, stCompared))
-            stCompared = compareCatalogs(*pOld, *pNew);
+        if (!compareFiles(stToRead.stPair, stCompared))
+            stCompared = compareCatalogs(*stToRead.pOld, *stToRead.pNew);
         tell(stType, stCompared);
-        if (strShared.empty())
+        if (stToRead.strShared.empty())
             return;
         // The versions of a type come together, the types of the common file all along.
         if (m_mapShared.size() == SHARED_KEPT)
             m_mapShared.clear();
-        m_mapShared.emplace(strShared, std::move(stCompared));
+        m_mapShared.emplace(stToRead.strShared, std::move(stCompared));
     }
 
     // What came of one type, with the files of the places.
@@ -131,14 +181,11 @@ private:
     }
 
     // Types of one file and nothing else: only what is written differently is read of them.
-    bool compareFiles(const StSideType& stOld, const StConfigPlan& stOldPlan, const StSideType& stNew,
-                      const StConfigPlan& stNewPlan, StCompared& stCompared)
+    bool compareFiles(const catalog::StFilePair& stPair, StCompared& stCompared)
     {
-        if (!stOld.lstModule.empty() || !stNew.lstModule.empty() || m_oOld.settings() != m_oNew.settings())
-            return false;
         catalog::StTypeCatalog stOldMade;
         catalog::StTypeCatalog stNewMade;
-        if (!m_oFiles.make(stOldPlan.stConfig.strFile, stNewPlan.stConfig.strFile, stOldMade, stNewMade))
+        if (stPair.strOld.empty() || !m_oFiles.make(stPair.strOld, stPair.strNew, stOldMade, stNewMade))
             return false;
         stCompared = {diffTypes(stOldMade, stNewMade, m_stPassedOver), std::move(stOldMade.lstFile),
                       std::move(stNewMade.lstFile)};
