@@ -109,8 +109,8 @@ std::string decoded(const std::string& strBytes, const char* pszEncoding)
 const StElementPlace& CDocumentPlaces::element(const DOMElement& oElement) const
 {
     static const StElementPlace s_stUnknown;
-    const std::size_t           nElement = m_oNumbers.find(&oElement);
-    return nElement == CAddressTable::NONE ? s_stUnknown : m_lstElement[nElement];
+    const auto                  itNumber = m_mapNumber.find(&oElement);
+    return itNumber == m_mapNumber.end() ? s_stUnknown : m_lstElement[itNumber->second];
 }
 
 StRange CDocumentPlaces::name(const StElementPlace& stElement) const
@@ -317,8 +317,8 @@ void CPlacedParser::indexElements()
             stElement.pElement = nullptr;
         return;
     }
-    m_pPlaces->m_oNumbers.reserve(lstElement.size());
+    m_pPlaces->m_mapNumber.reserve(lstElement.size());
     for (std::size_t nElement = 0; nElement < lstElement.size(); ++nElement)
-        m_pPlaces->m_oNumbers.put(lstElement[nElement].pElement, nElement);
+        m_pPlaces->m_mapNumber.emplace(lstElement[nElement].pElement, nElement);
 }
 } // namespace catalog

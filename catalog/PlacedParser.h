@@ -4,10 +4,11 @@
 #ifndef OPERATIONXML_CATALOG_PLACEDPARSER_H
 #define OPERATIONXML_CATALOG_PLACEDPARSER_H
 
-#include "catalog/AddressTable.h"
 #include "catalog/SourceText.h"
 #include "common/XmlParser.h"
 #include "platform/Export.h"
+
+#include <tsl/robin_map.h>
 
 #include <cstddef>
 #include <memory>
@@ -91,7 +92,10 @@ private:
     std::shared_ptr<const CSourceText> m_pText;
     std::vector<StElementPlace>        m_lstElement; // in document order
     std::vector<StCommentPlace>        m_lstComment;
-    CAddressTable                      m_oNumbers; // of the elements
+
+    // The number of each element. There are thousands in every file, and a map that
+    // allocates for each one takes as long as all else that is noted of them.
+    tsl::robin_map<const xercesc::DOMElement*, std::size_t> m_mapNumber;
 };
 
 class OPERATIONXML_API CPlacedParser : public CXmlParser

@@ -17,6 +17,9 @@ namespace
 {
 constexpr const char16_t* TASK_TYPE = u"TaskType";
 
+// To clear a map goes through all of it: that of a huge file is not kept.
+constexpr std::size_t MOST_BUCKETS = 65536;
+
 StPlace place(const StSpot& stSpot, std::uint32_t ulFile)
 {
     return {ulFile, stSpot.ulLine, stSpot.ulColumn, stSpot.ulLength};
@@ -101,7 +104,9 @@ void CReadRecorder::clear()
     m_mapDocument.clear();
     m_lstSeen.clear();
     m_lstAttribute.clear();
-    m_oNumbers.clear();
+    if (m_mapNumber.bucket_count() > MOST_BUCKETS)
+        m_mapNumber = {};
+    m_mapNumber.clear();
     m_mapLost.clear();
     m_nOpen = 0;
     m_lstCapacity.clear();
@@ -146,8 +151,8 @@ const StModuleHead& CReadRecorder::module(std::uint32_t ulFile) const
 
 const StSeen* CReadRecorder::find(const void* pRecord) const
 {
-    const std::size_t nSeen = m_oNumbers.find(pRecord);
-    return nSeen == CAddressTable::NONE ? nullptr : &m_lstSeen[nSeen];
+    const auto itNumber = m_mapNumber.find(pRecord);
+    return itNumber == m_mapNumber.end() ? nullptr : &m_lstSeen[itNumber->second];
 }
 
 const std::vector<StLost>& CReadRecorder::lost(const void* pParent) const
@@ -277,7 +282,7 @@ void CReadRecorder::keep(const void* pRecord, StSeen stSeen, const StSeenAttribu
     stSeen.nAttribute  = m_lstAttribute.size();
     stSeen.nAttributes = nAttributes;
     m_lstAttribute.insert(m_lstAttribute.end(), pAttribute, pAttribute + nAttributes);
-    m_oNumbers.put(pRecord, m_lstSeen.size());
+    m_mapNumber.insert_or_assign(pRecord, m_lstSeen.size());
     m_lstSeen.push_back(stSeen);
 }
 

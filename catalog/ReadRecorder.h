@@ -6,10 +6,11 @@
 #ifndef OPERATIONXML_CATALOG_READRECORDER_H
 #define OPERATIONXML_CATALOG_READRECORDER_H
 
-#include "catalog/AddressTable.h"
 #include "catalog/Catalog.h"
 #include "catalog/PlacedParser.h"
 #include "common/ReadObserver.h"
+
+#include <tsl/robin_map.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -127,7 +128,7 @@ private:
     std::unordered_map<const xercesc::DOMDocument*, StDocument> m_mapDocument;
     std::vector<StSeen>                                         m_lstSeen;
     std::vector<StSeenAttribute>                                m_lstAttribute;   // of all that were seen
-    CAddressTable                                               m_oNumbers;       // of the records, in m_lstSeen
+    tsl::robin_map<const void*, std::size_t>                    m_mapNumber;      // of the records, in m_lstSeen
     std::unordered_map<const void*, std::vector<StLost>>        m_mapLost;        // by parent, or by list of a section
     std::vector<StOpen>                                         m_lstOpen;        // kept with their memory
     std::size_t                                                 m_nOpen = 0;      // of them

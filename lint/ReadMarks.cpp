@@ -68,22 +68,19 @@ void CReadMarks::recordEnded(const DOMElement& oElement, const void* /*pRecord*/
 const StMark& CReadMarks::of(const DOMNode& oNode) const
 {
     static const StMark s_stNone;
-    const std::size_t   nMark = m_oNumbers.find(&oNode);
-    return nMark == catalog::CAddressTable::NONE ? s_stNone : m_lstMark[nMark];
+    const auto          itNumber = m_mapNumber.find(&oNode);
+    return itNumber == m_mapNumber.end() ? s_stNone : m_lstMark[itNumber->second];
 }
 
 StMark& CReadMarks::mark(const DOMNode& oNode)
 {
     if (m_pLast == &oNode)
         return m_lstMark[m_nLast];
-    m_pLast = &oNode;
-    m_nLast = m_oNumbers.find(&oNode);
-    if (m_nLast == catalog::CAddressTable::NONE)
-    {
-        m_nLast = m_lstMark.size();
+    m_pLast                     = &oNode;
+    const auto [itNumber, bNew] = m_mapNumber.try_emplace(&oNode, m_lstMark.size());
+    if (bNew)
         m_lstMark.emplace_back();
-        m_oNumbers.put(&oNode, m_nLast);
-    }
+    m_nLast = itNumber->second;
     return m_lstMark[m_nLast];
 }
 

@@ -5,8 +5,9 @@
 #ifndef OPERATIONXML_LINT_READMARKS_H
 #define OPERATIONXML_LINT_READMARKS_H
 
-#include "catalog/AddressTable.h"
 #include "common/ReadObserver.h"
+
+#include <tsl/robin_map.h>
 
 #include <cstddef>
 #include <deque>
@@ -89,11 +90,11 @@ private:
     std::size_t take(std::size_t nAsked, const char16_t* pszElement);
     std::size_t share(StQuestions stQuestions);
 
-    std::deque<StShared>    m_lstShared{1}; // the first one asks nothing
-    std::vector<StMark>     m_lstMark;
-    catalog::CAddressTable  m_oNumbers;        // of the nodes that have marks, among them
-    const xercesc::DOMNode* m_pLast = nullptr; // a reader stays at one for a while
-    std::size_t             m_nLast = 0;       // the number of its mark
+    std::deque<StShared>                                 m_lstShared{1}; // the first one asks nothing
+    tsl::robin_map<const xercesc::DOMNode*, std::size_t> m_mapNumber;    // of the nodes that have marks
+    std::vector<StMark>                                  m_lstMark;
+    const xercesc::DOMNode*                              m_pLast = nullptr; // a reader stays at one for a while
+    std::size_t                                          m_nLast = 0;       // the number of its mark
 };
 } // namespace lint
 
