@@ -21,7 +21,8 @@ constexpr StTarget LINT_TARGET = {"lint", "CPU of `opxml lint` ÷ `opxml load`, 
 constexpr StTarget PAGE_TARGET = {"page", "CPU of `opxml report` ÷ `opxml load`, 1,000 types, one thread", "≤ 2", 2};
 constexpr StTarget PAGE_OF_TWO_TARGET = {"page, elapsed", "the same elapsed, both with two threads", "≤ 2", 2};
 constexpr StTarget DIFF_TARGET        = {
-           "comparison", "CPU of `opxml diff` with a change in each of 1,000 files ÷ `opxml load` of one root, one thread",
+           "comparison",
+           "CPU of `opxml diff` with an operation changed in each of 1,000 files ÷ `opxml load` of one root, one thread",
            "≤ 2.3", 2.3};
 
 StChild runTool(const std::filesystem::path& oRoot, const char* pszJobs, std::vector<std::string> lstArgument)
@@ -63,14 +64,14 @@ void measurePage(benchmark::State& oState)
     answerWith(oState, PAGE_OF_TWO_TARGET, againstLoad("2", &StChild::dWall, lstArgument));
 }
 
-// Another value in the middle of the file, in one attribute.
+// Another text of one operation.
 void changeFile(const std::filesystem::path& oFile)
 {
     std::ifstream     oInput(oFile, std::ios::binary);
     std::string       strText(std::istreambuf_iterator<char>(oInput), {});
-    const std::size_t nAt = strText.find(" description=\"", strText.size() / 2);
+    const std::size_t nAt = strText.find(" operDescription=\"");
     if (nAt == std::string::npos)
-        throw std::runtime_error("no description in " + oFile.string());
+        throw std::runtime_error("no operation in " + oFile.string());
     strText.insert(strText.find('"', nAt) + 1, "New: ");
     if (!(std::ofstream(oFile, std::ios::binary | std::ios::trunc) << strText).flush())
         throw std::runtime_error("cannot write " + oFile.string());

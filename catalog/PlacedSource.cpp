@@ -35,12 +35,16 @@ EnOrigin originOf(EnConfigSource enSource)
     return EnOrigin::OwnFile;
 }
 
+// Documents follow one another by the thousand, and their memory serves the next one.
 // Rules on documents look for texts that stand where none should; blanks are none.
 std::shared_ptr<CXmlParser> makeParser()
 {
     std::shared_ptr<CPlacedParser> pParser = CPlacedParser::create();
     if (pParser != nullptr)
+    {
         pParser->leaveOutBlanks();
+        pParser->keepBlocks();
+    }
     return pParser;
 }
 
