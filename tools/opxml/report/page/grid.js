@@ -9,7 +9,7 @@ const ROW_HEIGHT = 40; // as in matrix.css
 const COLUMN_WIDTH = 34;
 const SHOWN_WHOLE = 6000; // cells: a small matrix is all there
 const ROOM_FOR_TITLE = 5; // columns: where a kind has less, its word stands at each column
-const MARGIN = 8; // rows and columns beyond what is in sight; drawn anew when so many have passed
+const MARGIN = 4; // rows and columns beyond what is in sight; drawn anew when so many have passed
 
 let rows = [];
 let columns = [];
