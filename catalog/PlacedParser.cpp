@@ -255,11 +255,14 @@ bool CPlacedParser::isInEntity() const
     return const_cast<CPlacedParser*>(this)->getScanner()->getReaderMgr()->getReaderDepth() > 1;
 }
 
+// Looked for back to the last start tag at most, many bytes at once.
 StRange CPlacedParser::tagBefore(std::size_t nEnd) const
 {
-    const std::string& strBytes = m_pPlaces->m_pText->bytes();
-    const void*        pBegin   = memrchr(strBytes.data(), '<', std::min(nEnd, strBytes.size())); // faster than rfind()
-    return {pBegin == nullptr ? 0 : static_cast<std::size_t>(static_cast<const char*>(pBegin) - strBytes.data()), nEnd};
+    const std::string_view             strText    = std::string_view(m_pPlaces->m_pText->bytes()).substr(0, nEnd);
+    const std::vector<StElementPlace>& lstElement = m_pPlaces->m_lstElement;
+    const std::size_t nFrom  = lstElement.empty() ? 0 : std::min(lstElement.back().stTag.nEnd, strText.size());
+    const void*       pBegin = memrchr(strText.data() + nFrom, '<', strText.size() - nFrom);
+    return {pBegin == nullptr ? 0 : static_cast<std::size_t>(static_cast<const char*>(pBegin) - strText.data()), nEnd};
 }
 
 void CPlacedParser::startElement(const XMLElementDecl& oDecl, unsigned int nUri, const XMLCh* pszPrefix,
