@@ -11,8 +11,6 @@ namespace catalog
 {
 namespace
 {
-constexpr std::size_t KEPT = 4; // besides the common file: all files of a type without capacity
-
 EnOrigin originOf(EnConfigSource enSource)
 {
     switch (enSource)
