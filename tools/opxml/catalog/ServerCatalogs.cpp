@@ -38,6 +38,7 @@ void readCatalogs(catalog::CCatalogMaker& oMaker, const std::vector<StRegistered
 {
     const CProgress                  oProgress(lstType.size());
     std::vector<catalog::StTypeName> lstName;
+    lstName.reserve(lstType.size());
     for (const StRegisteredType& stType : lstType)
         lstName.push_back({stType.strDevType, stType.strDevTypeVer});
     oMaker.expect(lstName);
