@@ -1,8 +1,7 @@
 // A whole server: its files in their order, each with the types that are made of it.
 // A type is looked at together with the first of its files, so a finding may concern a
-// file that comes later, never one that is done. Where the
-// reader of a type reads all of a document, the rules of documents hear that along, and it
-// is read once.
+// file that comes later, never one that is done. Where the reader of a type reads all of a
+// document, the rules of documents hear that along, and it is read once.
 #include "catalog/CatalogMaker.h"
 #include "lint/LintDocument.h"
 #include "lint/SenseRules.h"
